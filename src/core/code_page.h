@@ -1,0 +1,23 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace qarn {
+
+/// A text holds a character that the game file's code page does not have.
+class CodePageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Turns UTF-8 into Windows code page 1252, one byte a character. Throws CodePageError, naming the
+/// character, when the code page lacks one or the text is not UTF-8.
+std::string EncodeCodePage(std::string_view utf8);
+
+/// Turns Windows code page 1252 into UTF-8. The five bytes that the code page leaves unused become
+/// the control characters of the same number, and come back as these bytes.
+std::string DecodeCodePage(std::string_view bytes);
+
+}  // namespace qarn

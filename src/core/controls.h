@@ -1,0 +1,106 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "core/game_record.h"
+
+namespace qarn {
+
+// The controls of the game window as plain data. A handler reads and writes these; a front end
+// shows them. Places are in twips (1/1440 inch, 15 to a pixel) of the window's client area of
+// 15240 x 10440. Only what a handler changes is here: fixed places belong to the front end.
+
+struct Color {
+    std::uint32_t rgb = 0;  ///< 0xRRGGBB
+
+    friend bool operator==(Color, Color) = default;
+};
+
+struct SquareLabel {
+    std::string Caption;  ///< the codes of the groups on the square
+    Color BackColor{0xFFFFFF};
+    Color ForeColor{0x000080};
+};
+
+struct Label {
+    std::string Caption;
+    bool Visible = true;
+    int Top = 0;
+};
+
+struct Button {
+    std::string Caption;
+    bool Enabled = true;
+    bool Visible = true;
+    int Top = 0;
+};
+
+struct CheckBox {
+    std::string Caption;
+    bool Enabled = true;
+    bool Visible = false;
+    bool Value = false;  ///< ticked
+};
+
+/// A frame or shape that a handler moves about.
+struct Marker {
+    int Left = 0;
+    int Top = 0;
+    bool Visible = false;
+};
+
+struct MenuState {
+    bool Enabled = true;
+    bool Visible = true;
+    bool Checked = false;
+};
+
+struct Timer {
+    bool Enabled = false;
+};
+
+enum class Control { None, cmdMove, chkFirst };
+
+/// One set of controls, in the state in which the window is created.
+struct Controls {
+    Controls();
+
+    std::string Caption = "Thornmere Series Tactical Game";
+
+    std::array<std::array<SquareLabel, rowCount + 1>, columnCount + 1> lbl;  ///< lbl[X][Y]
+    std::array<Label, terrainKindCount> lblTerrKey;
+    std::array<Button, terrainKindCount> cmdSeeTerDet;
+    Label lblTerrainDescription{.Caption = {}, .Visible = false};
+
+    Button cmdMove{.Caption = "&Move"};
+    Button cmdAttack{.Caption = "&Attack"};
+    Button cmdDoneSel{.Caption = "Done &Selecting", .Visible = false};
+    Button cmdSquareDetails{.Caption = "Square &Information"};
+    std::array<CheckBox, checkBoxCount + 1> chkItems;  ///< 1 to 11
+
+    Label lblStatus;
+    Label lblDetailMore{.Caption = "Current Items:"};
+    Label lblSummary;
+    Marker fraQuickDetails;
+    Marker shpHighlight;
+
+    MenuState File;
+    MenuState mnuPeopleDetails;
+    MenuState mnuConvertFile{.Visible = false};
+    MenuState mnuSummary;
+    MenuState mnuTGF;
+    MenuState mnuAbout;
+
+    Timer tmrAI;
+
+    /// The control that a handler has given the focus to. The front end moves the focus there and
+    /// sets this back to None.
+    Control SetFocus = Control::None;
+};
+
+/// The place of terrain key label `code` in the window's design, in twips from the top.
+constexpr int TerrKeyTop(int code) { return 120 + 360 * code; }
+
+}  // namespace qarn

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/controls.h"
+#include "core/game_record.h"
+#include "core/ports.h"
+
+namespace qarn {
+
+/// The game window without its widgets: what is being played, the controls it shows itself with,
+/// and the ports it talks through. Handlers take it, read it and change it.
+struct Game {
+    GameRecord record;
+    Controls controls;
+    Ports ports;
+
+    bool blnOpen = false;   ///< a game stands in the window
+    bool blnEnded = false;  ///< the program has ended, or would have
+    int exitStatus = 0;     ///< the program's, once blnEnded
+};
+
+}  // namespace qarn

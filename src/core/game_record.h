@@ -1,0 +1,182 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace qarn {
+
+/// The board: columns 1 to 18 and rows 1 to 10, as a player counts them. Column 0 and row 0 exist
+/// in every per-square array and are never used.
+inline constexpr int columnCount = 18;
+inline constexpr int rowCount = 10;
+inline constexpr int peopleCount = 24;
+inline constexpr int checkBoxCount = 11;
+inline constexpr int terrainKindCount = 9;
+
+/// Terrain codes, the index into TerrainKinds.
+enum Terrain : std::uint8_t {
+    Plain,
+    Mountain,
+    Ocean,
+    Stream,
+    Sand,
+    Swamp,
+    Forest,
+    Fortress,
+    Abbey,
+};
+
+/// One group: a character, a band, or a transport piece.
+struct PeopleRecord {
+    std::string Name;
+    std::string Code = "   ";    ///< exactly 3 characters, padded with blanks
+    std::uint8_t Side = 0;       ///< 1 or 2; 0 for a transport piece
+    std::uint8_t LocationX = 0;  ///< 1 to 18; 0 = no longer on the board
+    std::uint8_t LocationY = 0;
+    std::uint8_t Mobility = 0;
+    std::uint8_t Attack = 0;
+    std::uint8_t Defense = 0;
+    std::int16_t Ability1 = 0;  ///< three digits, read one by one; 0 = none
+    std::int16_t Ability2 = 0;
+};
+
+/// What one kind of terrain costs and gives.
+struct TerrainKindRecord {
+    std::uint8_t Mobility = 0;  ///< mobility units of a step onto it
+    std::uint8_t Attack = 0;
+    std::uint8_t Defense = 0;     ///< defense units it adds to a group defending on it
+    bool DirectAttack = false;    ///< may be attacked by stepping into it
+    bool IndirectAttack = false;  ///< may be attacked with the Attack command (shown only)
+    bool NeedsBoat = false;
+    std::string Comments;
+};
+
+/// The action that the computer is replaying through the window's controls.
+struct ActionRecord {
+    bool blnAIBusy = false;
+    std::uint8_t bytAIStartX = 0, bytAIStartY = 0;
+    std::vector<std::uint8_t> bytAIPath;  ///< direction codes, used from index 1
+    std::uint8_t bytAIPathLength = 0;
+    std::uint8_t bytAICurrentX = 0, bytAICurrentY = 0;
+    std::uint8_t bytAIStep = 0;       ///< stage of the replay, 1 to 8
+    std::uint8_t bytAIPathIndex = 0;  ///< the next path step, from 1
+    std::uint8_t bytAIDeadChoice = 0;
+};
+
+/// Everything about the game in progress. A load starts from an empty record, so that nothing of an
+/// earlier game survives. Arrays of the two sides, of people, check boxes and squares are used
+/// from index 1.
+struct GameRecord {
+    std::string strGameName;  ///< the file's name without its folder
+    std::string strGamePath;
+    std::uint8_t bytScenario = 0;  ///< 1 to 12; 0 = not known
+
+    std::array<std::string, 3> strPlayerName;
+    std::array<bool, 3> blnComputer{};
+    std::array<std::string, 3> strVictoryText;
+    std::array<std::uint8_t, 3> bytPeopleLeft{};
+    std::uint8_t bytTurn = 0;  ///< 1 or 2; 0 until the first side of a new game has been drawn
+
+    std::array<std::array<std::uint8_t, rowCount + 1>, columnCount + 1> bytTerrain{};
+    std::array<TerrainKindRecord, terrainKindCount> TerrainKinds;
+    std::array<PeopleRecord, peopleCount + 1> People;
+
+    std::uint8_t bytCurrentX = 0, bytCurrentY = 0;  ///< the square last clicked
+    std::uint8_t bytClickX = 0, bytClickY = 0;      ///< the click last given to a move or an attack
+
+    bool blnDetailsMode = false;
+    bool blnMoveMode = false;
+    bool blnAttackMode = false;
+    bool blnEnding = false;   ///< the program ends once the window has closed
+    bool blnLeaving = false;  ///< the window closes to return to the start window
+
+    /// The people behind chkItems(1..11) while these are shown.
+    std::array<std::uint8_t, checkBoxCount + 1> bytListedPeople{};
+    std::uint8_t bytListedCount = 0;
+    /// The people confirmed with cmdDoneSel; entries 1 to bytSelectedCount are used.
+    std::array<std::uint8_t, checkBoxCount + 1> bytSelectedPeople{};
+    std::uint8_t bytSelectedCount = 0;
+
+    // The move in progress.
+    bool blnMoveUnderWay = false;  ///< a starting square has been accepted
+    bool blnChoosing = false;      ///< the check boxes are shown for the starting square
+    bool blnMoveFinished = false;  ///< ended with a join or a direct attack: further clicks ignored
+    std::uint8_t bytStartX = 0, bytStartY = 0;
+    std::uint8_t bytGroupX = 0, bytGroupY = 0;
+    std::uint8_t bytMobilityLeft = 0;
+    bool blnMobilitySet = false;  ///< bytMobilityLeft has been filled for this move
+    std::uint8_t bytStepCost = 0;
+
+    // The attack in progress.
+    bool blnAttackerChosen = false;  ///< the next click names the target
+    bool blnTargetPhase = false;
+    std::uint8_t bytAnchorX = 0, bytAnchorY = 0;  ///< the attacking square
+    std::uint8_t bytLastX = 0, bytLastY = 0;      ///< the square of the last accepted click
+    std::uint8_t bytAttackUnits = 0;
+    std::uint8_t bytDefenseUnits = 0;
+    std::uint8_t bytThreshold = 0;
+    bool blnAttackWon = false;
+    bool blnResetMoveButton = false;
+    bool blnCasualtyPending = false;  ///< chkItems lists who may have died
+
+    // What details mode puts back when it is left.
+    std::string strRememberedStatus;
+    bool blnRememberedMove = false;
+    bool blnRememberedAttack = false;
+    bool blnRememberedDoneSel = false;
+
+    ActionRecord Action;
+};
+
+/// The people of one square.
+struct SquareList {
+    std::uint8_t bytNumberofPeople = 0;  ///< how many are listed
+    std::uint8_t bytTotalPeople = 0;     ///< how many of them are not transport pieces
+    std::array<std::uint8_t, peopleCount + 1> bytPeopleNumbers{};  ///< used from index 1
+
+    /// The listed entries, in roster order.
+    std::span<const std::uint8_t> People() const {
+        return {bytPeopleNumbers.data() + 1, bytNumberofPeople};
+    }
+};
+
+/// Mobility, attack and defense added up.
+struct Strength {
+    std::uint8_t Mobility = 0;
+    std::uint8_t Attack = 0;
+    std::uint8_t Defense = 0;
+};
+
+/// Lists, in roster order, every entry that stands on the square.
+SquareList LocationOfPeople(const GameRecord& record, int LocationX, int LocationY);
+
+/// The confirmed people, bytSelectedPeople 1 to bytSelectedCount.
+std::span<const std::uint8_t> Selection(const GameRecord& record);
+
+/// Adds the strengths of the numbered people to `totals`. Throws EightBitOverflow, and leaves
+/// `totals` as it was, when a sum passes 255.
+void SumStrength(const GameRecord& record, std::span<const std::uint8_t> people, Strength& totals);
+
+/// The three-character codes of the numbered people, padding included.
+std::vector<std::string> GetPeopleCodes(const GameRecord& record,
+                                        std::span<const std::uint8_t> people);
+
+/// The names of the numbered people.
+std::vector<std::string> GetPeopleNames(const GameRecord& record,
+                                        std::span<const std::uint8_t> people);
+
+/// True when the entry stands on the board.
+inline bool OnBoard(const PeopleRecord& people) { return people.LocationX != 0; }
+
+inline bool IsTransport(const PeopleRecord& people) { return people.Side == 0; }
+
+/// The other side: 2 for 1, and 1 for anything else.
+inline std::uint8_t OtherSide(std::uint8_t side) { return side == 1 ? 2 : 1; }
+
+/// True when the computer plays the side to move.
+bool IsComputersTurn(const GameRecord& record);
+
+}  // namespace qarn

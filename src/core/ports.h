@@ -1,0 +1,87 @@
+#pragma once
+
+#include <string>
+
+namespace qarn {
+
+// What leaves the program. Each front end implements these; the handlers know nothing else of the
+// world.
+
+enum class Buttons { OK, YesNo, RetryCancel };
+enum class Answer { OK, Yes, No, Retry, Cancel };
+
+struct MessageBox {
+    std::string Title;  ///< empty: the box has no title of its own and bears the program's name
+    std::string Text;
+    Buttons Offered = Buttons::OK;
+};
+
+/// Modal boxes and prompts. Each call returns when the person has answered.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+
+    virtual Answer Show(const MessageBox& box) = 0;
+
+    /// Asks for a file to save to; `path` is where the dialog starts. Gives an absolute path, or an
+    /// empty string when the person cancelled.
+    virtual std::string AskSaveFileName(const std::string& path) = 0;
+
+    /// A box with the text alone and OK.
+    void Tell(const std::string& text) { Show({.Title = {}, .Text = text}); }
+};
+
+/// Uniform random numbers.
+class RandomNumbers {
+public:
+    virtual ~RandomNumbers() = default;
+
+    /// Starts a new sequence, from the clock unless a front end was told otherwise.
+    virtual void Seed() = 0;
+
+    /// The next number of the sequence, at least 0 and below 1.
+    virtual double Next() = 0;
+};
+
+/// The viewer of the help file.
+class HelpViewer {
+public:
+    virtual ~HelpViewer() = default;
+
+    /// Opens the help file at the topic, at its start page when that is empty, and returns at once.
+    virtual void ShowHelp(const std::string& strTopic) = 0;
+};
+
+/// The settings that outlive the program, one string a place. A place is told by application,
+/// section and key.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+
+    /// The stored value, or `defaultValue` when there is none or it cannot be read.
+    virtual std::string Read(const std::string& application, const std::string& section,
+                             const std::string& key, const std::string& defaultValue) = 0;
+
+    /// Stores a value. Throws std::runtime_error with the reason when it cannot.
+    virtual void Write(const std::string& application, const std::string& section,
+                       const std::string& key, const std::string& value) = 0;
+
+    /// The login name of the person who runs the program.
+    virtual std::string LoginName() = 0;
+};
+
+/// The ports of one front end.
+struct Ports {
+    Dialogs& dialogs;
+    RandomNumbers& random;
+    HelpViewer& help;
+    SettingsStore& settings;
+};
+
+/// Thrown to end the program at once, from wherever a rule stands, so that nothing after the end
+/// of a game still runs. RunEvent catches it.
+struct ProgramEnd {
+    int exitStatus = 0;
+};
+
+}  // namespace qarn
