@@ -1,0 +1,140 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+
+#include "core/game_record.h"
+
+namespace qarn {
+
+/// One roster entry as the scenario's table gives it. Its place in the roster is part of the game
+/// file's form.
+struct RosterEntry {
+    std::string_view Name;
+    std::string_view Code;  ///< one to three characters
+    std::uint8_t Side = 0;
+    std::uint8_t LocationX = 0;
+    std::uint8_t LocationY = 0;
+    std::uint8_t Mobility = 0;
+    std::uint8_t Attack = 0;
+    std::uint8_t Defense = 0;
+    std::int16_t Ability1 = 0;
+    std::int16_t Ability2 = 0;
+};
+
+/// How a scenario sets up its landmark kinds and their rows of the terrain key.
+enum class LandmarkSteps {
+    None,
+    CastleVennick,
+    Abbey,
+    Stonemantle,
+    Gallowrock,
+    StonemantleAndAbbey,
+    OstrelleAndAbbey,
+};
+
+struct Square {
+    std::uint8_t X = 0;
+    std::uint8_t Y = 0;
+};
+
+/// Up to six squares in a fixed order.
+class LandmarkSquares {
+public:
+    constexpr LandmarkSquares() = default;
+    constexpr LandmarkSquares(std::initializer_list<Square> squares) : count_(squares.size()) {
+        std::copy(squares.begin(), squares.end(), squares_.begin());
+    }
+
+    constexpr std::size_t size() const { return count_; }
+    constexpr const Square* begin() const { return squares_.data(); }
+    constexpr const Square* end() const { return squares_.data() + count_; }
+
+private:
+    std::array<Square, 6> squares_{};
+    std::size_t count_ = 0;
+};
+
+/// The whole starting position of one scenario, and its story.
+struct ScenarioData {
+    std::array<std::string_view, rowCount> Board;  ///< 18 terrain codes a row, row 1 first
+    std::array<RosterEntry, peopleCount> Roster;   ///< groups, then transport pieces
+    LandmarkSteps landmarkSteps = LandmarkSteps::None;
+    LandmarkSquares landmarkSquares;  ///< those whose terrain a saved game carries, in its order
+    std::array<std::uint8_t, 2> PeopleLeft;
+    std::array<std::string_view, 2> VictoryText;
+    std::string_view Background;  ///< the situation at the start, in one to three sentences
+};
+
+constexpr bool IsOnBoard(int X, int Y) {
+    return X >= 1 && X <= columnCount && Y >= 1 && Y <= rowCount;
+}
+
+constexpr bool IsSoundBoard(const ScenarioData& data) {
+    return std::all_of(data.Board.begin(), data.Board.end(), [](std::string_view row) {
+        return row.size() == columnCount && row.find_first_not_of("012345678") == row.npos;
+    });
+}
+
+constexpr bool IsSoundGroup(const RosterEntry& entry) {
+    const bool plain = entry.Ability1 == 0 && entry.Ability2 == 0;
+    const bool climbs = entry.Ability1 == 961 && entry.Ability2 == 602;
+    const bool flies = entry.Ability1 == 811 && entry.Ability2 == 0;
+    return entry.Side <= 2 && entry.Mobility > 0 && entry.Attack > 0 && entry.Defense > 0 &&
+           (plain || climbs || flies);
+}
+
+constexpr bool IsSoundEntry(const RosterEntry& entry) {
+    const bool sound = !entry.Name.empty() && !entry.Code.empty() && entry.Code.size() <= 3 &&
+                       IsOnBoard(entry.LocationX, entry.LocationY);
+    if (entry.Side != 0) return sound && IsSoundGroup(entry);
+    return sound && ((entry.Name == "Boat" && entry.Code == "BT") ||
+                     (entry.Name == "Cart" && entry.Code == "CT"));
+}
+
+/// Groups stand before transport pieces: the recount of the groups left stops at the first of
+/// these.
+constexpr bool GroupsComeFirst(const ScenarioData& data) {
+    return std::is_partitioned(data.Roster.begin(), data.Roster.end(),
+                               [](const RosterEntry& entry) { return entry.Side != 0; });
+}
+
+constexpr bool CodesAreUnique(const ScenarioData& data) {
+    for (const RosterEntry& entry : data.Roster) {
+        const auto same =
+            std::count_if(data.Roster.begin(), data.Roster.end(),
+                          [&](const RosterEntry& other) { return other.Code == entry.Code; });
+        if (same > 1 && entry.Name != "Boat") return false;
+    }
+    return true;
+}
+
+constexpr bool CountsAreRight(const ScenarioData& data) {
+    for (std::size_t side = 1; side <= 2; ++side) {
+        const auto count =
+            std::count_if(data.Roster.begin(), data.Roster.end(),
+                          [&](const RosterEntry& entry) { return entry.Side == side; });
+        if (count != data.PeopleLeft[side - 1]) return false;
+    }
+    return true;
+}
+
+constexpr bool LandmarksAreRight(const ScenarioData& data) {
+    return std::all_of(
+        data.landmarkSquares.begin(), data.landmarkSquares.end(), [&](const Square& square) {
+            return IsOnBoard(square.X, square.Y) && data.Board[square.Y - 1u][square.X - 1u] >= '7';
+        });
+}
+
+constexpr bool IsSound(const ScenarioData& data) {
+    return IsSoundBoard(data) &&
+           std::all_of(data.Roster.begin(), data.Roster.end(), IsSoundEntry) &&
+           GroupsComeFirst(data) && CodesAreUnique(data) && CountsAreRight(data) &&
+           LandmarksAreRight(data) && !data.VictoryText[0].empty() &&
+           !data.VictoryText[1].empty() && !data.Background.empty();
+}
+
+}  // namespace qarn
