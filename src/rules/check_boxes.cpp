@@ -1,0 +1,34 @@
+#include "rules/check_boxes.h"
+
+#include <algorithm>
+
+namespace qarn {
+
+void ListInCheckBoxes(Game& game, const SquareList& people, bool ticked) {
+    GameRecord& record = game.record;
+    HideCheckBoxes(game.controls);
+    record.bytListedCount =
+        std::min(people.bytNumberofPeople, static_cast<std::uint8_t>(checkBoxCount));
+    for (std::size_t box = 1; box <= record.bytListedCount; ++box) {
+        const std::uint8_t i = people.bytPeopleNumbers[box];
+        record.bytListedPeople[box] = i;
+        game.controls.chkItems[box] = {
+            .Caption = record.People[i].Code, .Enabled = true, .Visible = true, .Value = ticked};
+    }
+    game.controls.cmdDoneSel.Visible = true;
+}
+
+std::vector<std::uint8_t> TickedPeople(const Game& game) {
+    std::vector<std::uint8_t> ticked;
+    for (std::size_t box = 1; box <= checkBoxCount; ++box) {
+        const CheckBox& chkItem = game.controls.chkItems[box];
+        if (chkItem.Visible && chkItem.Value) ticked.push_back(game.record.bytListedPeople[box]);
+    }
+    return ticked;
+}
+
+void HideCheckBoxes(Controls& controls) {
+    for (CheckBox& chkItem : controls.chkItems) chkItem.Visible = false;
+}
+
+}  // namespace qarn
