@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "core/ports.h"
+
+namespace qarn {
+
+/// The settings store of a Linux desktop: one file an application in the person's configuration
+/// folder, read afresh at every use.
+class SettingsFile : public SettingsStore {
+public:
+    std::string Read(const std::string& application, const std::string& section,
+                     const std::string& key, const std::string& defaultValue) override;
+    void Write(const std::string& application, const std::string& section, const std::string& key,
+               const std::string& value) override;
+    std::string LoginName() override;
+};
+
+}  // namespace qarn
