@@ -1,0 +1,91 @@
+#include "window/board_clicks.h"
+
+#include "core/details_mode.h"
+#include "core/eight_bit.h"
+#include "rules/combat.h"
+#include "rules/movement.h"
+
+namespace qarn {
+namespace {
+
+// Consecutive equal names are told once, with their number.
+std::string Enumerate(const std::vector<std::string>& names) {
+    std::string text;
+    for (std::size_t first = 0; first < names.size();) {
+        std::size_t next = first + 1;
+        while (next < names.size() && names[next] == names[first]) ++next;
+        if (first > 0) text += ", ";
+        text += names[first];
+        if (next - first > 1) text += " (" + std::to_string(next - first) + ")";
+        first = next;
+    }
+    return text;
+}
+
+void TakeClick(GameRecord& record) {
+    record.bytClickX = record.bytCurrentX;
+    record.bytClickY = record.bytCurrentY;
+}
+
+}  // namespace
+
+void lblX_Click(Game& game, int X, int Index) {
+    game.record.bytCurrentX = EightBit(X, "column of the square");
+    game.record.bytCurrentY = EightBit(Index, "row of the square");
+    SquareClicked(game);
+}
+
+void SquareClicked(Game& game) {
+    GameRecord& record = game.record;
+    if (record.blnDetailsMode) {
+        DescribeSquare(game, record.bytCurrentX, record.bytCurrentY);
+        record.bytCurrentX = record.bytClickX;
+        record.bytCurrentY = record.bytClickY;
+    } else if (record.blnCasualtyPending) {
+        return;  // the player picks who died before anything else
+    } else if (record.blnMoveMode) {
+        TakeClick(record);
+        MoveClick(game, false);
+    } else if (record.blnAttackMode) {
+        TakeClick(record);
+        AttackResult bytResult = AttackResult::Won;
+        AttackSquare(game, false, record.bytCurrentX, record.bytCurrentY, bytResult);
+    }
+}
+
+void DescribeSquare(Game& game, int X, int Y) {
+    Controls& controls = game.controls;
+    const SquareList list = LocationOfPeople(game.record, X, Y);
+    Strength sums;
+    SumStrength(game.record, list.People(), sums);
+
+    controls.lblDetailMore.Caption =
+        "Current Items: " + Enumerate(GetPeopleNames(game.record, list.People()));
+    if (!controls.mnuSummary.Checked) return;
+    controls.lblSummary.Caption = "Location: (" + std::to_string(X) + ", " + std::to_string(Y) +
+                                  ")\nMobility: " + std::to_string(sums.Mobility) +
+                                  "\nAttack: " + std::to_string(sums.Attack) +
+                                  "\nDefense: " + std::to_string(sums.Defense);
+    PositionQuickInfo(game);
+}
+
+void PositionQuickInfo(Game& game) {
+    const int X = game.record.bytCurrentX;
+    const int Y = game.record.bytCurrentY;
+    Marker& frame = game.controls.fraQuickDetails;
+    frame.Left = X >= 17 ? 720 * X - 2180 : 720 * X + 130;
+    frame.Top = Y == 10 ? 960 * Y - 2060 : 960 * Y + 130;
+    frame.Visible = true;
+}
+
+void mnuPeopleDetails_Click(Game& game) {
+    if (game.record.blnDetailsMode) {
+        LeaveDetailsMode(game);
+    } else {
+        EnterDetailsMode(game);
+    }
+}
+
+void cmdSquareDetails_Click(Game& game) { mnuPeopleDetails_Click(game); }
+
+}  // namespace qarn

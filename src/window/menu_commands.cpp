@@ -1,0 +1,133 @@
+#include "window/menu_commands.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include "scenarios/catalogue.h"
+#include "shell/item_details.h"
+#include "shell/user_settings.h"
+#include "window/board_clicks.h"
+#include "window/load_game.h"
+#include "window/save_game.h"
+
+namespace qarn {
+namespace {
+
+constexpr std::string_view fileMenu = "&File";
+constexpr std::string_view detailsMenu = "&Details";
+constexpr std::string_view toolsMenu = "&Tools";
+constexpr std::string_view optionsMenu = "&Options";
+constexpr std::string_view helpMenu = "&Help";
+
+constexpr std::array menuCommands{
+    MenuCommand{fileMenu, "New", "&New...", "Ctrl+N", New_Click},
+    MenuCommand{fileMenu, "Open", "&Open...", "Ctrl+O", Open_Click},
+    MenuCommand{fileMenu, "mnuSave", "&Save", "Ctrl+S", mnuSave_Click},
+    MenuCommand{fileMenu, "mnuSaveAs", "Save &As...", "F12", mnuSaveAs_Click},
+    MenuCommand{fileMenu, "", "", "", nullptr},
+    MenuCommand{fileMenu, "mnuExit", "E&xit", "Ctrl+X", mnuExit_Click},
+    MenuCommand{detailsMenu, "mnuPeopleDetails", "&Details", "Ctrl+D", mnuPeopleDetails_Click,
+                &Controls::mnuPeopleDetails},
+    MenuCommand{detailsMenu, "mnuItemDetails", "&Item Details", "Ctrl+I", mnuItemDetails_Click},
+    MenuCommand{detailsMenu, "mnuSummaryTerrain", "Summary &Terrain Details", "Ctrl+T",
+                mnuSummaryTerrain_Click},
+    MenuCommand{toolsMenu, "mnuConvertFile", "&Convert File", "", mnuConvertFile_Click,
+                &Controls::mnuConvertFile},
+    MenuCommand{optionsMenu, "mnuSummary", "&Display Summary", "", mnuSummary_Click,
+                &Controls::mnuSummary},
+    MenuCommand{helpMenu, "mnuGetStarted", "&Getting Started", "", mnuGetStarted_Click},
+    MenuCommand{helpMenu, "mnuHelp", "&Help", "F1", mnuHelp_Click},
+};
+
+bool ConfirmsLeaving(Game& game) {
+    return game.ports.dialogs.Show({.Title = "Leave Game",
+                                    .Text = "Are you sure you want to leave this game?",
+                                    .Offered = Buttons::YesNo}) == Answer::Yes;
+}
+
+void LeaveForStartWindow(Game& game) {
+    if (!ConfirmsLeaving(game)) return;
+    game.record.blnLeaving = true;
+    Form_Unload(game);
+}
+
+bool AsksWhetherRightScenario(Game& game) {
+    return game.ports.dialogs.Show({.Title = "Convert To Right Scenario",
+                                    .Text = "Did this convert to the right scenario?",
+                                    .Offered = Buttons::YesNo}) == Answer::Yes;
+}
+
+}  // namespace
+
+void New_Click(Game& game) { LeaveForStartWindow(game); }
+
+void Open_Click(Game& game) { LeaveForStartWindow(game); }
+
+void mnuSave_Click(Game& game) { TrySaveGame(game); }
+
+void mnuSaveAs_Click(Game& game) {
+    GameRecord& record = game.record;
+    const std::string path = game.ports.dialogs.AskSaveFileName(record.strGamePath);
+    if (path.empty() || !IsKnownScenario(record)) return;
+
+    const std::string oldName = record.strGameName;
+    const std::string oldPath = record.strGamePath;
+    record.strGameName = std::filesystem::path(path).filename();
+    record.strGamePath = path;
+    if (!TrySaveGame(game)) {
+        record.strGameName = oldName;
+        record.strGamePath = oldPath;
+        return;
+    }
+    ComposeCaption(game);
+    AppendPlayersToCaption(game);
+}
+
+void mnuExit_Click(Game& game) { Form_Unload(game); }
+
+void mnuItemDetails_Click(Game& game) { ItemDetails(game); }
+
+void mnuSummaryTerrain_Click(Game& game) { game.ports.help.ShowHelp("Terrain Info.htm"); }
+
+void mnuConvertFile_Click(Game& game) {
+    GameRecord& record = game.record;
+    if (!IsKnownScenario(record)) return;
+    do {
+        const std::uint8_t scenario = record.bytScenario;
+        record.bytScenario =
+            scenario >= scenarioCount ? 1 : static_cast<std::uint8_t>(scenario + 1);
+        if (!TrySaveGame(game)) {
+            record.bytScenario = scenario;
+            return;
+        }
+        Form_Load(game, record.strGamePath);
+    } while (!AsksWhetherRightScenario(game));
+}
+
+void mnuSummary_Click(Game& game) {
+    game.controls.mnuSummary.Checked = !game.controls.mnuSummary.Checked;
+    SaveSummarySetting(game, game.controls.mnuSummary.Checked);
+}
+
+void mnuGetStarted_Click(Game& game) { game.ports.help.ShowHelp("GettingStarted.htm"); }
+
+void mnuHelp_Click(Game& game) { game.ports.help.ShowHelp(""); }
+
+std::span<const MenuCommand> MenuCommands() { return menuCommands; }
+
+const MenuCommand* FindMenuCommand(std::string_view name) {
+    const auto found = std::find_if(
+        menuCommands.begin(), menuCommands.end(),
+        [&](const MenuCommand& command) { return !name.empty() && command.Name == name; });
+    return found == menuCommands.end() ? nullptr : &*found;
+}
+
+bool CanChoose(const Controls& controls, const MenuCommand& command) {
+    if (command.Menu == fileMenu && !controls.File.Enabled) return false;
+    if (command.State == nullptr) return true;
+    const MenuState& state = controls.*command.State;
+    return state.Enabled && state.Visible;
+}
+
+}  // namespace qarn

@@ -1,0 +1,93 @@
+#include "window/save_game.h"
+
+#include <system_error>
+
+#include "core/file_store.h"
+#include "core/game_file.h"
+#include "scenarios/catalogue.h"
+#include "scenarios/setup.h"
+#include "window/load_game.h"
+
+namespace qarn {
+namespace {
+
+std::string GameText(const GameRecord& record) {
+    GameFileWriter file;
+    std::string code;
+    ScenarioCode(record.bytScenario, code);
+    file.WriteText(code);
+    for (std::size_t side = 1; side <= 2; ++side) {
+        file.WritePlayer({record.strPlayerName[side], record.blnComputer[side]});
+    }
+    file.WriteNumber(record.bytTurn);
+    file.WriteNumber(record.bytPeopleLeft[1]);
+    file.WriteNumber(record.bytPeopleLeft[2]);
+    for (std::size_t i = 1; i <= peopleCount; ++i) {
+        file.WriteNumber(record.People[i].LocationX);
+        file.WriteNumber(record.People[i].LocationY);
+    }
+    const LandmarkSquares& landmarks = DataOfScenario(record.bytScenario).landmarkSquares;
+    file.WriteNumber(static_cast<int>(landmarks.size()));
+    for (const Square& square : landmarks) {
+        file.WriteNumber(square.X);
+        file.WriteNumber(square.Y);
+        file.WriteNumber(record.bytTerrain[square.X][square.Y]);
+    }
+    return file.Text();
+}
+
+std::string Reason(const Game& game, const SaveError& error) {
+    return "The game can not be saved. " + std::string(error.what()) + "\n" +
+           game.record.strGamePath;
+}
+
+bool SavesOrLeavesWithoutSaving(Game& game) {
+    try {
+        SaveGame(game);
+        return true;
+    } catch (const SaveError& error) {
+        const Answer answer = game.ports.dialogs.Show(
+            {.Title = "Save",
+             .Text = Reason(game, error) + "\nDo you want to leave without saving?",
+             .Offered = Buttons::YesNo});
+        return answer == Answer::Yes;
+    }
+}
+
+}  // namespace
+
+void SaveGame(const Game& game) {
+    if (!IsKnownScenario(game.record)) return;
+    const std::string text = GameText(game.record);
+    try {
+        ReplaceFile(game.record.strGamePath, text);
+    } catch (const std::system_error& error) {
+        throw SaveError(error.code().message() + ".");
+    }
+}
+
+bool TrySaveGame(Game& game) {
+    try {
+        SaveGame(game);
+        return true;
+    } catch (const SaveError& error) {
+        game.ports.dialogs.Show({.Title = "Save", .Text = Reason(game, error)});
+        return false;
+    }
+}
+
+void Form_Unload(Game& game) {
+    GameRecord& record = game.record;
+    record.blnEnding = !record.blnLeaving;
+    if (!SavesOrLeavesWithoutSaving(game)) {
+        record.blnEnding = false;
+        record.blnLeaving = false;
+        return;
+    }
+    if (record.blnEnding) throw ProgramEnd{};
+    record.blnLeaving = false;
+    game.controls.tmrAI.Enabled = false;
+    game.blnOpen = false;
+}
+
+}  // namespace qarn
