@@ -46,6 +46,8 @@ char32_t DecodeUtf8(std::string_view character) {
         }
         value = (value << 6) | (static_cast<std::uint8_t>(next) & 0x3Fu);
     }
+    const bool longerThanNeeded = character.size() == 3 && value < 0x800;
+    if (longerThanNeeded) throw CodePageError("The text is not valid UTF-8.");
     return value;
 }
 
@@ -82,6 +84,19 @@ std::string EncodeCodePage(std::string_view utf8) {
         utf8.remove_prefix(length);
     }
     return bytes;
+}
+
+bool CanStore(std::string_view utf8) {
+    const auto isControl = [](char character) {
+        return static_cast<std::uint8_t>(character) < 0x20 || character == 0x7F;
+    };
+    if (std::any_of(utf8.begin(), utf8.end(), isControl)) return false;
+    try {
+        EncodeCodePage(utf8);
+        return true;
+    } catch (const CodePageError&) {
+        return false;
+    }
 }
 
 std::string DecodeCodePage(std::string_view bytes) {

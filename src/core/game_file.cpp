@@ -108,8 +108,10 @@ void GameFileWriter::WritePlayer(const Player& player) {
     WriteText(name + (player.blnComputer ? "True" : "False"));
 }
 
-// The blank in front is the place of the sign.
-void GameFileWriter::WriteNumber(int number) { WriteText(" " + std::to_string(number) + " "); }
+void GameFileWriter::WriteNumber(int number) {
+    constexpr char placeOfTheSign = ' ';
+    WriteText(std::string(1, placeOfTheSign).append(std::to_string(number)).append(" "));
+}
 
 std::string NewGameText(std::string_view code, const std::array<Player, 2>& players) {
     GameFileWriter file;

@@ -54,11 +54,17 @@ struct TerrainKindRecord {
     std::string Comments;
 };
 
+/// The most steps that a path without detours has: from one corner of the board to the opposite one.
+inline constexpr int longestPath = columnCount - 1 + rowCount - 1;
+
+/// The steps of one path, used from index 1.
+using PathSteps = std::array<std::uint8_t, longestPath + 1>;
+
 /// The action that the computer is replaying through the window's controls.
 struct ActionRecord {
     bool blnAIBusy = false;
     std::uint8_t bytAIStartX = 0, bytAIStartY = 0;
-    std::vector<std::uint8_t> bytAIPath;  ///< direction codes, used from index 1
+    PathSteps bytAIPath{};  ///< direction codes, used at indexes 1 to bytAIPathLength
     std::uint8_t bytAIPathLength = 0;
     std::uint8_t bytAICurrentX = 0, bytAICurrentY = 0;
     std::uint8_t bytAIStep = 0;       ///< stage of the replay, 1 to 8

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace qarn {
@@ -9,11 +10,13 @@ namespace qarn {
 
 enum class Buttons { OK, YesNo, RetryCancel };
 enum class Answer { OK, Yes, No, Retry, Cancel };
+enum class Icon { None, Information };
 
 struct MessageBox {
     std::string Title;  ///< empty: the box has no title of its own and bears the program's name
     std::string Text;
     Buttons Offered = Buttons::OK;
+    Icon Shown = Icon::None;
 };
 
 /// Modal boxes and prompts. Each call returns when the person has answered.
@@ -26,6 +29,15 @@ public:
     /// Asks for a file to save to; `path` is where the dialog starts. Gives an absolute path, or an
     /// empty string when the person cancelled.
     virtual std::string AskSaveFileName(const std::string& path) = 0;
+
+    /// Asks for an existing game file; `folder` is where the dialog starts. Gives an absolute path,
+    /// or an empty string when the person cancelled.
+    virtual std::string AskOpenFileName(const std::string& folder) = 0;
+
+    /// Asks for one line of text in a field that holds `prefilled` at first. Gives an empty string
+    /// when the person cancelled.
+    virtual std::string InputPrompt(const std::string& text, const std::string& title,
+                                    const std::string& prefilled) = 0;
 
     /// A box with the text alone and OK.
     void Tell(const std::string& text) { Show({.Title = {}, .Text = text}); }
@@ -70,12 +82,43 @@ public:
     virtual std::string LoginName() = 0;
 };
 
+/// The file types that the desktop knows: keys, which hold one text each, their default value. A
+/// key is named by its path from the class root, with "\\" between its parts.
+class FileTypeRegistry {
+public:
+    virtual ~FileTypeRegistry() = default;
+
+    /// Creates the key, or opens it when it exists. Gives false when it cannot.
+    virtual bool CreateKey(const std::string& key) = 0;
+
+    /// Sets the default value of a key that was created. Gives false when it cannot.
+    virtual bool SetDefaultValue(const std::string& key, const std::string& value) = 0;
+
+    /// The default value of a key; none when there is no such key or it has no value.
+    virtual std::optional<std::string> DefaultValue(const std::string& key) = 0;
+};
+
+/// Folders, as absolute paths.
+struct ProgramFolders {
+    std::string program;   ///< the one that the program itself stands in
+    std::string userData;  ///< the person's own for this program's files; need not exist yet
+};
+
+/// What the desktop keeps for the program, whatever its front end.
+struct DesktopPorts {
+    SettingsStore& settings;
+    FileTypeRegistry& fileTypes;
+    ProgramFolders folders;
+};
+
 /// The ports of one front end.
 struct Ports {
     Dialogs& dialogs;
     RandomNumbers& random;
     HelpViewer& help;
     SettingsStore& settings;
+    FileTypeRegistry& fileTypes;
+    ProgramFolders folders;
 };
 
 /// Thrown to end the program at once, from wherever a rule stands, so that nothing after the end

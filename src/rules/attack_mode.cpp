@@ -2,9 +2,10 @@
 
 #include "core/details_mode.h"
 #include "core/turn_cycle.h"
+#include "rules/check_boxes.h"
+#include "rules/end_move.h"
 
 namespace qarn {
-namespace {
 
 void EnterAttackMode(Game& game) {
     Controls& controls = game.controls;
@@ -18,6 +19,17 @@ void EnterAttackMode(Game& game) {
     controls.cmdMove.Enabled = false;
     controls.File.Enabled = false;
     game.record.blnMoveMode = false;
+}
+
+namespace {
+
+// A move under way disables the button, but a person may have it back from details mode that was on
+// when the computer began its move.
+void AbandonMove(Game& game) {
+    EndMove(game.record);
+    HideCheckBoxes(game.controls);
+    game.controls.cmdDoneSel.Visible = false;
+    game.controls.cmdMove.Caption = "&Move";
 }
 
 void LeaveAttackMode(Game& game) {
@@ -40,6 +52,7 @@ void cmdAttack_Click(Game& game) {
     if (game.record.blnAttackMode) {
         LeaveAttackMode(game);
     } else {
+        AbandonMove(game);
         EnterAttackMode(game);
     }
 }

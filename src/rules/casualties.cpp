@@ -66,16 +66,19 @@ void ConfirmCasualty(Game& game) {
 }
 
 std::uint8_t ChooseDeadAnimal(const GameRecord& record, int X, int Y) {
-    const SquareList list = LocationOfPeople(record, X, Y);
-    std::uint8_t choice = 1;
+    return ChooseDeadAnimal(record, LocationOfPeople(record, X, Y).People());
+}
+
+std::uint8_t ChooseDeadAnimal(const GameRecord& record, std::span<const std::uint8_t> list) {
+    std::size_t choice = 1;
     int lowest = 100;
-    for (std::uint8_t place = 1; place <= list.bytNumberofPeople; ++place) {
-        const PeopleRecord& people = record.People[list.bytPeopleNumbers[place]];
+    for (std::size_t place = 1; place <= list.size(); ++place) {
+        const PeopleRecord& people = record.People.at(list[place - 1]);
         if (IsTransport(people) || people.Attack + people.Defense >= lowest) continue;
         lowest = people.Attack + people.Defense;
         choice = place;
     }
-    return choice;
+    return static_cast<std::uint8_t>(choice);
 }
 
 void Eliminate(Game& game, std::uint8_t i) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "core/game.h"
 
@@ -17,6 +18,9 @@ void ConfirmCasualty(Game& game);
 /// The computer's casualty: the place, counted from 1 among the people of the square, of the
 /// character with the smallest attack and defense together; 1 when there is none below 100.
 std::uint8_t ChooseDeadAnimal(const GameRecord& record, int X, int Y);
+
+/// The same among the people of a list, of which each entry is one place.
+std::uint8_t ChooseDeadAnimal(const GameRecord& record, std::span<const std::uint8_t> list);
 
 /// Takes roster entry i off the board and shows the square where it stood again.
 void Eliminate(Game& game, std::uint8_t i);

@@ -96,42 +96,45 @@ void ChooseStart(Game& game) {
 
 // ---- The selection ----
 
-bool Includes(const GameRecord& record, const std::vector<std::uint8_t>& people,
-              std::string_view name) {
-    return std::any_of(people.begin(), people.end(),
+void SelectTicked(Game& game) {
+    GameRecord& record = game.record;
+    const std::vector<std::uint8_t> ticked = TickedPeople(game);
+    std::copy(ticked.begin(), ticked.end(), record.bytSelectedPeople.begin() + 1);
+    record.bytSelectedCount = static_cast<std::uint8_t>(ticked.size());
+}
+
+bool IsSelected(const GameRecord& record, std::string_view name) {
+    const auto selection = Selection(record);
+    return std::any_of(selection.begin(), selection.end(),
                        [&](std::uint8_t i) { return record.People[i].Name == name; });
 }
 
-// Why the ticked people can not move; empty when they can.
-std::string ObjectionTo(const GameRecord& record, const std::vector<std::uint8_t>& ticked) {
-    if (ticked.empty()) return "You did not select anyone.";
-    const bool someone = std::any_of(ticked.begin(), ticked.end(), [&](std::uint8_t i) {
-        return !IsTransport(record.People[i]);
-    });
-    if (!someone && Includes(record, ticked, "Boat")) {
-        return "You must have someone going with the boat.";
-    }
-    if (!someone && Includes(record, ticked, "Cart")) {
-        return "You must have someone going with the cart.";
-    }
-    return {};
+bool IsCharacterSelected(const GameRecord& record) {
+    const auto selection = Selection(record);
+    return std::any_of(selection.begin(), selection.end(),
+                       [&](std::uint8_t i) { return !IsTransport(record.People[i]); });
 }
 
 void ConfirmSelection(Game& game) {
     GameRecord& record = game.record;
     Controls& controls = game.controls;
-    const std::vector<std::uint8_t> ticked = TickedPeople(game);
-    const std::string objection = ObjectionTo(record, ticked);
-    if (!objection.empty()) {
-        Status(game, objection);
-        if (ticked.empty()) controls.SetFocus = Control::chkFirst;
+    SelectTicked(game);
+    if (record.bytSelectedCount == 0) {
+        Status(game, "You did not select anyone.");
+        controls.SetFocus = Control::chkFirst;
+        return;
+    }
+    if (IsSelected(record, "Boat") && !IsCharacterSelected(record)) {
+        Status(game, "You must have someone going with the boat.");
+        return;
+    }
+    if (IsSelected(record, "Cart") && !IsCharacterSelected(record)) {
+        Status(game, "You must have someone going with the cart.");
         return;
     }
 
     Strength sums;
-    SumStrength(record, ticked, sums);
-    std::copy(ticked.begin(), ticked.end(), record.bytSelectedPeople.begin() + 1);
-    record.bytSelectedCount = static_cast<std::uint8_t>(ticked.size());
+    SumStrength(record, Selection(record), sums);
     Status(game, "You have " + std::to_string(sums.Mobility) +
                      " mobility units.\nSelect your destination.");
     controls.cmdDoneSel.Visible = false;
@@ -204,14 +207,17 @@ std::string TextOf(StepResult r) {
     return {};
 }
 
-// Leaves the attack that was not made, and puts the move back as it stood before the question.
+// Leaves the attack that was not made, and puts the move back as it stood before the question. That
+// is no end of a turn, so it does not go through the attack button, which would announce one.
 void ResumeMove(Game& game) {
+    GameRecord& record = game.record;
     Controls& controls = game.controls;
-    if (game.record.blnAttackMode) cmdAttack_Click(game);
-    controls.cmdMove.Caption = "Done &Moving";
+    record.blnAttackMode = false;
+    record.blnAttackerChosen = false;
+    controls.cmdAttack.Caption = "&Attack";
     controls.cmdAttack.Enabled = false;
     controls.File.Enabled = false;
-    ShowMobility(game, game.record.bytMobilityLeft);
+    ShowMobility(game, record.bytMobilityLeft);
 }
 
 void FinishMove(Game& game, StepResult r) {
@@ -285,7 +291,11 @@ void ReturnToStart(Game& game) {
 }  // namespace
 
 void cmdMove_Click(Game& game) {
-    if (game.controls.cmdMove.Caption == "&Move") {
+    const bool entering = game.controls.cmdMove.Caption == "&Move";
+    // Disabled for a person then, but the computer's turn may come in the middle of their attack.
+    if (game.record.blnCasualtyPending) return;
+    if (game.record.blnAttackMode) cmdAttack_Click(game);
+    if (entering) {
         EnterMoveMode(game);
     } else {
         LeaveMoveMode(game);

@@ -15,8 +15,6 @@ std::string FourDigits(int number) {
     return std::string(4 - digits.size(), '0') + digits;
 }
 
-std::string UserKey(const Game& game) { return GetUserKey(game.ports.settings.LoginName()); }
-
 }  // namespace
 
 std::string GetUserKey(const std::string& loginName) {
@@ -28,19 +26,27 @@ std::string GetUserKey(const std::string& loginName) {
     return key;
 }
 
+std::string ReadSetting(const Ports& ports, const std::string& section,
+                        const std::string& defaultValue) {
+    SettingsStore& settings = ports.settings;
+    return settings.Read(application, section, GetUserKey(settings.LoginName()), defaultValue);
+}
+
+void StoreSetting(const Ports& ports, const std::string& section, const std::string& value) {
+    SettingsStore& settings = ports.settings;
+    try {
+        settings.Write(application, section, GetUserKey(settings.LoginName()), value);
+    } catch (const std::runtime_error& error) {
+        ports.dialogs.Tell("The setting can not be stored: " + std::string(error.what()));
+    }
+}
+
 void LoadSummarySetting(Game& game) {
-    const std::string value =
-        game.ports.settings.Read(application, summarySection, UserKey(game), "True");
-    game.controls.mnuSummary.Checked = value != "False";
+    game.controls.mnuSummary.Checked = ReadSetting(game.ports, summarySection, "True") != "False";
 }
 
 void SaveSummarySetting(Game& game, bool blnChecked) {
-    try {
-        game.ports.settings.Write(application, summarySection, UserKey(game),
-                                  blnChecked ? "True" : "False");
-    } catch (const std::runtime_error& error) {
-        game.ports.dialogs.Tell("The setting can not be stored: " + std::string(error.what()));
-    }
+    StoreSetting(game.ports, summarySection, blnChecked ? "True" : "False");
     LoadSummarySetting(game);
 }
 

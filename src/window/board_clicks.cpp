@@ -30,6 +30,8 @@ void TakeClick(GameRecord& record) {
 }  // namespace
 
 void lblX_Click(Game& game, int X, int Index) {
+    // Whoever has lost a character picks it before anything else, but may look around.
+    if (game.record.blnCasualtyPending && !game.record.blnDetailsMode) return;
     game.record.bytCurrentX = EightBit(X, "column of the square");
     game.record.bytCurrentY = EightBit(Index, "row of the square");
     SquareClicked(game);
@@ -41,8 +43,6 @@ void SquareClicked(Game& game) {
         DescribeSquare(game, record.bytCurrentX, record.bytCurrentY);
         record.bytCurrentX = record.bytClickX;
         record.bytCurrentY = record.bytClickY;
-    } else if (record.blnCasualtyPending) {
-        return;  // the player picks who died before anything else
     } else if (record.blnMoveMode) {
         TakeClick(record);
         MoveClick(game, false);

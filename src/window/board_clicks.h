@@ -4,7 +4,8 @@
 
 namespace qarn {
 
-/// A click on the square in column X (1 to 18), row Index (1 to 10).
+/// A click on the square in column X (1 to 18), row Index (1 to 10). Does nothing while a casualty
+/// is to be chosen, except in details mode.
 void lblX_Click(Game& game, int X, int Index);
 
 /// Hands the click on the current square to square information, movement or combat.

@@ -9,6 +9,7 @@
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
+#include "shell/file_commands.h"
 #include "shell/user_settings.h"
 
 namespace qarn {
@@ -25,8 +26,11 @@ void ClearGame(Game& game) {
     empty.strGameName = game.record.strGameName;
     empty.strGamePath = game.record.strGamePath;
     game.record = std::move(empty);
+    const MenuState mnuAbout = game.controls.mnuAbout;  // its window stays as it is
     game.controls = Controls();
+    game.controls.mnuAbout = mnuAbout;
     LoadSummarySetting(game);
+    LoadFileTypeMark(game);
     game.ports.random.Seed();
     ClearBoard(game);
 }

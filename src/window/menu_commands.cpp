@@ -5,6 +5,9 @@
 #include <filesystem>
 
 #include "scenarios/catalogue.h"
+#include "shell/about.h"
+#include "shell/default_path.h"
+#include "shell/file_commands.h"
 #include "shell/item_details.h"
 #include "shell/user_settings.h"
 #include "window/board_clicks.h"
@@ -32,12 +35,19 @@ constexpr std::array menuCommands{
     MenuCommand{detailsMenu, "mnuItemDetails", "&Item Details", "Ctrl+I", mnuItemDetails_Click},
     MenuCommand{detailsMenu, "mnuSummaryTerrain", "Summary &Terrain Details", "Ctrl+T",
                 mnuSummaryTerrain_Click},
+    MenuCommand{toolsMenu, "mnuReplay", "&Replay", "Ctrl+R", mnuReplay_Click},
     MenuCommand{toolsMenu, "mnuConvertFile", "&Convert File", "", mnuConvertFile_Click,
                 &Controls::mnuConvertFile},
     MenuCommand{optionsMenu, "mnuSummary", "&Display Summary", "", mnuSummary_Click,
                 &Controls::mnuSummary},
+    MenuCommand{optionsMenu, "mnuDefaultFilepath", "Default &Filepath", "",
+                mnuDefaultFilepath_Click},
+    MenuCommand{optionsMenu, "mnuTGF", "Add and Remove the &TGF Filetype", "", mnuTGF_Click,
+                &Controls::mnuTGF},
     MenuCommand{helpMenu, "mnuGetStarted", "&Getting Started", "", mnuGetStarted_Click},
     MenuCommand{helpMenu, "mnuHelp", "&Help", "F1", mnuHelp_Click},
+    MenuCommand{helpMenu, "", "", "", nullptr},
+    MenuCommand{helpMenu, "mnuAbout", "&About", "", mnuAbout_Click, &Controls::mnuAbout},
 };
 
 bool ConfirmsLeaving(Game& game) {
@@ -46,8 +56,10 @@ bool ConfirmsLeaving(Game& game) {
                                     .Offered = Buttons::YesNo}) == Answer::Yes;
 }
 
-void LeaveForStartWindow(Game& game) {
+// The start window is made ready when it opens, which it does once this window has closed.
+void LeaveForStartWindow(Game& game, bool blnOpen) {
     if (!ConfirmsLeaving(game)) return;
+    game.blnLeftByOpen = blnOpen;
     game.record.blnLeaving = true;
     Form_Unload(game);
 }
@@ -60,9 +72,9 @@ bool AsksWhetherRightScenario(Game& game) {
 
 }  // namespace
 
-void New_Click(Game& game) { LeaveForStartWindow(game); }
+void New_Click(Game& game) { LeaveForStartWindow(game, false); }
 
-void Open_Click(Game& game) { LeaveForStartWindow(game); }
+void Open_Click(Game& game) { LeaveForStartWindow(game, true); }
 
 void mnuSave_Click(Game& game) { TrySaveGame(game); }
 
@@ -89,6 +101,9 @@ void mnuExit_Click(Game& game) { Form_Unload(game); }
 void mnuItemDetails_Click(Game& game) { ItemDetails(game); }
 
 void mnuSummaryTerrain_Click(Game& game) { game.ports.help.ShowHelp("Terrain Info.htm"); }
+
+// The item is there, and nothing happens.
+void mnuReplay_Click(Game&) {}
 
 void mnuConvertFile_Click(Game& game) {
     GameRecord& record = game.record;

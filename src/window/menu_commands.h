@@ -14,6 +14,7 @@ void mnuSaveAs_Click(Game& game);
 void mnuExit_Click(Game& game);
 void mnuItemDetails_Click(Game& game);
 void mnuSummaryTerrain_Click(Game& game);
+void mnuReplay_Click(Game& game);
 void mnuConvertFile_Click(Game& game);
 void mnuSummary_Click(Game& game);
 void mnuGetStarted_Click(Game& game);

@@ -5,7 +5,9 @@
 namespace qarn {
 
 void RunEvent(Game& game, const std::function<void(Game&)>& handler) {
-    const Game before = game;
+    const GameRecord record = game.record;
+    const Controls controls = game.controls;
+    const bool open = game.blnOpen;
     try {
         handler(game);
     } catch (const ProgramEnd& end) {
@@ -13,9 +15,9 @@ void RunEvent(Game& game, const std::function<void(Game&)>& handler) {
         game.blnEnded = true;
         game.exitStatus = end.exitStatus;
     } catch (const std::exception& error) {
-        game.record = before.record;
-        game.controls = before.controls;
-        game.blnOpen = before.blnOpen;
+        game.record = record;
+        game.controls = controls;
+        game.blnOpen = open;
         game.ports.dialogs.Tell(error.what());
     }
 }

@@ -6,6 +6,7 @@
 #include "core/game_file.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
+#include "shell/about.h"
 #include "window/load_game.h"
 
 namespace qarn {
@@ -87,6 +88,7 @@ void Form_Unload(Game& game) {
     if (record.blnEnding) throw ProgramEnd{};
     record.blnLeaving = false;
     game.controls.tmrAI.Enabled = false;
+    frmAbout_Unload(game);  // it closes together with this window
     game.blnOpen = false;
 }
 

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/ports.h"
+#include "shell/program_folders.h"
+#include "shell/settings_file.h"
+#include "shell/xdg_file_types.h"
+
+namespace qarn {
+
+/// What a Linux desktop keeps for the program. It outlives whoever uses its ports.
+class LinuxDesktop {
+public:
+    DesktopPorts Ports() { return {settings_, fileTypes_, FindProgramFolders()}; }
+
+private:
+    SettingsFile settings_;
+    XdgFileTypes fileTypes_;
+};
+
+}  // namespace qarn

@@ -1,0 +1,250 @@
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+
+#include "core/file_store.h"
+#include "core/game_file.h"
+#include "scenarios/catalogue.h"
+#include "scenarios/setup.h"
+#include "shell/start_window.h"
+
+namespace qarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view extension = ".tgf";
+constexpr std::string_view forbidden = "\\/:*?\"<>|";
+
+std::string WithoutBlanks(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// A text that a handler writes counts as a change like one that is typed.
+void SetText(StartWindow& window, const std::string& text) {
+    window.controls.txtNewFilePath.Text = text;
+    txtNewFilePath_Change(window);
+}
+
+void OfferNew(StartControls& controls) {
+    controls.cmdNew.Enabled = true;
+    controls.DefaultButton = StartControl::cmdNew;
+}
+
+// ---- Step 0, the file name ----
+
+void HideSavedGames(StartControls& controls) {
+    controls.txtLocation.Visible = false;
+    controls.cmdBrowse.Visible = false;
+    controls.fileLoad.Visible = false;
+    controls.cmdLoad.Visible = false;
+    controls.lblYouAre.Visible = false;
+    controls.cmdDelete.Visible = false;
+    controls.cmdBackGround.Visible = false;
+}
+
+// Puts the controls to the places 1, 2 and 3 of the tab order, behind the text box at place 0.
+void SetTabOrderOfWizard(std::vector<StartControl>& order) {
+    const std::array moved{StartControl::cmdNew, StartControl::lstScenarios, StartControl::cmdExit};
+    std::erase_if(order, [&](StartControl control) {
+        return std::find(moved.begin(), moved.end(), control) != moved.end();
+    });
+    order.insert(order.begin() + 1, moved.begin(), moved.end());
+}
+
+void ShowScenarios(StartControls& controls) {
+    controls.lstScenarios.Visible = true;
+    controls.lblInstructions.Caption = "Select the scenario you would like to play.";
+    HideSavedGames(controls);
+    controls.cmdNew.Caption = "&Next";
+    controls.cmdNew.Enabled = false;
+    controls.txtNewFilePath.Locked = true;
+    SetTabOrderOfWizard(controls.TabOrder);
+    controls.SetFocus = StartControl::lstScenarios;
+}
+
+void TakeFileName(StartWindow& window) {
+    std::string name = WithoutBlanks(window.controls.txtNewFilePath.Text);
+    if (name.find_first_of(forbidden) != std::string::npos) {
+        window.ports.dialogs.Tell(
+            "You can not have a game containing the followin characters: \\ / : * ? \" < > |");
+        SetText(window, "");
+        return;
+    }
+    if (name.ends_with(extension)) name.resize(name.size() - extension.size());
+    SetText(window, name);
+    ShowScenarios(window.controls);
+    window.state.strNewGameName = name;
+    window.state.bytWizardStep = 1;
+}
+
+// ---- Step 1, the scenario ----
+
+void ShowScenarioBackground(StartControls& controls) {
+    const int scenario = controls.lstScenarios.ListIndex + 1;
+    if (scenario == 0) return;
+    controls.lblScenarioBackground.Caption = DataOfScenario(scenario).Background;
+}
+
+void AskForPlayer(StartWindow& window, const char* instructions) {
+    StartControls& controls = window.controls;
+    controls.lblInstructions.Caption = instructions;
+    controls.txtNewFilePath.Locked = false;
+    controls.lstScenarios.Enabled = false;
+    SetText(window, "");
+    controls.SetFocus = StartControl::txtNewFilePath;
+}
+
+void TakeScenario(StartWindow& window) {
+    AskForPlayer(window, "Type in a goodbeast's name.");
+    window.state.bytWizardStep = 2;
+    window.controls.chkComputer.Visible = true;
+}
+
+// ---- Steps 2 and 3, the players ----
+
+void TakePlayer(StartWindow& window, std::size_t side) {
+    StartControls& controls = window.controls;
+    window.state.strNewPlayerName[side] = controls.txtNewFilePath.Text;
+    window.state.blnNewComputer[side] = controls.chkComputer.Value;
+    controls.chkComputer.Value = false;
+}
+
+void TakeGoodbeast(StartWindow& window) {
+    TakePlayer(window, 1);
+    AskForPlayer(window, "Type in badbeast's name.");
+    window.controls.cmdNew.Caption = "&Start";
+    window.state.bytWizardStep = 3;
+}
+
+std::string TextOfNewGame(const StartWindow& window) {
+    const StartState& state = window.state;
+    std::string code;
+    ScenarioCode(window.controls.lstScenarios.ListIndex + 1, code);
+    return NewGameText(code, {{{state.strNewPlayerName[1], state.blnNewComputer[1]},
+                               {state.strNewPlayerName[2], state.blnNewComputer[2]}}});
+}
+
+// Gives true when nothing hinders the new game at this path any longer.
+bool ClearsAway(StartWindow& window, const std::string& path) {
+    try {
+        window.wastebasket.MoveThere(path);
+        return true;
+    } catch (const std::runtime_error& error) {
+        return window.ports.dialogs.Show(
+                   {.Title = {},
+                    .Text = "A game of this name exists already and can not be moved to the "
+                            "wastebasket. " +
+                            std::string(error.what()) + "\n" + path +
+                            "\nDo you want to replace it for good?",
+                    .Offered = Buttons::YesNo}) == Answer::Yes;
+    }
+}
+
+// The old game makes room only once the new one is on the disk, so that a failure leaves it where
+// it was. Gives false when it is to stay.
+bool WriteInPlaceOf(StartWindow& window, const std::string& path, const std::string& text) {
+    const fs::path written =
+        fs::path(path).parent_path() / (".qarn-new-" + std::to_string(getpid()));
+    ReplaceFile(written.string(), text);
+    const bool cleared = ClearsAway(window, path);
+    if (cleared) {
+        fs::rename(written, path);
+    } else {
+        DeleteFile(written.string());
+    }
+    return cleared;
+}
+
+bool WriteNewGame(StartWindow& window, const std::string& path) {
+    const std::string text = TextOfNewGame(window);
+    if (fs::is_regular_file(path)) return WriteInPlaceOf(window, path, text);
+    ReplaceFile(path, text);
+    return true;
+}
+
+bool TryWriteNewGame(StartWindow& window, const std::string& path) {
+    std::string reason;
+    try {
+        return WriteNewGame(window, path);
+    } catch (const std::system_error& error) {
+        reason = error.code().message() + ".";
+    } catch (const SaveError& error) {
+        reason = error.what();
+    }
+    window.ports.dialogs.Tell("The new game can not be written. " + reason + "\n" + path);
+    return false;
+}
+
+void StartGame(StartWindow& window) {
+    const StartControls controls = window.controls;
+    const StartState state = window.state;
+    TakePlayer(window, 2);
+    const std::string name = state.strNewGameName + std::string(extension);
+    const std::string path = (fs::absolute(controls.txtLocation.Text) / name).string();
+    if (TryWriteNewGame(window, path)) {
+        window.strGamePath = path;
+        window.Next = NextWindow::Game;
+    } else {
+        window.controls = controls;
+        window.state = state;
+    }
+}
+
+}  // namespace
+
+void cmdNew_Click(StartWindow& window) {
+    switch (window.state.bytWizardStep) {
+        case 0:
+            TakeFileName(window);
+            break;
+        case 1:
+            TakeScenario(window);
+            break;
+        case 2:
+            TakeGoodbeast(window);
+            break;
+        default:
+            StartGame(window);
+    }
+}
+
+void txtNewFilePath_Change(StartWindow& window) {
+    StartControls& controls = window.controls;
+    if (WithoutBlanks(controls.txtNewFilePath.Text).empty()) {
+        controls.cmdNew.Enabled = false;
+    } else {
+        OfferNew(controls);
+    }
+}
+
+void txtNewFilePath_GotFocus(StartWindow& window) {
+    window.controls.DefaultButton = StartControl::cmdNew;
+}
+
+void txtNewFilePath_LostFocus(StartWindow& window) {
+    if (window.controls.DefaultButton == StartControl::cmdNew) {
+        window.controls.DefaultButton = StartControl::None;
+    }
+}
+
+void chkComputer_GotFocus(StartWindow& window) {
+    window.controls.DefaultButton = StartControl::cmdNew;
+}
+
+void lstScenarios_Click(StartWindow& window) {
+    OfferNew(window.controls);
+    window.controls.lblScenarioBackground.Visible = true;
+    ShowScenarioBackground(window.controls);
+}
+
+void lstScenarios_DblClick(StartWindow& window) {
+    if (window.controls.cmdNew.Enabled) cmdNew_Click(window);
+}
+
+}  // namespace qarn

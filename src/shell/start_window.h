@@ -1,0 +1,144 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/controls.h"
+#include "core/ports.h"
+#include "shell/next_window.h"
+#include "shell/shell_ports.h"
+
+namespace qarn {
+
+struct TextBox {
+    std::string Text;
+    bool Enabled = true;
+    bool Visible = true;
+    bool Locked = false;        ///< read-only
+    std::size_t MaxLength = 0;  ///< the most characters that a person can type; 0 = any number
+};
+
+struct ListBox {
+    std::vector<std::string> List;
+    int ListIndex = -1;  ///< the selected item, counted from 0; -1 = none
+    bool Enabled = true;
+    bool Visible = true;
+};
+
+/// A list of the game files in a folder.
+struct FileList {
+    std::string Path;
+    std::vector<std::string> List;  ///< names without folder, in the file system's bytes
+    int ListIndex = -1;             ///< as in ListBox
+    bool Enabled = true;
+    bool Visible = true;
+};
+
+enum class StartControl {
+    None,
+    txtNewFilePath,
+    cmdNew,
+    chkComputer,
+    lstScenarios,
+    fileLoad,
+    cmdLoad,
+    cmdDelete,
+    txtLocation,
+    cmdBrowse,
+    cmdBackGround,
+    txtBackGround,
+    cmdExit,
+};
+
+/// The controls of the start window, in the state in which it is created.
+struct StartControls {
+    StartControls();
+
+    std::string Caption = "Thornmere Series Tatical Game Splash Screen";
+    Label lblProgramName{.Caption = "Thornmere Series Tactical Game"};
+    /// Its access key belongs to txtNewFilePath.
+    Label lblInstructions{
+        .Caption = "&Type in the name for a new game or select one that already exists."};
+    TextBox txtNewFilePath;
+    Button cmdNew{.Caption = "&New", .Enabled = false};
+    CheckBox chkComputer{.Caption = "&Computer"};
+    ListBox lstScenarios{.List = {}, .Visible = false};
+    Label lblScenarioBackground{.Caption = {}, .Visible = false};
+
+    FileList fileLoad;
+    Button cmdLoad{.Caption = "&Load", .Enabled = false};
+    Button cmdDelete{.Caption = "&Delete Game", .Enabled = false};
+    Label lblYouAre{.Caption = "Default Filepath:"};
+    TextBox txtLocation{.Text = {}, .Locked = true};
+    Button cmdBrowse{.Caption = "&Browse"};
+
+    Button cmdBackGround;
+    TextBox txtBackGround{.Text = {}, .Visible = false, .Locked = true};
+    Button cmdExit{.Caption = "E&xit"};  ///< Escape presses it, in every state
+
+    std::vector<StartControl> TabOrder;
+    /// The button that Enter presses: cmdNew, cmdLoad, cmdExit or None.
+    StartControl DefaultButton = StartControl::cmdExit;
+    /// The control that a handler has given the focus to. The front end moves the focus there and
+    /// sets this back to None.
+    StartControl SetFocus = StartControl::None;
+};
+
+/// What the wizard for a new game has gathered, and what the program background hides. The arrays
+/// of the two sides are used from index 1.
+struct StartState {
+    std::uint8_t bytWizardStep = 0;  ///< 0 file name, 1 scenario, 2 player of side 1, 3 of side 2
+    std::string strNewGameName;      ///< without folder and ".tgf"
+    std::array<std::string, 3> strNewPlayerName;
+    std::array<bool, 3> blnNewComputer{};
+    std::string strSavedInstructions;
+    bool blnSavedNewEnabled = false;
+};
+
+/// The start window without its widgets. Every time it is shown it is a new one. A front end writes
+/// what a person types, ticks or selects into the controls and then runs the handler of that event.
+struct StartWindow {
+    Ports ports;
+    Wastebasket& wastebasket;
+    StartControls controls = {};
+    StartState state = {};
+    NextWindow Next = NextWindow::Same;
+    std::string strGamePath = {};  ///< absolute, once the game window is next
+};
+
+/// Shows the default folder and the games in it.
+void Form_Load(StartWindow& window);
+
+/// Makes the window ready for a person who comes from a game; `blnOpen` tells that a saved game is
+/// to be chosen.
+void PrepareStartWindow(StartWindow& window, bool blnOpen);
+
+/// Lists the folder again. The selected file stays selected; when it has gone, it can no longer be
+/// loaded or deleted. Also to be run whenever the folder changes.
+void RefreshFileList(StartWindow& window);
+
+void fileLoad_Click(StartWindow& window);
+void fileLoad_DblClick(StartWindow& window);
+void fileLoad_GotFocus(StartWindow& window);
+void fileLoad_LostFocus(StartWindow& window);
+void cmdLoad_Click(StartWindow& window);
+void cmdDelete_Click(StartWindow& window);
+void cmdBrowse_Click(StartWindow& window);
+void cmdBackGround_Click(StartWindow& window);
+void cmdExit_Click(StartWindow& window);
+
+// The wizard for a new game.
+
+/// Takes the step that the wizard is at. The last one writes the new game; when that cannot be done
+/// a box tells why, and the wizard stays there.
+void cmdNew_Click(StartWindow& window);
+void txtNewFilePath_Change(StartWindow& window);
+void txtNewFilePath_GotFocus(StartWindow& window);
+void txtNewFilePath_LostFocus(StartWindow& window);
+void chkComputer_GotFocus(StartWindow& window);
+void lstScenarios_Click(StartWindow& window);
+void lstScenarios_DblClick(StartWindow& window);
+
+}  // namespace qarn
