@@ -1,0 +1,98 @@
+// The computer opponent: how long it thinks in the positions that it meets when it plays against
+// itself, how many of its turns go by in a second on one core, and whether its memory grows with
+// the number of games.
+
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+#include "ai/choose_move.h"
+#include "ai/self_play.h"
+#include "ai/turn_driver.h"
+#include "scenarios/catalogue.h"
+
+namespace qarn {
+namespace {
+
+using Microseconds = std::chrono::duration<double, std::micro>;
+
+// The shortest of a few runs, so that what else the machine does is not counted.
+double TimeOfChoice(const Game& position) {
+    double shortest = 1e9;
+    for (int run = 0; run < 5; ++run) {
+        Game game = position;
+        const auto start = std::chrono::steady_clock::now();
+        ChooseMove(game);
+        const Microseconds time = std::chrono::steady_clock::now() - start;
+        shortest = std::min(shortest, time.count());
+    }
+    return shortest;
+}
+
+void TimeChoicesOfGame(int scenario, std::uint64_t seed, std::vector<double>& times) {
+    SelfPlayedGame played(scenario, seed);
+    Game& game = played.CurrentGame();
+    while (game.controls.tmrAI.Enabled && !game.blnEnded) {
+        if (!game.record.Action.blnAIBusy) times.push_back(TimeOfChoice(game));
+        tmrAI_Timer(game);
+    }
+}
+
+// Time is that of the position in the middle.
+void ChooseMoveInSelfPlay(benchmark::State& state) {
+    std::vector<double> times;
+    for (auto _ : state) {
+        times.clear();
+        for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+            for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+                TimeChoicesOfGame(scenario, seed, times);
+            }
+        }
+        std::sort(times.begin(), times.end());
+        state.SetIterationTime(times[times.size() / 2] * 1e-6);
+    }
+    state.counters["positions"] = static_cast<double>(times.size());
+    state.counters["median_us"] = times[times.size() / 2];
+    state.counters["worst_us"] = times.back();
+}
+
+long PlayEveryScenario(long games, std::uint64_t seed) {
+    long turns = 0;
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        turns += PlayItself(scenario, games, seed, [](long) {}).turns;
+    }
+    return turns;
+}
+
+void SelfPlay(benchmark::State& state) {
+    double turns = 0;
+    for (auto _ : state) turns += static_cast<double>(PlayEveryScenario(50, 1));
+    state.counters["turns"] = benchmark::Counter(turns, benchmark::Counter::kIsRate);
+}
+
+long PeakMemory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+// How much the peak of the memory grows from the 1,200th game to the 13,200th.
+void MemoryOfSelfPlay(benchmark::State& state) {
+    for (auto _ : state) {
+        PlayEveryScenario(100, 1);
+        const long before = PeakMemory();
+        PlayEveryScenario(1000, 101);
+        state.counters["growth_KiB"] = static_cast<double>(PeakMemory() - before);
+    }
+    state.counters["peak_KiB"] = static_cast<double>(PeakMemory());
+}
+
+BENCHMARK(ChooseMoveInSelfPlay)->UseManualTime()->Iterations(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SelfPlay)->Unit(benchmark::kMillisecond);
+BENCHMARK(MemoryOfSelfPlay)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace qarn

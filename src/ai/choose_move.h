@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/game.h"
+
+namespace qarn {
+
+/// Decides what the side to move, played by the computer, does in its turn, and starts that action:
+/// a stack marches onto an enemy square or, when no attack promises enough, onto another stack of
+/// its side. Shows the box "No good move!" and starts nothing when there is neither.
+void ChooseMove(Game& game);
+
+}  // namespace qarn

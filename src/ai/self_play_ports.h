@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/ports.h"
+#include "core/random_numbers.h"
+
+namespace qarn {
+
+/// The ports of a game that the computer plays against itself: goes on at every box, draws its
+/// numbers from one seed, and has no help, no settings, no file types and no files.
+class SelfPlayPorts {
+public:
+    explicit SelfPlayPorts(std::uint64_t seed) : random_(seed) {}
+
+    Ports All() { return {dialogs_, random_, help_, settings_, fileTypes_, {}}; }
+
+    /// The text of the box shown last.
+    const std::string& LastText() const { return dialogs_.lastText; }
+
+private:
+    struct ConsentingDialogs : Dialogs {
+        Answer Show(const MessageBox& box) override {
+            lastText = box.Text;
+            return box.Offered == Buttons::YesNo ? Answer::Yes : Answer::OK;
+        }
+        std::string AskSaveFileName(const std::string&) override { return {}; }
+        std::string AskOpenFileName(const std::string&) override { return {}; }
+        std::string InputPrompt(const std::string&, const std::string&,
+                                const std::string& prefilled) override {
+            return prefilled;
+        }
+
+        std::string lastText;
+    };
+
+    class SeededNumbers : public RandomNumbers {
+    public:
+        explicit SeededNumbers(std::uint64_t seed) : seed_(seed) {}
+
+        void Seed() override { generator_.Seed(seed_); }
+        double Next() override { return generator_.Next(); }
+
+    private:
+        std::uint64_t seed_;
+        UniformGenerator generator_;
+    };
+
+    struct NoHelp : HelpViewer {
+        void ShowHelp(const std::string&) override {}
+    };
+
+    struct NoSettings : SettingsStore {
+        std::string Read(const std::string&, const std::string&, const std::string&,
+                         const std::string& defaultValue) override {
+            return defaultValue;
+        }
+        void Write(const std::string&, const std::string&, const std::string&,
+                   const std::string&) override {}
+        std::string LoginName() override { return {}; }
+    };
+
+    struct NoFileTypes : FileTypeRegistry {
+        bool CreateKey(const std::string&) override { return false; }
+        bool SetDefaultValue(const std::string&, const std::string&) override { return false; }
+        std::optional<std::string> DefaultValue(const std::string&) override { return {}; }
+    };
+
+    ConsentingDialogs dialogs_;
+    SeededNumbers random_;
+    NoHelp help_;
+    NoSettings settings_;
+    NoFileTypes fileTypes_;
+};
+
+}  // namespace qarn
