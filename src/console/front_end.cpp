@@ -1,0 +1,133 @@
+#include "console/front_end.h"
+
+#include <istream>
+#include <optional>
+#include <ostream>
+
+#include "console/session.h"
+#include "console/state_json.h"
+#include "console/text_view.h"
+#include "console/words.h"
+
+namespace qarn {
+namespace {
+
+bool IsPassedOver(const std::string& line) {
+    return line.starts_with('#') || line.find_first_not_of(" \t\r") == std::string::npos;
+}
+
+// Gives the reason when the command was refused, else an empty string.
+std::string Execute(Session& session, const std::vector<std::string>& words) {
+    try {
+        session.Execute(words);
+        return {};
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+}
+
+std::string ExecuteLine(Session& session, const std::string& line) {
+    try {
+        return Execute(session, SplitWords(line));
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+}
+
+bool IsQuit(const std::string& line) {
+    const std::size_t first = line.find_first_not_of(" \t");
+    const std::size_t last = line.find_last_not_of(" \t\r");
+    return first != std::string::npos && line.substr(first, last - first + 1) == "quit";
+}
+
+std::string ChoicesOf(Buttons offered) {
+    switch (offered) {
+        case Buttons::YesNo:
+            return "yes or no";
+        case Buttons::RetryCancel:
+            return "retry or cancel";
+        default:
+            return {};
+    }
+}
+
+// Shows a box to the person at the terminal, and asks until a choice is made or the input ends.
+std::optional<Answer> AskPerson(std::istream& in, std::ostream& out, const MessageBox& box) {
+    out << "\n--- " << (box.Title.empty() ? "" : box.Title + ": ") << box.Text << '\n';
+    const std::string choices = ChoicesOf(box.Offered);
+    if (box.Offered == Buttons::OK) return Answer::OK;
+    for (;;) {
+        out << "--- " << choices << "? " << std::flush;
+        std::string word;
+        if (!std::getline(in, word)) return std::nullopt;
+        const std::optional<Answer> answer = AnswerOf(word);
+        if (answer && Offers(box.Offered, *answer)) return answer;
+    }
+}
+
+// The person's view of one command's outcome.
+class Terminal {
+public:
+    Terminal(std::ostream& out, bool colors) : out_(out), colors_(colors) {}
+
+    void Show(Session& session, const std::string& error) {
+        const Game& game = session.CurrentGame();
+        for (const std::string& topic : session.Help().TakeTopics()) {
+            out_ << "The help page is " << (topic.empty() ? "the start page" : topic) << ".\n";
+        }
+        if (!error.empty()) out_ << error << '\n';
+        if (!game.blnOpen) return;
+        PrintBoard(out_, game, colors_);
+        PrintStatus(out_, game);
+    }
+
+private:
+    std::ostream& out_;
+    bool colors_;
+};
+
+}  // namespace
+
+int RunForProgram(std::istream& in, std::ostream& out, const DesktopPorts& desktop,
+                  const std::string& file) {
+    Session session(desktop);
+    if (!file.empty()) {
+        Execute(session, {"open", file});
+        session.Dialogs().TakeShown();
+    }
+    std::string line;
+    while (std::getline(in, line) && !IsQuit(line)) {
+        if (IsPassedOver(line)) continue;
+        CommandOutcome outcome;
+        outcome.error = ExecuteLine(session, line);
+        outcome.boxes = session.Dialogs().TakeShown();
+        outcome.help = session.Help().TakeTopics();
+        out << OneLine(StateJson(outcome, session.CurrentGame())) << std::endl;
+    }
+    return session.CurrentGame().exitStatus;
+}
+
+int RunForPerson(std::istream& in, std::ostream& out, const DesktopPorts& desktop,
+                 const std::string& file, bool colors) {
+    Session session(desktop);
+    session.Dialogs().SetAskPerson([&](const MessageBox& box) { return AskPerson(in, out, box); });
+    Terminal terminal(out, colors);
+    if (file.empty()) {
+        PrintHelp(out);
+    } else {
+        terminal.Show(session, Execute(session, {"open", file}));
+    }
+    std::string line;
+    while (!session.CurrentGame().blnEnded && out << "> " << std::flush && std::getline(in, line) &&
+           !IsQuit(line)) {
+        if (IsPassedOver(line)) continue;
+        if (line == "help") {
+            PrintHelp(out);
+        } else {
+            terminal.Show(session, ExecuteLine(session, line));
+        }
+    }
+    return session.CurrentGame().exitStatus;
+}
+
+}  // namespace qarn

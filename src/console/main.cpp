@@ -1,0 +1,45 @@
+#include <unistd.h>
+
+#include <exception>
+#include <iostream>
+#include <span>
+
+#include "console/front_end.h"
+#include "console/options.h"
+#include "console/words.h"
+#include "shell/linux_desktop.h"
+
+namespace {
+
+constexpr auto usage =
+    "Usage: qarn-console [--json] [FILE.tgf]\n"
+    "       qarn-console --selfplay N [--scenario CODE|all] [--seed S] [--json]\n";
+
+int Run(const qarn::Options& options) {
+    using namespace qarn;
+    if (options.selfPlay) {
+        RunSelfPlay(*options.selfPlay, std::cout,
+                    isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr);
+        return 0;
+    }
+    LinuxDesktop desktop;
+    if (options.json) return RunForProgram(std::cin, std::cout, desktop.Ports(), options.file);
+    return RunForPerson(std::cin, std::cout, desktop.Ports(), options.file,
+                        isatty(STDOUT_FILENO) != 0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    try {
+        const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
+        return Run(qarn::ParseOptions(arguments.subspan(1)));
+    } catch (const qarn::Refusal& refusal) {
+        std::cerr << refusal.what() << '\n' << usage;
+        return 2;
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "console/self_play_command.h"
+
+namespace qarn {
+
+/// What the command line asks for.
+struct Options {
+    bool json = false;
+    std::string file;  ///< empty: no game is opened at the start
+    std::optional<SelfPlayOptions> selfPlay;
+};
+
+/// Reads the arguments behind the program's name. Throws Refusal for a wrong command line.
+Options ParseOptions(std::span<char* const> arguments);
+
+}  // namespace qarn

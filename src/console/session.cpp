@@ -1,0 +1,267 @@
+#include "console/session.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <filesystem>
+#include <limits>
+#include <optional>
+#include <system_error>
+
+#include "ai/turn_driver.h"
+#include "console/words.h"
+#include "core/file_store.h"
+#include "core/game_file.h"
+#include "rules/attack_mode.h"
+#include "rules/movement.h"
+#include "rules/terrain.h"
+#include "scenarios/catalogue.h"
+#include "window/board_clicks.h"
+#include "window/load_game.h"
+#include "window/menu_commands.h"
+#include "window/run_event.h"
+#include "window/save_game.h"
+
+namespace qarn {
+namespace {
+
+constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
+
+std::string AbsolutePath(const std::string& path) {
+    if (path.empty()) throw Refusal("The path is empty.");
+    return std::filesystem::absolute(path).string();
+}
+
+double ParseUniform(const std::string& word) {
+    double number = 0;
+    const char* end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, number);
+    if (error != std::errc() || stop != end || !(number >= 0 && number < 1)) {
+        throw Refusal("\"" + word + "\" should be a number of at least 0 and below 1.");
+    }
+    return number;
+}
+
+Player ParsePlayer(const std::string& name, const std::string& kind) {
+    if (kind != "human" && kind != "computer") {
+        throw Refusal("A player is \"human\" or \"computer\", not \"" + kind + "\".");
+    }
+    return {.strPlayerName = name, .blnComputer = kind == "computer"};
+}
+
+std::string TextOfNewGame(const std::string& code, const std::array<Player, 2>& players) {
+    if (ScenarioNumber(code) == 0) throw Refusal("There is no scenario \"" + code + "\".");
+    try {
+        return NewGameText(code, players);
+    } catch (const SaveError& error) {
+        throw Refusal(error.what());
+    }
+}
+
+// Gives false when the game in progress could not be saved and stays open.
+bool LeaveGame(Game& game) {
+    if (!game.blnOpen) return true;
+    game.record.blnLeaving = true;
+    Form_Unload(game);
+    return !game.blnOpen;
+}
+
+void RequireOpened(const Game& game, const std::string& path) {
+    if (game.blnEnded || (game.blnOpen && game.record.strGamePath == path)) return;
+    throw Refusal("The game could not be opened.");
+}
+
+struct PressedButton {
+    std::string_view name;
+    Button Controls::*button;
+    void (*click)(Game&);
+};
+
+constexpr std::array<PressedButton, 4> pressedButtons{{
+    {"cmdMove", &Controls::cmdMove, cmdMove_Click},
+    {"cmdAttack", &Controls::cmdAttack, cmdAttack_Click},
+    {"cmdDoneSel", &Controls::cmdDoneSel, cmdDoneSel_Click},
+    {"cmdSquareDetails", &Controls::cmdSquareDetails, cmdSquareDetails_Click},
+}};
+
+void RequireUsable(bool enabled, bool visible, std::string_view name) {
+    if (!visible) throw Refusal(std::string(name) + " is hidden.");
+    if (!enabled) throw Refusal(std::string(name) + " is disabled.");
+}
+
+const MenuCommand& RequireChoosable(const Controls& controls, const std::string& name) {
+    const MenuCommand* command = FindMenuCommand(name);
+    if (command == nullptr) throw Refusal("There is no menu item \"" + name + "\".");
+    if (!CanChoose(controls, *command)) throw Refusal(name + " can not be chosen now.");
+    return *command;
+}
+
+// The code in "cmdSeeTerDet(code)"; none when the name is another.
+std::optional<int> CodeOfTerrainDetails(std::string_view name) {
+    constexpr std::string_view head = "cmdSeeTerDet(";
+    if (!name.starts_with(head) || !name.ends_with(')')) return std::nullopt;
+    name.remove_prefix(head.size());
+    name.remove_suffix(1);
+    return ParseNumber<int>(std::string(name), 0, terrainKindCount - 1);
+}
+
+}  // namespace
+
+Session::Session(const DesktopPorts& desktop)
+    : game_{.record = {},
+            .controls = {},
+            .ports = {dialogs_, random_, help_, desktop.settings, desktop.fileTypes,
+                      desktop.folders}} {}
+
+const Session::Command* Session::FindCommand(std::string_view name) {
+    static constexpr std::array<Command, 14> commands{{
+        {"new", 6, 6, false, &Session::New},
+        {"open", 1, 1, false, &Session::Open},
+        {"click", 2, 2, true, &Session::Click},
+        {"press", 1, 1, true, &Session::Press},
+        {"tick", 1, 1, true, &Session::Tick},
+        {"untick", 1, 1, true, &Session::Untick},
+        {"menu", 1, 1, true, &Session::ChooseMenu},
+        {"timer", 0, 1, true, &Session::PassTime},
+        {"answer", 1, anyNumber, false, &Session::QueueAnswers},
+        {"random", 1, anyNumber, false, &Session::QueueNumbers},
+        {"seed", 1, 1, false, &Session::Seed},
+        {"saveas", 1, 1, true, &Session::SaveAs},
+        {"state", 0, 0, false, &Session::ShowState},
+        {"close", 0, 0, true, &Session::Close},
+    }};
+    const auto* found = std::find_if(commands.begin(), commands.end(),
+                                     [&](const Command& command) { return command.name == name; });
+    return found == commands.end() ? nullptr : found;
+}
+
+void Session::Execute(const Words& words) {
+    const Command* command = FindCommand(words.front());
+    if (command == nullptr) throw Refusal("There is no command \"" + words.front() + "\".");
+    const std::size_t count = words.size() - 1;
+    if (count < command->fewestWords || count > command->mostWords) {
+        throw Refusal("The command \"" + words.front() + "\" has too few or too many words.");
+    }
+    if (command->needsGame && !game_.blnOpen) {
+        throw Refusal(game_.blnEnded ? "The program has ended." : "No game is open.");
+    }
+    (this->*command->run)(words);
+}
+
+void Session::RequireRunning() const {
+    if (game_.blnEnded) throw Refusal("The program has ended.");
+}
+
+void Session::New(const Words& words) {
+    RequireRunning();
+    const std::string path = AbsolutePath(words[1]);
+    const std::string text =
+        TextOfNewGame(words[2], {ParsePlayer(words[3], words[4]), ParsePlayer(words[5], words[6])});
+    RunEvent(game_, [&](Game& game) {
+        if (!LeaveGame(game)) return;
+        try {
+            ReplaceFile(path, text);
+        } catch (const std::system_error& error) {
+            throw SaveError("The new game can not be written. " + error.code().message() + ".\n" +
+                            path);
+        }
+        Form_Load(game, path);
+    });
+    RequireOpened(game_, path);
+}
+
+void Session::Open(const Words& words) {
+    RequireRunning();
+    const std::string path = AbsolutePath(words[1]);
+    RunEvent(game_, [&](Game& game) {
+        if (LeaveGame(game)) Form_Load(game, path);
+    });
+    RequireOpened(game_, path);
+}
+
+void Session::Click(const Words& words) {
+    const int X = ParseNumber<int>(words[1], 1, columnCount);
+    const int Y = ParseNumber<int>(words[2], 1, rowCount);
+    RunEvent(game_, [&](Game& game) { lblX_Click(game, X, Y); });
+}
+
+void Session::Press(const Words& words) {
+    const std::string& name = words[1];
+    const auto* found =
+        std::find_if(pressedButtons.begin(), pressedButtons.end(),
+                     [&](const PressedButton& pressed) { return pressed.name == name; });
+    if (found == pressedButtons.end()) {
+        PressTerrainDetails(name);
+        return;
+    }
+    const Button& button = game_.controls.*found->button;
+    RequireUsable(button.Enabled, button.Visible, name);
+    RunEvent(game_, found->click);
+}
+
+void Session::PressTerrainDetails(std::string_view name) {
+    const std::optional<int> code = CodeOfTerrainDetails(name);
+    if (!code) throw Refusal("There is no button \"" + std::string(name) + "\".");
+    const Button& button = game_.controls.cmdSeeTerDet[static_cast<std::size_t>(*code)];
+    RequireUsable(button.Enabled, button.Visible, name);
+    RunEvent(game_, [&](Game& game) { cmdSeeTerDet_Click(game, *code); });
+}
+
+void Session::Tick(const Words& words) { SetTick(words[1], true); }
+
+void Session::Untick(const Words& words) { SetTick(words[1], false); }
+
+void Session::SetTick(const std::string& word, bool ticked) {
+    CheckBox& box = game_.controls.chkItems[ParseNumber<std::size_t>(word, 1, checkBoxCount)];
+    RequireUsable(box.Enabled, box.Visible, "chkItems(" + word + ")");
+    box.Value = ticked;
+}
+
+void Session::ChooseMenu(const Words& words) {
+    RunEvent(game_, RequireChoosable(game_.controls, words[1]).Click);
+}
+
+void Session::PassTime(const Words& words) {
+    const long times =
+        words.size() > 1 ? ParseNumber<long>(words[1], 1, std::numeric_limits<long>::max()) : 1;
+    for (long time = 0; time < times && game_.blnOpen && game_.controls.tmrAI.Enabled; ++time) {
+        tmrAI_Timer(game_);
+    }
+}
+
+void Session::QueueAnswers(const Words& words) {
+    std::vector<Answer> answers;
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        const std::optional<Answer> answer = AnswerOf(words[i]);
+        if (!answer || *answer == Answer::OK) {
+            throw Refusal("An answer is yes, no, retry or cancel, not \"" + words[i] + "\".");
+        }
+        answers.push_back(*answer);
+    }
+    for (const Answer answer : answers) dialogs_.QueueAnswer(answer);
+}
+
+void Session::QueueNumbers(const Words& words) {
+    std::vector<double> numbers;
+    for (std::size_t i = 1; i < words.size(); ++i) numbers.push_back(ParseUniform(words[i]));
+    for (const double number : numbers) random_.QueueNumber(number);
+}
+
+void Session::Seed(const Words& words) {
+    random_.SetSeed(
+        ParseNumber<std::uint64_t>(words[1], 0, std::numeric_limits<std::uint64_t>::max()));
+}
+
+void Session::SaveAs(const Words& words) {
+    const std::string path = AbsolutePath(words[1]);
+    const MenuCommand& mnuSaveAs = RequireChoosable(game_.controls, "mnuSaveAs");
+    dialogs_.SetSaveFileName(path);
+    RunEvent(game_, mnuSaveAs.Click);
+}
+
+// The front end shows the state after every command.
+void Session::ShowState(const Words&) {}
+
+void Session::Close(const Words&) { RunEvent(game_, Form_Unload); }
+
+}  // namespace qarn

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "console/console_ports.h"
+#include "core/game.h"
+
+namespace qarn {
+
+/// One run of the text front end: a game window's logic, driven by commands. Each command runs the
+/// handler that the matching control of the desktop window runs.
+class Session {
+public:
+    explicit Session(const DesktopPorts& desktop);
+
+    /// Carries out one command, taken apart into words (at least one). Throws Refusal, and changes
+    /// nothing, for what a person could not do.
+    void Execute(const std::vector<std::string>& words);
+
+    const Game& CurrentGame() const { return game_; }
+    ConsoleDialogs& Dialogs() { return dialogs_; }
+    ConsoleHelp& Help() { return help_; }
+
+private:
+    using Words = std::vector<std::string>;
+    struct Command {
+        std::string_view name;
+        std::size_t fewestWords;  // behind the name
+        std::size_t mostWords;
+        bool needsGame;
+        void (Session::*run)(const Words&);
+    };
+    static const Command* FindCommand(std::string_view name);
+
+    void New(const Words& words);
+    void Open(const Words& words);
+    void Click(const Words& words);
+    void Press(const Words& words);
+    void Tick(const Words& words);
+    void Untick(const Words& words);
+    void ChooseMenu(const Words& words);
+    void PassTime(const Words& words);
+    void QueueAnswers(const Words& words);
+    void QueueNumbers(const Words& words);
+    void Seed(const Words& words);
+    void SaveAs(const Words& words);
+    void ShowState(const Words& words);
+    void Close(const Words& words);
+
+    void PressTerrainDetails(std::string_view name);
+    void SetTick(const std::string& word, bool ticked);
+    void RequireRunning() const;
+
+    ConsoleDialogs dialogs_;
+    ConsoleRandomNumbers random_;
+    ConsoleHelp help_;
+    Game game_;
+};
+
+}  // namespace qarn

@@ -1,0 +1,293 @@
+#include "ai/turn_driver.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "ai/action.h"
+#include "core/turn_cycle.h"
+#include "support/played_game.h"
+#include "window/load_game.h"
+#include "window/run_event.h"
+
+namespace qarn {
+namespace {
+
+// A game in which the computer plays side 1, and Blue side 2.
+class ComputerGame : public PlayedGame {
+public:
+    explicit ComputerGame(const std::string& position) : PlayedGame(position) {
+        game.record.blnComputer[1] = true;
+        ShowTurn(game, false);
+    }
+
+    void Tick() { RunEvent(game, tmrAI_Timer); }
+
+    // Lets the timer tick while it is enabled in side 1's turn. Tells after each tick where the
+    // highlight is, and the first line of the status.
+    std::string TickOn() {
+        std::string ticks;
+        while (game.controls.tmrAI.Enabled && game.record.bytTurn == 1) {
+            Tick();
+            const Marker& highlight = game.controls.shpHighlight;
+            if (highlight.Visible) {
+                ticks += std::to_string(highlight.Left) + "," + std::to_string(highlight.Top) + " ";
+            }
+            const std::string& status = game.controls.lblStatus.Caption;
+            ticks += status.substr(0, status.find('\n')) + "\n";
+        }
+        return ticks;
+    }
+
+    std::string Square(std::size_t X, std::size_t Y) const {
+        return game.controls.lbl[X][Y].Caption;
+    }
+};
+
+TEST(TurnDriver, PlaysOneStageATick) {
+    ComputerGame played("HF@10,10 Q@10,10 BT@10,10 J@13,10 Z@1,1");
+    EXPECT_EQ(played.TickOn(),
+              "You are currently in move mode.\n"
+              "6595,8755 Choose the item(s) you would like to move.\n"
+              "6595,8755 You have 6 mobility units.\n"
+              "7315,8755 You have 5 mobility units left.\n"
+              "8035,8755 You have 4 mobility units left.\n"
+              "8755,8755 You stepped into a square with characters from your side.\n"
+              "It is Blue's turn.\n");
+    EXPECT_EQ(played.Square(13, 10), "Q    J    HF   BT   ");
+    EXPECT_FALSE(played.game.controls.tmrAI.Enabled || played.game.record.Action.blnAIBusy);
+}
+
+TEST(TurnDriver, PutsTheHighlightOnTheSquareItClicks) {
+    ComputerGame played("Q@10,10");
+    ClickSquare(played.game, 1, 1);
+    EXPECT_EQ(played.game.controls.shpHighlight.Left, 115);
+    EXPECT_EQ(played.game.controls.shpHighlight.Top, 115);
+    ClickSquare(played.game, 18, 10);
+    EXPECT_EQ(played.game.controls.shpHighlight.Left, 12355);
+    EXPECT_EQ(played.game.controls.shpHighlight.Top, 8755);
+    EXPECT_EQ(played.game.record.bytCurrentX, 18);
+}
+
+// Of Q 5+5, J 3+5 and V 4+4 the J is the first of the weakest. The boat beside the target, and the
+// target itself, are no part of the list.
+TEST(TurnDriver, ChoosesTheCasualtyAmongThoseWhoseBoxesAreShowing) {
+    struct Row {
+        std::vector<int> rolls;
+        std::string attackersSquare;
+        std::string targetSquare;
+    };
+    const Row rows[] = {{{5}, "Q    V    BT   ", "Z    BT   "},
+                        {{1, 3}, "", "Q    V    BT   BT   "}};
+    for (const Row& row : rows) {
+        ComputerGame played("Q@10,10 J@10,10 V@10,10 BT@10,10 Z@12,10 BT@12,10 ZA1@1,1");
+        for (const int roll : row.rolls) played.random.QueueRoll(roll);
+        played.dialogs.queued = {Answer::Yes};
+        const std::string ticks = played.TickOn();
+        EXPECT_EQ(std::count(ticks.begin(), ticks.end(), '\n'), 1 + 2 + 5) << ticks;
+        EXPECT_EQ(played.Square(11, 10), row.attackersSquare);
+        EXPECT_EQ(played.Square(12, 10), row.targetSquare);
+        EXPECT_EQ(played.game.record.bytTurn, 2);
+    }
+}
+
+TEST(TurnDriver, EndsTheMoveWhenThePersonCallsTheAttackOff) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@12,10");
+    played.dialogs.queued = {Answer::No};
+    played.TickOn();
+    EXPECT_EQ(played.Square(11, 10), "TS   WS   ");
+    EXPECT_EQ(played.game.controls.lblStatus.Caption, "It is Blue's turn.");
+}
+
+// Burning passes the turn, and so does the end of the move: the side that burned plays on.
+TEST(TurnDriver, FinishesTheMoveThatBurnedGallowrock) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@12,10 12,10=7");
+    played.game.record.blnComputer[2] = true;
+    played.dialogs.queued = {Answer::Yes};
+    played.TickOn();
+    EXPECT_EQ(played.game.record.bytTurn, 2);
+    EXPECT_TRUE(played.game.record.Action.blnAIBusy);
+    played.Tick();
+    EXPECT_EQ(played.game.record.bytTurn, 1);
+    EXPECT_TRUE(played.game.controls.tmrAI.Enabled && !played.game.record.Action.blnAIBusy);
+}
+
+TEST(TurnDriver, LeavesAPersonsTurnAlone) {
+    ComputerGame played("turn2 Q@10,10 J@13,10 Z@1,1");
+    played.game.controls.tmrAI.Enabled = true;
+    played.Tick();
+    EXPECT_TRUE(played.game.controls.tmrAI.Enabled && !played.game.record.Action.blnAIBusy);
+}
+
+TEST(TurnDriver, LetsThePersonMoveWhenThereIsNoGoodMove) {
+    ComputerGame played("Q@10,10 Z@1,1");
+    played.Tick();
+    EXPECT_EQ(played.dialogs.boxes.back().Text, "No good move!");
+    EXPECT_FALSE(played.game.controls.tmrAI.Enabled || played.game.record.Action.blnAIBusy);
+    played.Play("> press cmdMove; click 10 10; press cmdDoneSel; click 11 10; press cmdMove");
+    EXPECT_EQ(played.game.record.bytTurn, 2);
+}
+
+TEST(TurnDriver, TellsAFailureOnceAndStops) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@12,10");
+    played.game.record.People[3].Attack = 255;
+    played.TickOn();
+    ASSERT_EQ(played.dialogs.boxes.size(), 1u);
+    EXPECT_NE(played.dialogs.boxes[0].Text.find("263"), std::string::npos);
+    EXPECT_EQ(played.game.record.bytTurn, 1);
+}
+
+TEST(TurnDriver, ForgetsTheActionWhenAGameIsLoaded) {
+    ComputerGame played("Q@10,10 J@13,10 Z@1,1");
+    for (int tick = 0; tick < 4; ++tick) played.Tick();
+    played.Load("Q@10,10 J@13,10 Z@1,1");
+    EXPECT_FALSE(played.game.record.Action.blnAIBusy || played.game.controls.tmrAI.Enabled ||
+                 played.game.controls.shpHighlight.Visible);
+    played.Play("> press cmdMove; click 10 10; press cmdDoneSel; click 11 10; press cmdMove");
+    EXPECT_EQ(played.Square(11, 10), "Q    ");
+}
+
+// ---- A person who meddles ----
+
+class Meddler {
+public:
+    Meddler(ComputerGame& played, unsigned seed) : played_(played), random_(seed) {}
+
+    // Something that a person can do, or a tick.
+    void Act() {
+        static const std::vector<std::string> presses{"press cmdMove", "press cmdAttack",
+                                                      "press cmdDoneSel", "press cmdSquareDetails"};
+        FillQueues();
+        switch (Below(8)) {
+            case 0:
+            case 1:
+                played_.Do(presses[Below(presses.size())]);
+                break;
+            case 2:
+                played_.Do((Below(2) == 0 ? "tick " : "untick ") + std::to_string(1 + Below(11)));
+                break;
+            case 3:
+                ClickGroup();
+                break;
+            case 4:
+                ClickBesideCurrentSquare();
+                break;
+            default:
+                TickIfEnabled();
+                break;
+        }
+    }
+
+    // Does what a person does who wants the game to go on. Gives true when it does.
+    bool GoesOn() {
+        const Game& game = played_.game;
+        const std::uint8_t turn = game.record.bytTurn;
+        for (int action = 0; action < 100; ++action) {
+            if (game.blnEnded || game.record.bytTurn != turn) return true;
+            FillQueues();
+            TickIfEnabled() || LeaveDetails() || Confirm() || Retreat() || Move();
+        }
+        return false;
+    }
+
+private:
+    std::size_t Below(std::size_t bound) { return random_() % bound; }
+
+    void FillQueues() {
+        while (played_.dialogs.queued.size() < 5) {
+            played_.dialogs.queued.push_back(Below(4) == 0 ? Answer::No : Answer::Yes);
+        }
+        while (played_.random.queued.size() < 5) {
+            played_.random.QueueRoll(static_cast<int>(1 + Below(5)));
+        }
+    }
+
+    bool TickIfEnabled() {
+        if (!played_.game.controls.tmrAI.Enabled || !IsComputersTurn(played_.game.record)) {
+            return false;
+        }
+        played_.Tick();
+        return true;
+    }
+
+    bool LeaveDetails() {
+        return played_.game.record.blnDetailsMode && played_.Do("press cmdSquareDetails");
+    }
+
+    bool Confirm() {
+        if (!played_.game.controls.cmdDoneSel.Visible) return false;
+        for (int box = 1; box <= checkBoxCount; ++box) played_.Do("untick " + std::to_string(box));
+        played_.Do("tick 1");
+        return played_.Do("press cmdDoneSel");
+    }
+
+    bool Retreat() {
+        return played_.game.controls.cmdAttack.Caption == "&Retreat" &&
+               played_.Do("press cmdAttack");
+    }
+
+    bool Move() {
+        if (!played_.Do("press cmdMove") || !played_.game.controls.cmdMove.Enabled) ClickGroup();
+        return true;
+    }
+
+    void ClickGroup() {
+        const GameRecord& record = played_.game.record;
+        const PeopleRecord& people = record.People[1 + Below(peopleCount)];
+        if (people.Side == record.bytTurn && OnBoard(people)) {
+            Click(people.LocationX, people.LocationY);
+        } else if (record.bytPeopleLeft.at(record.bytTurn) > 0) {
+            ClickGroup();
+        }
+    }
+
+    void ClickBesideCurrentSquare() {
+        const int X = played_.game.record.bytCurrentX + static_cast<int>(Below(3)) - 1;
+        const int Y = played_.game.record.bytCurrentY + static_cast<int>(Below(3)) - 1;
+        if (X >= 1 && X <= columnCount && Y >= 1 && Y <= rowCount) Click(X, Y);
+    }
+
+    void Click(int X, int Y) {
+        played_.Do("click " + std::to_string(X) + " " + std::to_string(Y));
+    }
+
+    ComputerGame& played_;
+    std::mt19937 random_;
+};
+
+int CharactersLeft(const GameRecord& record) {
+    return static_cast<int>(
+        std::count_if(record.People.begin(), record.People.end(), [](const PeopleRecord& people) {
+            return !IsTransport(people) && OnBoard(people);
+        }));
+}
+
+// Close together, so that everybody soon fights; a strong and a weak stack on either side.
+const std::string melee =
+    "TS@10,9 WS@10,9 BT@10,9 S@11,10 LS@12,10 V@12,10 J@12,9 SK@12,9 Q@13,9 "
+    "WA@11,9 WA1@13,10 WA2@13,10 ZA3@13,10 WA3@14,9 Z@9,10 ZA1@10,10 ZA2@10,10 10,10=7 9,10=8";
+
+TEST(TurnDriver, SurvivesWhateverThePersonDoes) {
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        ComputerGame played(melee);
+        for (const std::size_t i : {2, 3, 6, 7, 15}) played.game.record.People[i].Attack += 8;
+        played.game.record.blnComputer[2] = seed % 3 == 0;
+        Meddler person(played, seed);
+        int left = CharactersLeft(played.game.record);
+        for (int action = 0; action < 80 && !played.game.blnEnded; ++action) {
+            person.Act();
+            ASSERT_LE(CharactersLeft(played.game.record), left) << "The dead have risen.";
+            left = CharactersLeft(played.game.record);
+        }
+        ASSERT_TRUE(person.GoesOn());
+        for (const MessageBox& box : played.dialogs.boxes) {
+            ASSERT_EQ(box.Text.find("::"), std::string::npos) << box.Text;  // an index out of range
+        }
+        played.ExpectBoardShown();
+    }
+}
+
+}  // namespace
+}  // namespace qarn

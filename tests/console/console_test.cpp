@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include "console/console_ports.h"
+#include "console/options.h"
+#include "console/words.h"
+
+namespace qarn {
+namespace {
+
+TEST(Words, AreTakenApart) {
+    using Words = std::vector<std::string>;
+    const std::pair<const char*, Words> rows[] = {
+        {"click 1\t 10\r", {"click", "1", "10"}},
+        {"  ", {}},
+        {R"(new "a b" "" c)", {"new", "a b", "", "c"}},
+        {R"("say \"hi\" \\ \n \")", {}},
+        {R"("say \"hi\" \\ \n")", {R"(say "hi" \ \n)"}},
+        {R"(a"b c" "d"e)", {"a\"b", "c\"", "d", "e"}},
+        {R"(C:\games\ "C:\games\\")", {R"(C:\games\)", R"(C:\games\)"}},
+        {"\"open", {}},
+    };
+    for (const auto& [line, words] : rows) {
+        try {
+            EXPECT_EQ(SplitWords(line), words) << line;
+        } catch (const Refusal& refusal) {
+            EXPECT_TRUE(words.empty()) << line;
+            EXPECT_STREQ(refusal.what(), "A word in double quotes is not closed.");
+        }
+    }
+}
+
+TEST(ConsoleDialogs, AnswersComeFromTheQueueThenFromAPerson) {
+    ConsoleDialogs dialogs;
+    const MessageBox ok{.Title = "", .Text = "text"};
+    const MessageBox yesNo{.Title = "", .Text = "text", .Offered = Buttons::YesNo};
+    const MessageBox retry{.Title = "", .Text = "text", .Offered = Buttons::RetryCancel};
+    for (const Answer answer : {Answer::Yes, Answer::Retry, Answer::Retry, Answer::Yes}) {
+        dialogs.QueueAnswer(answer);
+    }
+    EXPECT_EQ(dialogs.Show(ok), Answer::OK);  // takes none
+    EXPECT_EQ(dialogs.Show(yesNo), Answer::Yes);
+    EXPECT_EQ(dialogs.Show(yesNo), Answer::No);  // Retry is not offered
+    EXPECT_EQ(dialogs.Show(retry), Answer::Retry);
+    EXPECT_EQ(dialogs.Show(retry), Answer::Cancel);
+    EXPECT_EQ(dialogs.Show(yesNo), Answer::No);
+    EXPECT_EQ(dialogs.TakeShown().size(), 6u);
+    EXPECT_TRUE(dialogs.TakeShown().empty());
+
+    std::optional<Answer> person = Answer::Yes;
+    dialogs.SetAskPerson([&](const MessageBox&) { return person; });
+    dialogs.QueueAnswer(Answer::No);
+    EXPECT_EQ(dialogs.Show(yesNo), Answer::No);
+    EXPECT_EQ(dialogs.Show(yesNo), Answer::Yes);
+    person.reset();
+    EXPECT_EQ(dialogs.Show(retry), Answer::Cancel);
+}
+
+TEST(ConsoleRandomNumbers, QueueThenGenerator) {
+    ConsoleRandomNumbers random;
+    random.SetSeed(7);
+    const double first = random.Next(), second = random.Next();
+    random.QueueNumber(0.25);
+    random.Seed();
+    EXPECT_EQ(random.Next(), 0.25);
+    EXPECT_EQ(random.Next(), first);
+    EXPECT_EQ(random.Next(), second);
+    random.SetSeed(8);
+    EXPECT_NE(random.Next(), first);
+}
+
+}  // namespace
+}  // namespace qarn

@@ -1,0 +1,162 @@
+#include "core/file_store.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
+#include <random>
+
+#include "support/temp_folder.h"
+
+namespace qarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+int ErrorOf(const std::function<void()>& action) {
+    try {
+        action();
+        return 0;
+    } catch (const std::system_error& error) {
+        return error.code().value();
+    }
+}
+
+// The error of an action that a process of its own carries out.
+int ErrorInChild(const std::function<void()>& action) {
+    const pid_t child = fork();
+    if (child == 0) _exit(ErrorOf(action));
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+// Root may write everywhere, so it becomes nobody.
+void GiveUpRoot() {
+    constexpr uid_t nobody = 65534;
+    if (geteuid() == 0 && setresuid(nobody, nobody, nobody) != 0) _exit(255);
+}
+
+std::size_t EntriesIn(const fs::path& folder) {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+}
+
+TEST(FileStore, ReplacesAndKeepsLinksAndPermissions) {
+    TempFolder folder;
+    fs::create_directory(folder.Path() / "sub");
+    const std::string file = folder / "sub/game";
+    ReplaceFile(file, "new");
+    EXPECT_EQ(ReadFile(file), "new");
+
+    fs::permissions(file, fs::perms(0640));
+    fs::create_symlink("sub/game", folder / "link");
+    fs::create_symlink(folder / "link", folder / "link of link");
+    ReplaceFile(folder / "link of link", "newer");
+    EXPECT_EQ(ReadFile(file), "newer");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+    EXPECT_EQ(fs::read_symlink(folder / "link"), "sub/game");
+    EXPECT_TRUE(fs::is_symlink(folder / "link of link"));
+
+    fs::create_symlink("sub/not there yet", folder / "dangling");
+    ReplaceFile(folder / "dangling", "there");
+    EXPECT_EQ(ReadFile(folder / "sub/not there yet"), "there");
+    EXPECT_TRUE(fs::is_symlink(folder / "dangling"));
+    EXPECT_EQ(EntriesIn(folder.Path() / "sub"), 2u);
+
+    DeleteFile(file);
+    EXPECT_FALSE(fs::exists(file));
+    EXPECT_EQ(ErrorOf([&] { DeleteFile(file); }), 0);
+    EXPECT_NE(ErrorOf([&] { DeleteFile(folder / "sub"); }), 0);
+}
+
+TEST(FileStore, RefusalsLeaveEverythingAsItWas) {
+    TempFolder folder;
+    fs::permissions(folder.Path(), fs::perms(0777));
+    const std::string file = folder / "game";
+    WriteFile(file, "old");
+    fs::create_symlink("b", folder / "a");
+    fs::create_symlink("a", folder / "b");
+    fs::create_directory(folder.Path() / "folder");
+    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "none/game", "new"); }), ENOENT);
+    EXPECT_EQ(ErrorOf([&] { ReplaceFile(file + "/game", "new"); }), ENOTDIR);
+    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "folder", "new"); }), EISDIR);
+    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "a", "new"); }), ELOOP);
+    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / std::string(300, 'n'), "new"); }), ENAMETOOLONG);
+
+    fs::permissions(file, fs::perms(0444));
+    EXPECT_EQ(ErrorInChild([&] {
+                  GiveUpRoot();
+                  ReplaceFile(file, "new");
+              }),
+              EACCES);
+    fs::permissions(file, fs::perms(0666));
+    fs::permissions(folder.Path(), fs::perms(0555));
+    EXPECT_EQ(ErrorInChild([&] {
+                  GiveUpRoot();
+                  ReplaceFile(file, "new");
+              }),
+              EACCES);
+    fs::permissions(folder.Path(), fs::perms(0777));
+    EXPECT_EQ(ErrorInChild([&] {  // as on a disk that is full after 100 bytes
+                  signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit{100, 100};
+                  if (setrlimit(RLIMIT_FSIZE, &limit) != 0) _exit(255);
+                  ReplaceFile(file, std::string(101, 'n'));
+              }),
+              EFBIG);
+    EXPECT_EQ(ReadFile(file), "old");
+    EXPECT_EQ(EntriesIn(folder.Path()), 4u);
+}
+
+TEST(FileStore, ReadsOnlyWholeOrdinaryFiles) {
+    TempFolder folder;
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    WriteFile(folder / "largest", std::string(1 << 20, 'x'));
+    WriteFile(folder / "larger", std::string((1 << 20) + 1, 'x'));
+    EXPECT_EQ(ReadWholeFile(folder / "largest"), ReadFile(folder / "largest"));
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder / "larger"); }), EFBIG);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder / "none"); }), ENOENT);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder.Path()); }), EISDIR);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(pipe); }), EINVAL);
+}
+
+// Whatever the instant at which the program is killed, the old file is there or the new one, whole;
+// and what was left lying about does not hinder the next save.
+TEST(FileStore, KilledAtAnyInstant) {
+    TempFolder folder;
+    const std::string file = folder / "game";
+    const std::string one(100'000, '1'), other(100'000, '2');
+    WriteFile(file, one);
+    std::mt19937 random;
+    int killedWhileSaving = 0;
+    for (int round = 0; round < 60; ++round) {
+        const std::size_t entries = EntriesIn(folder.Path());
+        const pid_t child = fork();
+        if (child == 0) {
+            for (;;) {
+                ReplaceFile(file, other);
+                ReplaceFile(file, one);
+            }
+        }
+        usleep(std::uniform_int_distribution<useconds_t>(500, 10'000)(random));
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        if (EntriesIn(folder.Path()) > entries) ++killedWhileSaving;
+        const std::string found = ReadFile(file);
+        ASSERT_TRUE(found == one || found == other) << found.size() << " bytes";
+    }
+    EXPECT_GT(killedWhileSaving, 0);
+    ReplaceFile(file, "saved");
+    EXPECT_EQ(ReadFile(file), "saved");
+}
+
+}  // namespace
+}  // namespace qarn

@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include "rules/casualties.h"
+#include "rules/step.h"
+#include "rules/terrain.h"
+#include "scenarios/setup.h"
+#include "support/sequence.h"
+
+namespace qarn {
+namespace {
+
+class Rules : public testing::TestWithParam<Sequence> {};
+
+TEST_P(Rules, GoAsPlayed) { ExpectSequence(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Moves, Rules, testing::ValuesIn(ReadSequences("rules/moves.txt")), NameOf);
+INSTANTIATE_TEST_SUITE_P(Attacks, Rules, testing::ValuesIn(ReadSequences("rules/attacks.txt")),
+                         NameOf);
+
+TEST(Movement, WhoCrossesWater) {
+    struct Row {
+        const char* groups;  // on one square
+        int stays;           // the box that is unticked, 12 for none
+        bool crosses;
+    };
+    for (const Row& row :
+         {Row{"Q@5,1", 12, false}, Row{"J@5,1", 12, true}, Row{"J@5,1 HF@5,1", 2, false},
+          Row{"J@5,1 BT@5,1", 2, false}, Row{"J@5,1 BT@5,1", 12, true},
+          Row{"SK@5,1 HF@5,1", 12, true}, Row{"SK@5,1 HF@5,1", 2, true},
+          Row{"Q@5,1 SK@5,1", 12, false}, Row{"HF@5,1 CT@5,1", 12, false}}) {
+        PlayedGame played(std::string("Z@1,10 ") + row.groups);
+        played.Play("> press cmdMove; click 5 1");
+        played.game.controls.chkItems.at(static_cast<std::size_t>(row.stays) % 12).Value = false;
+        played.Play("> press cmdDoneSel; click 6 1");
+        EXPECT_EQ(played.game.record.bytGroupX, row.crosses ? 6 : 5) << row.groups << row.stays;
+        EXPECT_EQ(played.game.controls.lblStatus.Caption.starts_with("You can not go on water"),
+                  !row.crosses);
+    }
+}
+
+// The cost of a step onto each terrain, codes 0 to 8, for those who go together. The landmarks are
+// made dear, so that it shows who pays for them.
+TEST(Movement, CostsOfSteps) {
+    PlayedGame played("HM");
+    GameRecord& record = played.game.record;
+    record.TerrainKinds[Fortress].Mobility = 7;
+    record.TerrainKinds[Abbey].Mobility = 8;
+    const std::vector<std::pair<std::vector<std::uint8_t>, std::string>> rows{
+        {{1}, "151132278"},      // on foot
+        {{3}, "121132178"},      // climbs
+        {{12}, "111111171"},     // flies
+        {{3, 16}, "151132278"},  // not together, though
+        {{12, 13}, "151132278"}, {{3, 19}, "151132278"}};
+    for (const auto& [people, expected] : rows) {
+        std::copy(people.begin(), people.end(), record.bytSelectedPeople.begin() + 1);
+        record.bytSelectedCount = static_cast<std::uint8_t>(people.size());
+        std::string costs;
+        for (std::uint8_t T = Plain; T <= Abbey; ++T) costs += std::to_string(StepCost(record, T));
+        EXPECT_EQ(costs, expected) << "of " << int{people[0]};
+    }
+}
+
+// What becomes of 10 attack and 10 defense units: under a defender who is attacked by command, and
+// directly, and under an attacker.
+TEST(Combat, TerrainModifiers) {
+    PlayedGame played("abbey HM");
+    GameRecord& record = played.game.record;
+    const char* rows[] = {"10/10 10/10 10/10", "barred 10/12 13/10", "10/10 10/12 10/10",
+                          "10/10 10/10 10/10", "10/11 10/11 10/10",  "10/10 10/10 10/10",
+                          "10/12 10/12 10/10", "10/13 10/13 10/13",  "10/14 10/14 10/14"};
+    for (std::uint8_t T = Plain; T <= Abbey; ++T) {
+        record.bytTerrain[1][1] = T;
+        std::string row;
+        for (const auto& [defending, direct] :
+             {std::pair{true, false}, {true, true}, {false, true}}) {
+            const TerrainEffect effect = TerrainModifiers(record, 1, 1, defending, 10, 10, direct);
+            row += effect.blnAllowed ? std::to_string(effect.bytAttackOut) + "/" +
+                                           std::to_string(effect.bytDefenseOut) + " "
+                                     : "barred ";
+        }
+        EXPECT_EQ(row, std::string(rows[T]) + " ") << "terrain " << int{T};
+    }
+}
+
+// The game ends in the middle of an attack: nothing that would follow happens any more.
+TEST(Combat, EndsTheGame) {
+    const std::string byCommand = "> press cmdAttack; click 15 10; ";
+    const std::string inAMove = "> press cmdMove; click 15 10; press cmdDoneSel; answer yes; ";
+    for (const auto& [play, winner] :
+         {std::pair{byCommand + "roll 1; click 16 10", 0u},
+          {inAMove + "roll 1; click 16 10", 0u},
+          {byCommand + "roll 5; click 16 10; tick 1; press cmdDoneSel", 1u},
+          {inAMove + "roll 5; click 16 10; tick 1; press cmdDoneSel", 1u}}) {
+        PlayedGame played("LS@15,10 ZA1@16,10 LS.Attack=9");
+        played.Play(play);
+        EXPECT_TRUE(played.game.blnEnded && !played.game.blnOpen) << play;
+        EXPECT_EQ(played.game.exitStatus, 0);
+        EXPECT_EQ(played.dialogs.boxes.back().Text, DataOfScenario(7).VictoryText[winner]);
+        EXPECT_FALSE(std::filesystem::exists(played.path));
+    }
+}
+
+TEST(Casualties, TheComputersChoice) {
+    const PlayedGame played("Q@1,1 TS@1,1 J@1,1 SK@1,1 BT@2,2 V@2,2 CT@3,3 Z@9,9 Z.Attack=97");
+    const GameRecord& record = played.game.record;
+    EXPECT_EQ(ChooseDeadAnimal(record, 1, 1), 3);  // J and SK are equal: the first is kept
+    EXPECT_EQ(ChooseDeadAnimal(record, 2, 2), 1);
+    EXPECT_EQ(ChooseDeadAnimal(record, 3, 3), 1);  // nobody
+    EXPECT_EQ(ChooseDeadAnimal(record, 9, 9), 1);  // nobody below 100
+}
+
+TEST(Casualties, TheCountStopsAtTheFirstTransport) {
+    PlayedGame played("Q@1,1 HF@1,1 J@1,1 Z@9,9 V.Side=0");  // HF comes behind V
+    CountPeople(played.game);
+    EXPECT_EQ(played.game.record.bytPeopleLeft[1], 2);
+    EXPECT_EQ(played.game.record.bytPeopleLeft[2], 1);
+}
+
+TEST(Terrain, DetailsButtons) {
+    PlayedGame played("HM");
+    Controls& controls = played.game.controls;
+    cmdSeeTerDet_Click(played.game, 1);
+    EXPECT_EQ(controls.lblTerrainDescription.Caption,
+              "Mountain\nMobility: 5\nAttack: 3\nDefense: 2\nComments: 5 to move, no indirect "
+              "attack, +3 to attack down, 2 for defense, and no indirect attack");
+    EXPECT_TRUE(controls.lblTerrainDescription.Visible);
+    EXPECT_EQ(controls.lblTerrainDescription.Top, 480);
+    for (std::size_t i = 0; i < terrainKindCount; ++i) {
+        EXPECT_EQ(controls.cmdSeeTerDet[i].Enabled, i == 1);
+        EXPECT_EQ(controls.cmdSeeTerDet[i].Caption, i == 1 ? "&X" : "...");
+    }
+    cmdSeeTerDet_Click(played.game, 1);
+    EXPECT_FALSE(controls.lblTerrainDescription.Visible);
+    EXPECT_EQ(controls.lblTerrainDescription.Caption, "");
+    for (const Button& button : controls.cmdSeeTerDet) EXPECT_TRUE(button.Enabled);
+}
+
+}  // namespace
+}  // namespace qarn

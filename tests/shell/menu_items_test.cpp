@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include "shell/about.h"
+#include "shell/default_path.h"
+#include "shell/program_texts.h"
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+const std::string filepathSetting = "QARN/Filepath/04505230";
+
+TEST(DefaultPathTest, IsTheSettingOrAFolderThatCanBeWrittenTo) {
+    PlayedGame world;
+    Ports& ports = world.game.ports;
+    const std::string data = world.folder / "data/qarn";
+    ports.folders = {world.folder.Path().string(), data};
+    EXPECT_EQ(DefaultPath(ports), world.folder.Path().string());
+    EXPECT_FALSE(std::filesystem::exists(data));
+    ports.folders.program = world.folder / "missing";  // nobody can write there
+    EXPECT_EQ(DefaultPath(ports), data);
+    EXPECT_TRUE(std::filesystem::is_directory(data));
+
+    world.settings.values[filepathSetting] = "/no/such/folder";
+    EXPECT_EQ(DefaultPath(ports), "/no/such/folder");
+    world.settings.values[filepathSetting] = std::string(5000, 'x');
+    EXPECT_EQ(DefaultPath(ports), data);
+}
+
+TEST(DefaultPathTest, IsAskedForInAPrompt) {
+    PlayedGame world("Q@13,4");
+    world.settings.values[filepathSetting] = "/old";
+    world.Do("menu mnuDefaultFilepath");  // cancelled
+    world.dialogs.typedText = "/new place";
+    world.Do("menu mnuDefaultFilepath");
+    EXPECT_EQ(world.dialogs.prompts.back(),
+              (Texts{"Default Filepath", "Enter the default filepath for QARN to use.", "/old"}));
+    EXPECT_EQ(world.settings.values[filepathSetting], "/new place");
+    world.settings.writeError = "disk full.";
+    world.Do("menu mnuDefaultFilepath");
+    EXPECT_EQ(world.dialogs.boxes.back().Text, "The setting can not be stored: disk full.");
+}
+
+TEST(FileTypeTest, IsRegisteredOnce) {
+    PlayedGame world("Q@13,4");
+    world.game.ports.folders.program = "/opt/my games";
+    EXPECT_FALSE(world.game.controls.mnuTGF.Checked);
+    world.Do("menu mnuTGF");
+    EXPECT_TRUE(world.game.controls.mnuTGF.Checked);
+    EXPECT_EQ(world.dialogs.boxes.back().Text,
+              "The TGF file extension has been associated with the program.");
+    EXPECT_EQ(world.fileTypes.keys,
+              (Texts{".tgf", "tgf_ext", "tgf_ext\\DefaultIcon", "tgf_ext\\shell",
+                     "tgf_ext\\shell\\open", "tgf_ext\\shell\\open\\command"}));
+    EXPECT_EQ(world.fileTypes.values,
+              (std::map<std::string, std::string>{
+                  {".tgf", "tgf_ext"},
+                  {"tgf_ext", "Tactical Game File"},
+                  {"tgf_ext\\DefaultIcon", ""},
+                  {"tgf_ext\\shell\\open\\command", "\"/opt/my games/qarn\""}}));
+
+    world.fileTypes.values = {{".tgf", "another program's"}};
+    world.Load("Q@13,4");
+    EXPECT_TRUE(world.game.controls.mnuTGF.Checked);
+    world.Do("menu mnuTGF");
+    EXPECT_EQ(world.help.topics, Texts{"Troubleshooting.htm#Remove"});
+    EXPECT_EQ(world.fileTypes.keys.size(), 6u);
+}
+
+// The boxes of a registration in which one key cannot be made and another takes no value.
+std::string BoxesOf(const std::string& uncreatable, const std::string& unwritable) {
+    PlayedGame world("Q@13,4");
+    world.fileTypes.uncreatable = uncreatable;
+    world.fileTypes.unwritable = unwritable;
+    world.Do("menu mnuTGF");
+    EXPECT_TRUE(world.game.controls.mnuTGF.Checked);
+    std::string texts;
+    for (const MessageBox& box : world.dialogs.boxes) texts += box.Text.substr(0, 10) + "|";
+    return texts + std::to_string(world.fileTypes.keys.size());
+}
+
+TEST(FileTypeTest, AFailureEndsTheWriting) {
+    EXPECT_EQ(BoxesOf("", ".tgf"), "Error Sett|The TGF fi|1");
+    EXPECT_EQ(BoxesOf("tgf_ext", ""), "Error: Cre|Error Sett|The TGF fi|2");
+    EXPECT_EQ(BoxesOf("tgf_ext\\shell", ""), "Error: Cre|The TGF fi|6");
+}
+
+TEST(AboutTest, IsOpenOnceAtMost) {
+    PlayedGame world("Q@13,4");
+    EXPECT_EQ(ProductNameVersion(), "Thornmere Series Tactical Game Version 1.8.1");
+    EXPECT_TRUE(world.Do("menu mnuAbout"));
+    world.Load("Q@13,4");  // the window loads again, and the other one stays
+    EXPECT_FALSE(world.Do("menu mnuAbout"));
+    frmAbout_Unload(world.game);
+    EXPECT_TRUE(world.Do("menu mnuAbout"));
+
+    world.dialogs.queued = {Answer::Yes};
+    EXPECT_TRUE(world.Do("menu Open"));
+    EXPECT_TRUE(world.game.blnLeftByOpen);
+    EXPECT_TRUE(world.game.controls.mnuAbout.Enabled);
+}
+
+}  // namespace
+}  // namespace qarn

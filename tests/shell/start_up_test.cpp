@@ -1,0 +1,144 @@
+#include "shell/start_up.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/command_line.h"
+#include "shell/fixed_display.h"
+#include "support/fake_ports.h"
+#include "support/temp_folder.h"
+
+namespace qarn {
+namespace {
+
+struct FakeDisplay : DisplaySettings {
+    std::optional<DisplayMode> Mode(int number) override {
+        const auto index = static_cast<std::size_t>(number);
+        return index < modes.size() ? std::optional(modes[index]) : std::nullopt;
+    }
+    DisplayChange Change(const DisplayMode& request, bool permanent) override {
+        changes += std::to_string(request.Width) + "x" + std::to_string(request.Height) +
+                   (permanent ? " permanent " : " ");
+        return result;
+    }
+
+    std::vector<DisplayMode> modes{{800, 600}, {1024, 768}};
+    DisplayChange result = DisplayChange::Failed;
+    std::string changes;
+};
+
+struct FakeComputer : Computer {
+    void Restart() override { throw std::runtime_error("Not allowed."); }
+};
+
+struct Started {
+    FakeDialogs dialogs;
+    FakeHelp help;
+    FakeDisplay display;
+    FakeComputer computer;
+    StartUpWindow window{.dialogs = dialogs,
+                         .help = help,
+                         .display = display,
+                         .computer = computer,
+                         .strCommandLine = {},
+                         .screen = {800, 600}};
+};
+
+// Which window follows, and the text of every box.
+std::string OutcomeOf(const Started& program) {
+    const char* next[] = {"this", "start", "game", "none"};
+    std::string outcome = next[static_cast<int>(program.window.Next)];
+    for (const MessageBox& box : program.dialogs.boxes) outcome += "|" + box.Title + "|" + box.Text;
+    for (const std::string& topic : program.help.topics) outcome += "|" + topic;
+    return outcome;
+}
+
+std::string StartOn(const DisplayMode& screen, const std::vector<DisplayMode>& modes) {
+    Started program;
+    program.window.screen = screen;
+    program.display.modes = modes;
+    Form_Load(program.window);
+    EXPECT_EQ(program.window.Visible, program.window.Next == NextWindow::Same);
+    return OutcomeOf(program);
+}
+
+TEST(StartUpTest, TheScreenAndTheDisplayDecide) {
+    const std::string tooSmall = "none||Your computer does not support 1024x768";
+    EXPECT_EQ(StartOn({1024, 768}, {}), "start");
+    EXPECT_EQ(StartOn({800, 600}, {}), tooSmall);
+    EXPECT_EQ(StartOn({1023, 768}, {{800, 600}}), tooSmall);
+    EXPECT_EQ(StartOn({1024, 767}, {{1600, 600}, {800, 600}}), tooSmall);
+    EXPECT_EQ(StartOn({1024, 767}, {{1600, 600}, {800, 900}}), "this");
+}
+
+TEST(StartUpTest, NoGoesOnAndHelpWaits) {
+    Started program;
+    Form_Load(program.window);
+    cmdHelp_Click(program.window);
+    EXPECT_EQ(OutcomeOf(program), "this|Troubleshooting.htm#ManualFix");
+    cmdNo_Click(program.window);
+    EXPECT_EQ(OutcomeOf(program), "start|Troubleshooting.htm#ManualFix");
+    EXPECT_EQ(program.display.changes, "");
+}
+
+std::string AfterYes(DisplayChange result, Answer answer, const std::string& changes) {
+    Started program;
+    program.window.strCommandLine = "/game.tgf";
+    program.display.result = result;
+    program.dialogs.queued = {answer};
+    cmdYes_Click(program.window);
+    EXPECT_EQ(program.display.changes, changes);
+    return OutcomeOf(program);
+}
+
+TEST(StartUpTest, YesSwitches) {
+    EXPECT_EQ(AfterYes(DisplayChange::Successful, {}, "1024x768 1024x768 permanent "),
+              "game|Resolution Changed|Screen resolution changed");
+    const std::string restart =
+        "game|Screen Resolution|You must restart your computer to apply these changes.\n\nDo you "
+        "want to restart now?";
+    EXPECT_EQ(AfterYes(DisplayChange::Restart, Answer::No, "1024x768 "), restart);
+    EXPECT_EQ(AfterYes(DisplayChange::Restart, Answer::Yes, "1024x768 "),
+              restart + "||The computer can not be restarted. Not allowed.");
+    EXPECT_EQ(AfterYes(DisplayChange::Failed, {}, "1024x768 "),
+              "game||Please manualy change your resolution to 1024x768.\nThe program was unable to "
+              "change it.\nClick OK to view instructions on how to change the settings manually."
+              "|Troubleshooting.htm#ManualFix");
+}
+
+TEST(CommandLineTest, NamesAGameFile) {
+    const TempFolder folder;
+    const std::string here = std::filesystem::current_path().string();
+    const std::string odd = folder / "back\\slash \"quoted\".tgf";
+    WriteFile(odd, "");
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {"", ""},
+        {"\"\"", ""},
+        {"test.tgf", here + "/test.tgf"},
+        {"\"/my games/test.tgf\"", "/my games/test.tgf"},
+        {"/my games/\xC3\xA9 100%.tgf", "/my games/\xC3\xA9 100%.tgf"},
+        {"\"C:\\Games\\Saved\\test.tgf\"", here + "/C:/Games/Saved/test.tgf"},
+        {odd, odd},
+        {"\"" + odd + "\"", odd},
+    };
+    for (const auto& [line, path] : rows) EXPECT_EQ(GamePathOf(line), path);
+
+    char my[] = "my";
+    char game[] = "game.tgf";
+    char* arguments[] = {my, game};
+    EXPECT_EQ(CommandLine(arguments), "my game.tgf");
+}
+
+TEST(FixedDisplayTest, ListsTheModesOfAllMonitors) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "card0-HDMI");
+    std::filesystem::create_directory(folder / "version");
+    WriteFile(folder / "card0-HDMI/modes", "1920x1080\n1920x1080i\n800x600\n");
+    FixedDisplay display(folder.Path().string());
+    EXPECT_EQ(display.Mode(0)->Width, 1920);
+    EXPECT_EQ(display.Mode(2)->Height, 600);
+    EXPECT_FALSE(display.Mode(3));
+    EXPECT_FALSE(FixedDisplay(folder / "missing").Mode(0));
+}
+
+}  // namespace
+}  // namespace qarn

@@ -1,0 +1,247 @@
+#include "shell/start_window.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+#include "scenarios/setup.h"
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
+
+struct FakeWastebasket : Wastebasket {
+    void MoveThere(const std::string& path) override {
+        if (!refusal.empty()) throw std::runtime_error(refusal);
+        thrownAway.push_back(ReadFile(path));
+        fs::remove(path);
+    }
+
+    std::string refusal;
+    Texts thrownAway;
+};
+
+// A control as a person sees it: not at all, or its name, (in parentheses) while it is disabled.
+template <typename Kind>
+std::string Seen(const Kind& control, const std::string& name) {
+    if (!control.Visible) return "";
+    return control.Enabled ? name + " " : "(" + name + ") ";
+}
+
+class StartWindowTest : public testing::Test {
+protected:
+    StartWindowTest() {
+        window.ports.folders.program = folder.Path().string();
+        Form_Load(window);
+    }
+
+    void Type(const std::string& text) {
+        controls.txtNewFilePath.Text = text;
+        txtNewFilePath_Change(window);
+    }
+    void TypeAndPressNew(const std::string& text) {
+        Type(text);
+        cmdNew_Click(window);
+    }
+    void SelectScenario(int scenario) {
+        controls.lstScenarios.ListIndex = scenario - 1;
+        lstScenarios_Click(window);
+    }
+    void SelectFile(int index) {
+        controls.fileLoad.ListIndex = index;
+        fileLoad_Click(window);
+    }
+    void ComeToLastStep(const std::string& name) {
+        TypeAndPressNew(name);
+        SelectScenario(7);
+        cmdNew_Click(window);
+        TypeAndPressNew("Red");
+        Type("Blue");
+    }
+
+    std::string Shown() const {
+        const StartControls& c = controls;
+        const std::map<StartControl, std::string> buttons{{StartControl::None, "none"},
+                                                          {StartControl::cmdNew, "new"},
+                                                          {StartControl::cmdLoad, "load"},
+                                                          {StartControl::cmdExit, "exit"}};
+        return c.lblInstructions.Caption + " | " +
+               Seen(c.txtNewFilePath,
+                    "'" + c.txtNewFilePath.Text + (c.txtNewFilePath.Locked ? "' locked" : "'")) +
+               Seen(c.cmdNew, c.cmdNew.Caption) +
+               Seen(c.chkComputer, c.chkComputer.Value ? "[x]" : "[ ]") +
+               Seen(c.lstScenarios, "scenarios") + Seen(c.fileLoad, "files") +
+               Seen(c.cmdLoad, c.cmdLoad.Caption) + Seen(c.cmdDelete, c.cmdDelete.Caption) +
+               Seen(c.txtLocation, "folder") + Seen(c.cmdBrowse, c.cmdBrowse.Caption) +
+               Seen(c.cmdBackGround, c.cmdBackGround.Caption) +
+               Seen(c.txtBackGround, "background") + "| " + buttons.at(c.DefaultButton);
+    }
+
+    PlayedGame world;
+    FakeDialogs& dialogs = world.dialogs;
+    const TempFolder& folder = world.folder;
+    FakeWastebasket wastebasket;
+    StartWindow window{.ports = world.game.ports, .wastebasket = wastebasket};
+    StartControls& controls = window.controls;
+};
+
+const std::string firstStep =
+    "&Type in the name for a new game or select one that already exists. | ";
+const std::string savedGames = "folder &Browse QARN Background &Information | ";
+
+TEST_F(StartWindowTest, TheWizardMakesANewGame) {
+    EXPECT_EQ(Shown(), firstStep + "'' (&New) files (&Load) (&Delete Game) " + savedGames + "exit");
+    Type("  ");
+    EXPECT_FALSE(controls.cmdNew.Enabled);
+    Type("  Game One.tgf  ");
+    EXPECT_EQ(Shown(), firstStep + "'  Game One.tgf  ' &New files (&Load) (&Delete Game) " +
+                           savedGames + "new");
+    cmdNew_Click(window);
+    txtNewFilePath_LostFocus(window);
+    EXPECT_EQ(Shown(),
+              "Select the scenario you would like to play. | 'Game One' locked (&Next) "
+              "scenarios | none");
+    EXPECT_EQ(controls.SetFocus, StartControl::lstScenarios);
+    EXPECT_EQ(controls.TabOrder[2], StartControl::lstScenarios);
+    EXPECT_EQ(controls.TabOrder[3], StartControl::cmdExit);
+
+    SelectScenario(2);
+    EXPECT_EQ(controls.lblScenarioBackground.Caption, DataOfScenario(2).Background);
+    EXPECT_EQ(Shown(),
+              "Select the scenario you would like to play. | 'Game One' locked &Next "
+              "scenarios | new");
+    lstScenarios_DblClick(window);
+    EXPECT_EQ(Shown(), "Type in a goodbeast's name. | '' (&Next) [ ] (scenarios) | new");
+    EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
+
+    controls.chkComputer.Value = true;
+    TypeAndPressNew(std::string(54, 'R'));
+    EXPECT_EQ(Shown(), "Type in badbeast's name. | '' (&Start) [ ] (scenarios) | new");
+    TypeAndPressNew(" Ren\xC3\xA9 ");
+    EXPECT_EQ(window.Next, NextWindow::Game);
+    EXPECT_EQ(window.strGamePath, folder / "Game One.tgf");
+    EXPECT_EQ(ReadFile(window.strGamePath), "SKF\r\n" + std::string(54, 'R') + "True\r\n Ren\xE9 " +
+                                                std::string(48, ' ') + "False\r\n 0 \r\n");
+    EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(StartWindowTest, AFileNameRefusesCharacters) {
+    for (const char character : std::string("\\/:*?\"<>|")) {
+        TypeAndPressNew(std::string("a") + character + "b");
+        EXPECT_EQ(
+            dialogs.boxes.back().Text,
+            "You can not have a game containing the followin characters: \\ / : * ? \" < > |");
+        EXPECT_EQ(Shown().find(firstStep + "'' (&New)"), 0u) << character;
+    }
+    EXPECT_EQ(dialogs.boxes.size(), 9u);
+    TypeAndPressNew("Upper.TGF");  // only the small letters are an ending
+    EXPECT_EQ(window.state.strNewGameName, "Upper.TGF");
+}
+
+TEST_F(StartWindowTest, ANewGameThatCanNotBeWrittenStaysAtItsStep) {
+    world.settings.values["QARN/Filepath/04505230"] = folder / "later";
+    Form_Load(window);
+    ComeToLastStep("Game");
+    controls.chkComputer.Value = true;
+    const std::string before = Shown();
+    cmdNew_Click(window);
+    const std::string reason = "No such file or directory.\n" + (folder / "later/Game.tgf");
+    EXPECT_EQ(dialogs.boxes.back().Text, "The new game can not be written. " + reason);
+    EXPECT_EQ(Shown(), before);
+    fs::create_directory(folder / "later");
+    TypeAndPressNew("\xCE\xB1");
+    EXPECT_NE(dialogs.boxes.back().Text.find("can not be stored in a game file."),
+              std::string::npos);
+    EXPECT_EQ(window.Next, NextWindow::Same);
+    TypeAndPressNew("Blue");
+    EXPECT_NE(ReadFile(folder / "later/Game.tgf").find("True"), std::string::npos);
+}
+
+TEST_F(StartWindowTest, AGameThatIsReplacedGoesToTheWastebasket) {
+    WriteFile(folder / "Game.tgf", "old");
+    ComeToLastStep("Game.tgf");
+    wastebasket.refusal = "There is none.";
+    dialogs.queued = {Answer::No, Answer::Yes};
+    cmdNew_Click(window);
+    const std::string question = (folder / "Game.tgf") + "\nDo you want to replace it for good?";
+    EXPECT_EQ(dialogs.boxes.back().Text,
+              "A game of this name exists already and can not be moved "
+              "to the wastebasket. There is none.\n" +
+                  question);
+    EXPECT_EQ(ReadFile(folder / "Game.tgf"), "old");
+    EXPECT_EQ(window.Next, NextWindow::Same);
+    cmdNew_Click(window);
+    const std::string made = ReadFile(folder / "Game.tgf");
+    EXPECT_EQ(made.find("HM\r\nRed "), 0u);
+
+    wastebasket.refusal.clear();
+    cmdNew_Click(window);
+    EXPECT_EQ(wastebasket.thrownAway, Texts{made});
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1);
+}
+
+TEST_F(StartWindowTest, SavedGamesAreListedDeletedAndLoaded) {
+    for (const char* name : {"b.tgf", "A.TGF", "c.tgf", "notes.txt"}) WriteFile(folder / name, "");
+    fs::create_directory(folder / "folder.tgf");
+    PrepareStartWindow(window, true);
+    EXPECT_EQ(controls.SetFocus, StartControl::fileLoad);
+    EXPECT_EQ(controls.fileLoad.List, (Texts{"A.TGF", "b.tgf", "c.tgf"}));
+    SelectFile(2);
+    EXPECT_EQ(Shown(), firstStep + "'' (&New) files &Load &Delete Game " + savedGames + "load");
+    fileLoad_LostFocus(window);
+    EXPECT_EQ(controls.DefaultButton, StartControl::None);
+
+    fs::remove(folder / "b.tgf");  // the list follows, and what is selected stays so
+    RefreshFileList(window);
+    EXPECT_EQ(controls.fileLoad.ListIndex, 1);
+    dialogs.queued = {Answer::No, Answer::Yes, Answer::Yes};
+    cmdDelete_Click(window);
+    EXPECT_EQ(dialogs.boxes[0].Title, "Delete c.tgf");
+    EXPECT_EQ(dialogs.boxes[0].Text, "Are you sure you would like to delete this file?");
+    EXPECT_TRUE(controls.cmdLoad.Enabled);
+    fs::remove(folder / "c.tgf");
+    fs::create_directory(folder / "c.tgf");
+    cmdDelete_Click(window);
+    EXPECT_EQ(dialogs.boxes.back().Text,
+              "The file can not be deleted. Is a directory.\n" + (folder / "c.tgf"));
+    fs::remove(folder / "c.tgf");
+    cmdDelete_Click(window);  // it is gone already
+    EXPECT_EQ(Shown(), firstStep + "'' (&New) files (&Load) (&Delete Game) " + savedGames + "none");
+    EXPECT_EQ(controls.fileLoad.List, Texts{"A.TGF"});
+    cmdLoad_Click(window);    // nothing is selected
+    cmdBrowse_Click(window);  // cancelled
+    EXPECT_EQ(window.Next, NextWindow::Same);
+    dialogs.openFileName = "/elsewhere/game.tgf";
+    cmdBrowse_Click(window);
+    EXPECT_EQ(window.strGamePath, "/elsewhere/game.tgf");
+    SelectFile(0);
+    fileLoad_DblClick(window);
+    EXPECT_EQ(window.strGamePath, folder / "A.TGF");
+    EXPECT_EQ(window.Next, NextWindow::Game);
+}
+
+TEST_F(StartWindowTest, TheProgramBackgroundComesAndGoes) {
+    WriteFile(folder / "a.tgf", "");
+    RefreshFileList(window);
+    SelectFile(0);
+    Type("Game");
+    cmdBackGround_Click(window);
+    EXPECT_EQ(Shown(),
+              "Read about how this program began. | ('Game') (&New) (&Load) (&Delete Game) "
+              "Leave Background &Information background | new");
+    const std::string& text = controls.txtBackGround.Text;
+    EXPECT_NE(text.find("\nCurrently, this program simulates The Saltbrook, "), text.npos);
+    EXPECT_NE(text.find(", and Ambermoor.  In the near future, the program will "), text.npos);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3);
+    cmdBackGround_Click(window);
+    EXPECT_EQ(Shown(),
+              firstStep + "'Game' &New files (&Load) (&Delete Game) " + savedGames + "new");
+    EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
+}
+
+}  // namespace
+}  // namespace qarn

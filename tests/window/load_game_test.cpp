@@ -1,0 +1,254 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+const std::string olderFormMessage =
+    "The file may be loaded with the incorrect scenario. If it appears that the loaded scenario is "
+    "incorrect, select the Convert File menu item from the Tools menu.";
+
+std::string Padded(std::string name) {
+    name.resize(54, ' ');
+    return name;
+}
+
+class LoadGame : public testing::Test {
+protected:
+    void Open(const std::string& text) {
+        WriteFile(played.path, text);
+        Open();
+    }
+    void Open() {
+        played.dialogs.boxes.clear();
+        played.Open();
+    }
+
+    PlayedGame played;
+    const GameRecord& record = played.game.record;
+    const Controls& controls = played.game.controls;
+};
+
+// The text with one of its lines, counted from 1, replaced.
+std::string WithLine(const std::string& text, int line, const std::string& replacement) {
+    std::size_t begin = 0;
+    for (int l = 1; l < line; ++l) begin = text.find("\r\n", begin) + 2;
+    return std::string(text).replace(begin, text.find("\r\n", begin) - begin, replacement);
+}
+
+TEST_F(LoadGame, NewGame) {
+    played.random.queued = {0.5};
+    Open("CF\r\n" + Padded("Red") + "False\r\n" + Padded("Blue") + "True\r\n 0 \r\n");
+    EXPECT_EQ(controls.Caption, "Cinderfell Tactical Game - game.tgf (Red vs. Blue)");
+    EXPECT_EQ(controls.lblStatus.Caption, "It is Blue's turn.");
+    EXPECT_EQ(record.bytTurn, 2);
+    EXPECT_TRUE(controls.tmrAI.Enabled && record.blnComputer[2] && !record.blnComputer[1]);
+    EXPECT_FALSE(controls.mnuConvertFile.Visible);
+    EXPECT_EQ(played.random.seeded, 1);
+    EXPECT_NE(record.People[1].LocationX, 0);
+    played.ExpectBoardShown();
+    EXPECT_TRUE(played.dialogs.boxes.empty());
+}
+
+// What is saved is what was loaded, to the byte. The text is the test's own.
+TEST_F(LoadGame, SavedGamesComeBack) {
+    const std::string position = "turn2 J@1,1 WA@15,4 CT@18,10 BT@3,7 15,4=4";
+    for (const auto& [line, text] : {std::pair{2, Padded("Red") + "False"},
+                                     {2, std::string(54, 'R') + "True"},
+                                     {3, Padded("\x80uro Zo\xEB") + "True"}}) {
+        const std::string saved = WithLine(SavedGame(position), line, text);
+        Open(saved);
+        EXPECT_EQ(record.People[12].Name, "Sentinel");
+        EXPECT_EQ(controls.lbl[1][1].Caption, "J    ");
+        EXPECT_EQ(controls.lbl[15][4].BackColor, Color{0xFFFF00});
+        EXPECT_EQ(record.bytCurrentX, 15);  // the last landmark square read
+        played.ExpectBoardShown();
+        played.Do("menu mnuSave");
+        EXPECT_EQ(ReadFile(played.path), saved);
+    }
+    EXPECT_EQ(record.strPlayerName[2], "€uro Zoë");
+
+    // Other squares are read too, but not written.
+    Open(SavedGame(position + " 2,2=6"));
+    EXPECT_EQ(record.bytTerrain[2][2], Forest);
+    played.Do("menu mnuSave");
+    EXPECT_EQ(ReadFile(played.path), SavedGame(position));
+}
+
+TEST_F(LoadGame, PlayersWithoutFlags) {
+    const auto players = [&](const std::string& line2, const std::string& line3) {
+        Open("HM\r\n" + line2 + "\r\n" + line3 + "\r\n 1 \r\n");
+        return record.strPlayerName[1] + (record.blnComputer[1] ? "|True|" : "|False|") +
+               record.strPlayerName[2] + (record.blnComputer[2] ? "|True" : "|False");
+    };
+    EXPECT_EQ(players("Red ", "Blue"), "Red |False|Blue|False");
+    EXPECT_EQ(players("Red", Padded("Blue") + "True"),
+              "Red|False|" + Padded("Blue") + "True|False");
+    EXPECT_EQ(players(Padded("Red") + "True", "Blue "), "Red|True|Blue|False");
+    EXPECT_EQ(players(Padded("Red") + "true", Padded("") + "True"), "Red|False||True");
+    EXPECT_EQ(players(std::string(54, 'R'), ""), std::string(54, 'R') + "|False||False");
+}
+
+TEST_F(LoadGame, ItemsEndAtCommas) {
+    const std::string text = SavedGame("J@1,1 WA@15,4 15,4=4");
+    Open(Replaced(WithLine(text, 1, " HM , and more"), " \r\n ", " ,\t"));
+    EXPECT_TRUE(played.game.blnOpen);
+    EXPECT_EQ(record.bytScenario, 7);
+    EXPECT_EQ(controls.lbl[1][1].Caption, "J    ");
+    EXPECT_EQ(record.bytTerrain[15][4], Sand);
+}
+
+struct BadLine {
+    int line;
+    const char* text;
+    int number;
+    const char* description;
+};
+
+TEST_F(LoadGame, RefusesBadLines) {
+    const std::string saved = SavedGame("Q@1,1 WA@15,4 15,4=4");
+    for (const BadLine& bad : {
+             BadLine{1, "", 13, "Line 1: the scenario should be a code or a number, but is \"\"."},
+             {1, "x", 13, "Line 1: the scenario should be a code or a number, but is \"x\"."},
+             {4, " 3 ", 9, "Line 4: the side to move should be 0 to 2, but is 3."},
+             {4, " -1 ", 9, "Line 4: the side to move should be 0 to 2, but is -1."},
+             {4, " 1 1 ", 13, "Line 4: the side to move should be a number, but is \"1 1\"."},
+             {4, " \x80 ", 13, "Line 4: the side to move should be a number, but is \"€\"."},
+             {5, " 256 ", 9,
+              "Line 5: the number of groups left of side 1 should be 0 to 255, but is 256."},
+             {6, " ", 13,
+              "Line 6: the number of groups left of side 2 should be a number, but is \"\"."},
+             {7, " 19 ", 9, "Line 7: the column of group 1 should be 0 to 18, but is 19."},
+             {8, " 11 ", 9, "Line 8: the row of group 1 should be 1 to 10, but is 11."},
+             {8, " 0 ", 9, "Line 8: the row of group 1 should be 1 to 10, but is 0."},
+             {54, " 1.5 ", 13, "Line 54: the row of group 24 should be a number, but is \"1.5\"."},
+             {55, " 99999999999 ", 9,
+              "Line 55: the number of landmark squares should be 0 to 255, but is 99999999999."},
+             {55, " 2 ", 62, "Line 59: the file ends before the column of landmark square 2."},
+             {56, " 0 ", 9,
+              "Line 56: the column of landmark square 1 should be 1 to 18, but is 0."},
+             {57, " 11 ", 9, "Line 57: the row of landmark square 1 should be 1 to 10, but is 11."},
+             {58, " 9 ", 9,
+              "Line 58: the terrain code of landmark square 1 should be 0 to 8, but is 9."},
+         }) {
+        const std::string text = WithLine(saved, bad.line, bad.text);
+        played.dialogs.queued = {Answer::Cancel};
+        Open(text);
+        ASSERT_EQ(played.dialogs.boxes.size(), 1u) << bad.description;
+        EXPECT_EQ(played.dialogs.boxes[0].Title, "Error " + std::to_string(bad.number));
+        EXPECT_EQ(played.dialogs.boxes[0].Text,
+                  std::string("Invalid game format\n") + bad.description + "\n" + played.path);
+        EXPECT_TRUE(played.game.blnEnded && !played.game.blnOpen);
+        EXPECT_EQ(played.game.exitStatus, 1);
+        EXPECT_EQ(ReadFile(played.path), text);
+    }
+}
+
+TEST_F(LoadGame, SurvivesBeingCutAtEveryByte) {
+    const std::string saved = SavedGame("Q@1,1 WA@15,4 15,4=4");
+    std::string lengthsLoaded;
+    for (std::size_t length = 0; length <= saved.size(); ++length) {
+        const std::string cut = saved.substr(0, length);
+        played.dialogs.queued = {Answer::Cancel};
+        Open(cut);
+        EXPECT_EQ(ReadFile(played.path), cut);
+        if (played.game.blnOpen) {
+            lengthsLoaded += std::to_string(length) + " ";
+            played.ExpectBoardShown();
+            continue;
+        }
+        ASSERT_EQ(played.dialogs.boxes.size(), 1u) << length;
+        const bool lastLineCanBeRead = cut.find_last_not_of(" \r") + 1 > cut.rfind('\n') + 1;
+        const auto line =
+            1 + std::count(cut.begin(), cut.end(), '\n') + (lastLineCanBeRead ? 1 : 0);
+        EXPECT_EQ(played.dialogs.boxes[0].Offered, Buttons::RetryCancel);
+        EXPECT_TRUE(played.dialogs.boxes[0].Text.starts_with("Invalid game format\nLine " +
+                                                             std::to_string(line) + ": "))
+            << length << " " << played.dialogs.boxes[0].Text;
+    }
+    // The game is whole once the turn has been read, and once the last terrain code has.
+    const std::size_t turn = 4 + 2 * (54 + 5 + 2) + 2, end = saved.size();
+    std::string expected;
+    for (const std::size_t whole :
+         {turn, turn + 1, turn + 2, turn + 3, end - 3, end - 2, end - 1, end}) {
+        expected += std::to_string(whole) + " ";
+    }
+    EXPECT_EQ(lengthsLoaded, expected);
+}
+
+TEST_F(LoadGame, RefusesWhatIsNoFile) {
+    for (const auto& [path, reason] :
+         {std::pair{played.folder / "none.tgf", "No such file or directory"},
+          std::pair{played.folder.Path().string(), "Is a directory"}}) {
+        played.path = path;
+        played.dialogs.queued = {Answer::Cancel};
+        Open();
+        EXPECT_EQ(played.dialogs.boxes.at(0).Title, "Error 53");
+        EXPECT_EQ(
+            played.dialogs.boxes.at(0).Text,
+            std::string("Invalid game format\nThe file can not be read: ") + reason + ".\n" + path);
+    }
+}
+
+TEST_F(LoadGame, RetryAfterTheFileWasMended) {
+    const std::string good = SavedGame("Q@1,1 WA@15,4 15,4=4");
+    // Nothing was known of the file: it is read from its first line.
+    played.dialogs.queued = {Answer::Retry};
+    played.dialogs.whileShown = [&] { WriteFile(played.path, WithLine(good, 1, "SB")); };
+    Open();
+    EXPECT_EQ(record.bytScenario, 1);
+
+    // The scenario was known: it stays, and the message of the older form is not shown again.
+    played.dialogs.queued = {Answer::Retry, Answer::Retry};
+    played.dialogs.whileShown = [&] {
+        if (played.dialogs.boxes.size() == 3) WriteFile(played.path, WithLine(good, 1, "SB"));
+    };
+    Open(WithLine(WithLine(good, 1, "7"), 20, "?"));
+    ASSERT_EQ(played.dialogs.boxes.size(), 3u);
+    EXPECT_EQ(played.dialogs.boxes[0].Text, olderFormMessage);
+    EXPECT_EQ(played.dialogs.boxes[1].Title, "Error 13");
+    EXPECT_EQ(played.dialogs.boxes[2].Text, played.dialogs.boxes[1].Text);
+    EXPECT_EQ(record.bytScenario, 7);
+    EXPECT_TRUE(controls.mnuConvertFile.Visible);
+    EXPECT_EQ(record.strPlayerName[1], "Red");
+    EXPECT_EQ(controls.Caption, "Hollowmere Tactical Game - game.tgf (Red vs. Blue)");
+    played.ExpectBoardShown();
+}
+
+TEST_F(LoadGame, OlderForm) {
+    Open(WithLine(SavedGame("CF"), 1, "5"));
+    ASSERT_EQ(played.dialogs.boxes.size(), 1u);
+    EXPECT_EQ(played.dialogs.boxes[0].Text, olderFormMessage);
+    EXPECT_EQ(record.bytScenario, 5);
+    EXPECT_TRUE(controls.mnuConvertFile.Visible);
+    EXPECT_EQ(controls.Caption, "Cinderfell Tactical Game - game.tgf (Red vs. Blue)");
+}
+
+TEST_F(LoadGame, UnknownScenariosAreShownAndNeverWritten) {
+    for (const auto& [line, boxes] : {std::pair{"hm", 1u}, {"XYZ", 1u}, {"0", 2u}}) {
+        const std::string text = WithLine(SavedGame("Q@1,1 WA@15,4 15,4=4"), 1, line);
+        Open(text);
+        ASSERT_EQ(played.dialogs.boxes.size(), boxes) << line;
+        EXPECT_EQ(played.dialogs.boxes.back().Text,
+                  "The scenario of this file is unknown. The board stays empty, and the file will "
+                  "not be changed.\n" +
+                      played.path);
+        EXPECT_EQ(controls.Caption,
+                  "Thornmere Series Tactical Game Tactical Game - game.tgf (Red vs. Blue)");
+        EXPECT_EQ(record.bytTerrain[1][1], Plain);
+        played.dialogs.saveFileName = played.folder / "other.tgf";
+        for (const char* command :
+             {"menu mnuSave", "menu mnuSaveAs", "menu mnuConvertFile", "close"}) {
+            played.Do(command);
+        }
+        EXPECT_TRUE(played.game.blnEnded);
+        EXPECT_EQ(ReadFile(played.path), text);
+        EXPECT_FALSE(std::filesystem::exists(played.dialogs.saveFileName));
+    }
+}
+
+}  // namespace
+}  // namespace qarn

@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/random_numbers.h"
+#include "scenarios/catalogue.h"
+#include "scenarios/setup.h"
+#include "support/sequence.h"
+
+namespace qarn {
+namespace {
+
+class Window : public testing::TestWithParam<Sequence> {};
+
+TEST_P(Window, GoesAsPlayed) { ExpectSequence(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Commands, Window, testing::ValuesIn(ReadSequences("window/commands.txt")),
+                         NameOf);
+
+TEST(MenuCommands, HelpTopics) {
+    PlayedGame played("HM");
+    for (const char* item : {"mnuItemDetails", "mnuSummaryTerrain", "mnuGetStarted", "mnuHelp"}) {
+        EXPECT_TRUE(played.Do(std::string("menu ") + item));
+    }
+    EXPECT_EQ(played.help.topics,
+              (std::vector<std::string>{"HMdetails.htm", "Terrain Info.htm", "GettingStarted.htm",
+                                        ""}));
+    EXPECT_FALSE(played.Do("menu mnusave") || played.Do("menu"));
+}
+
+TEST(MenuCommands, ConvertFile) {
+    PlayedGame played("older9");
+    std::string walked;
+    played.dialogs.whileShown = [&] { walked += ReadFile(played.path).substr(0, 2); };
+    played.dialogs.queued = std::deque<Answer>(11, Answer::No);
+    played.dialogs.queued.push_back(Answer::Yes);
+    EXPECT_TRUE(played.Do("menu mnuConvertFile"));
+    EXPECT_EQ(walked, "STVDAMSBSKDWTQCFWRHMERTJ");  // and round to where it began
+    EXPECT_EQ(played.dialogs.boxes.back().Title, "Convert To Right Scenario");
+    EXPECT_EQ(played.dialogs.boxes.back().Text, "Did this convert to the right scenario?");
+    EXPECT_EQ(played.game.record.bytScenario, 9);
+    EXPECT_TRUE(played.game.blnOpen && !played.game.blnEnded);
+    EXPECT_FALSE(played.Do("menu mnuConvertFile"));  // the file has a code now
+
+    // The new scenario's landmark squares carry what the old board had there: (15,7) a mountain.
+    played.Load("older7 Q@9,10 WA@15,4 15,4=4");
+    played.dialogs.queued = {Answer::Yes};
+    EXPECT_TRUE(played.Do("menu mnuConvertFile"));
+    EXPECT_EQ(played.game.controls.Caption, "Exile's Road Tactical Game - game.tgf (Red vs. Blue)");
+    EXPECT_EQ(played.game.record.bytTerrain[15][7], Mountain);
+    EXPECT_EQ(played.game.record.People[1].LocationX, 9);
+    played.ExpectBoardShown();
+}
+
+// Whatever a person does in a crowd of groups, the board shows where everyone stands, the turn is
+// somebody's, and there is always something left to do; and what was saved comes back.
+TEST(Events, SurviveAnything) {
+    UniformGenerator chance;
+    const auto below = [&](int n) { return static_cast<int>(chance.Next() * n); };
+    const auto near = [&](int place, int last) {
+        return " " + std::to_string(std::clamp(place + below(3) - 1, 1, last));
+    };
+    int gamesEnded = 0, gamesSaved = 0;
+    for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+        chance.Seed(seed);
+        const int scenario = 1 + below(scenarioCount);
+        std::string crowd(NamesOfScenario(scenario).Code);
+        for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
+            const std::string code(entry.Code), attack = std::to_string(1 + below(25));
+            if (below(3) > 0) continue;
+            crowd += " " + code + "@" + std::to_string(8 + below(4)) + near(6, 10).replace(0, 1, ",");
+            if (entry.Side != 0) crowd += " " + code + ".Attack=" + attack;
+        }
+        PlayedGame played(crowd);
+        const GameRecord& record = played.game.record;
+        const Controls& controls = played.game.controls;
+        for (int event = 0; event < 1500 && !played.game.blnEnded; ++event) {
+            const bool going = record.blnMoveUnderWay;
+            const auto& at = record.People.at(static_cast<std::size_t>(1 + below(peopleCount)));
+            const std::string commands[] = {
+                "click" + near(going ? record.bytGroupX : at.LocationX, columnCount) +
+                    near(going ? record.bytGroupY : at.LocationY, rowCount),
+                "click" + near(record.bytCurrentX, 18) + near(record.bytCurrentY, 10),
+                "press cmdMove",
+                "press cmdAttack",
+                "press cmdDoneSel",
+                "untick" + near(2, checkBoxCount),
+                "tick" + near(2, checkBoxCount),
+                below(20) == 0 || record.blnDetailsMode ? "press cmdSquareDetails" : "click 9 5",
+                below(50) == 0 ? "menu mnuSave" : "press cmdDoneSel"};
+            played.dialogs.queued = {below(4) > 0 ? Answer::Yes : Answer::No, Answer::Yes};
+            played.random.queued = {chance.Next(), chance.Next()};
+            while (!played.Do(commands[below(9)])) continue;
+            ASSERT_TRUE(record.bytTurn == 1 || record.bytTurn == 2);
+            ASSERT_TRUE(played.game.blnEnded || controls.cmdMove.Enabled ||
+                        controls.cmdAttack.Enabled || record.blnMoveMode || record.blnDetailsMode ||
+                        (controls.cmdDoneSel.Visible && controls.cmdDoneSel.Enabled))
+                << "seed " << seed << " event " << event;
+            played.ExpectBoardShown();
+        }
+        EXPECT_EQ(std::filesystem::exists(played.path), !played.game.blnEnded);
+        ++(played.game.blnEnded ? gamesEnded : gamesSaved);
+        if (played.game.blnEnded) continue;
+        played.Do("close");
+        PlayedGame again;
+        again.Open(ReadFile(played.path));
+        again.Do("close");
+        EXPECT_EQ(ReadFile(again.path), ReadFile(played.path));
+        EXPECT_EQ(again.game.record.bytTerrain, record.bytTerrain);
+    }
+    EXPECT_GT(gamesEnded, 0);
+    EXPECT_GT(gamesSaved, 0);
+}
+
+}  // namespace
+}  // namespace qarn
