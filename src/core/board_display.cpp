@@ -16,7 +16,8 @@ void ClearSquareCaption(Game& game, int X, int Y) {
 
 void RedrawSquare(Game& game, int X, int Y) {
     ClearSquareCaption(game, X, Y);
-    for (const std::uint8_t i : LocationOfPeople(game.record, X, Y).People()) PlacePeople(game, i);
+    const SquareList list = LocationOfPeople(game.record, X, Y);
+    for (const std::uint8_t i : list.People()) PlacePeople(game, i);
 }
 
 }  // namespace qarn

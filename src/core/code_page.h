@@ -16,8 +16,8 @@ public:
 /// character, when the code page lacks one or the text is not UTF-8.
 std::string EncodeCodePage(std::string_view utf8);
 
-/// True when a game file can hold the text on one of its lines: every character is in the code page,
-/// and none is a control character.
+/// True when a game file can hold the text on one of its lines: every character is in the code
+/// page, and none is a control character.
 bool CanStore(std::string_view utf8);
 
 /// Turns Windows code page 1252 into UTF-8. The five bytes that the code page leaves unused become

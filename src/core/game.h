@@ -13,10 +13,10 @@ struct Game {
     Controls controls;
     Ports ports;
 
-    bool blnOpen = false;   ///< a game stands in the window
-    bool blnEnded = false;  ///< the program has ended, or would have
+    bool blnOpen = false;        ///< a game stands in the window
+    bool blnEnded = false;       ///< the program has ended, or would have
     bool blnLeftByOpen = false;  ///< it was closed last for a saved game to be chosen
-    int exitStatus = 0;     ///< the program's, once blnEnded
+    int exitStatus = 0;          ///< the program's, once blnEnded
 };
 
 }  // namespace qarn

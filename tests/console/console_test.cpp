@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "console/console_ports.h"
-#include "console/options.h"
 #include "console/words.h"
 
 namespace qarn {
@@ -46,26 +45,10 @@ TEST(ConsoleDialogs, AnswersComeFromTheQueueThenFromAPerson) {
     EXPECT_EQ(dialogs.TakeShown().size(), 6u);
     EXPECT_TRUE(dialogs.TakeShown().empty());
 
-    std::optional<Answer> person = Answer::Yes;
-    dialogs.SetAskPerson([&](const MessageBox&) { return person; });
+    dialogs.SetAskPerson([](const MessageBox&) { return Answer::Yes; });
     dialogs.QueueAnswer(Answer::No);
     EXPECT_EQ(dialogs.Show(yesNo), Answer::No);
     EXPECT_EQ(dialogs.Show(yesNo), Answer::Yes);
-    person.reset();
-    EXPECT_EQ(dialogs.Show(retry), Answer::Cancel);
-}
-
-TEST(ConsoleRandomNumbers, QueueThenGenerator) {
-    ConsoleRandomNumbers random;
-    random.SetSeed(7);
-    const double first = random.Next(), second = random.Next();
-    random.QueueNumber(0.25);
-    random.Seed();
-    EXPECT_EQ(random.Next(), 0.25);
-    EXPECT_EQ(random.Next(), first);
-    EXPECT_EQ(random.Next(), second);
-    random.SetSeed(8);
-    EXPECT_NE(random.Next(), first);
 }
 
 }  // namespace

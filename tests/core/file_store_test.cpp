@@ -76,39 +76,34 @@ TEST(FileStore, ReplacesAndKeepsLinksAndPermissions) {
 
 TEST(FileStore, RefusalsLeaveEverythingAsItWas) {
     TempFolder folder;
-    fs::permissions(folder.Path(), fs::perms(0777));
     const std::string file = folder / "game";
     WriteFile(file, "old");
     fs::create_symlink("b", folder / "a");
     fs::create_symlink("a", folder / "b");
     fs::create_directory(folder.Path() / "folder");
-    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "none/game", "new"); }), ENOENT);
-    EXPECT_EQ(ErrorOf([&] { ReplaceFile(file + "/game", "new"); }), ENOTDIR);
-    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "folder", "new"); }), EISDIR);
-    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "a", "new"); }), ELOOP);
-    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / std::string(300, 'n'), "new"); }), ENAMETOOLONG);
-
-    fs::permissions(file, fs::perms(0444));
-    EXPECT_EQ(ErrorInChild([&] {
-                  GiveUpRoot();
-                  ReplaceFile(file, "new");
-              }),
-              EACCES);
-    fs::permissions(file, fs::perms(0666));
-    fs::permissions(folder.Path(), fs::perms(0555));
-    EXPECT_EQ(ErrorInChild([&] {
-                  GiveUpRoot();
-                  ReplaceFile(file, "new");
-              }),
-              EACCES);
+    for (const auto& [path, error] : {std::pair{folder / "none/game", ENOENT},
+                                      {file + "/game", ENOTDIR},
+                                      {folder / "folder", EISDIR},
+                                      {folder / "a", ELOOP},
+                                      {folder / std::string(300, 'n'), ENAMETOOLONG}}) {
+        EXPECT_EQ(ErrorOf([&] { ReplaceFile(path, "new"); }), error) << path;
+    }
+    for (const auto& [ofFile, ofFolder] : {std::pair{0444, 0777}, {0666, 0555}}) {
+        fs::permissions(file, fs::perms(ofFile));
+        fs::permissions(folder.Path(), fs::perms(ofFolder));
+        const auto replace = [&] {
+            GiveUpRoot();
+            ReplaceFile(file, "new");
+        };
+        EXPECT_EQ(ErrorInChild(replace), EACCES);
+    }
     fs::permissions(folder.Path(), fs::perms(0777));
-    EXPECT_EQ(ErrorInChild([&] {  // as on a disk that is full after 100 bytes
-                  signal(SIGXFSZ, SIG_IGN);
-                  const rlimit limit{100, 100};
-                  if (setrlimit(RLIMIT_FSIZE, &limit) != 0) _exit(255);
-                  ReplaceFile(file, std::string(101, 'n'));
-              }),
-              EFBIG);
+    const auto fillTheDisk = [&] {  // it is full after 100 bytes
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{100, 100};
+        if (setrlimit(RLIMIT_FSIZE, &limit) == 0) ReplaceFile(file, std::string(101, 'n'));
+    };
+    EXPECT_EQ(ErrorInChild(fillTheDisk), EFBIG);
     EXPECT_EQ(ReadFile(file), "old");
     EXPECT_EQ(EntriesIn(folder.Path()), 4u);
 }

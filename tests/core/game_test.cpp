@@ -5,7 +5,7 @@
 #include "core/game_record.h"
 #include "core/random_numbers.h"
 #include "core/turn_cycle.h"
-#include "support/fake_ports.h"
+#include "support/played_game.h"
 
 namespace qarn {
 namespace {
@@ -57,46 +57,41 @@ TEST(RandomNumbers, AreTheSameEverywhere) {
     EXPECT_NE(generator.Next(), first);
 }
 
-struct TurnRow {
-    std::string name;
-    std::string atStart;
-    std::string later;
-};
-
 TEST(TurnCycle, TellsWhoseTurnItIs) {
-    FakeDialogs dialogs;
-    FakeRandomNumbers random;
-    FakeHelp help;
-    FakeSettings settings;
-    FakeFileTypes fileTypes;
-    for (const TurnRow& row : {TurnRow{"Hawk", "It is Hawk's turn.", "It is Hawk's turn."},
-                               TurnRow{"Hawks", "It is Hawks's turn.", "It is Hawks' turn."},
-                               TurnRow{"HAWKS", "It is HAWKS's turn.", "It is HAWKS' turn."},
-                               TurnRow{"", "It is 's turn.", "It is 's turn."}}) {
-        Game game{.record = {},
-                  .controls = {},
-                  .ports = {dialogs, random, help, settings, fileTypes, {}}};
-        game.record.strPlayerName = {"", "Red", row.name};
-        game.record.blnComputer[2] = true;
-        random.queued = {0.5};
-        StartTurns(game);  // the first side is drawn
-        EXPECT_EQ(game.record.bytTurn, 2);
-        EXPECT_EQ(game.controls.lblStatus.Caption, row.atStart);
-        EXPECT_TRUE(game.controls.tmrAI.Enabled);
+    for (const auto& [name, atStart, later] :
+         {std::tuple{"Hawk", "It is Hawk's turn.", "It is Hawk's turn."},
+          {"Hawks", "It is Hawks's turn.", "It is Hawks' turn."},
+          {"HAWKS", "It is HAWKS's turn.", "It is HAWKS' turn."},
+          {"", "It is 's turn.", "It is 's turn."}}) {
+        PlayedGame played("HM");
+        GameRecord& record = played.game.record;
+        Controls& controls = played.game.controls;
+        record.strPlayerName[2] = name;
+        record.blnComputer[2] = true;
+        record.bytTurn = 0;
+        played.random.queued = {0.5};
+        StartTurns(played.game);  // the first side is drawn
+        EXPECT_EQ(record.bytTurn, 2);
+        EXPECT_EQ(controls.lblStatus.Caption, atStart);
+        EXPECT_TRUE(controls.tmrAI.Enabled);
 
-        game.controls.tmrAI.Enabled = false;
-        ShowTurn(game, true);
-        EXPECT_EQ(game.record.bytTurn, 1);
-        EXPECT_EQ(game.controls.lblStatus.Caption, "It is Red's turn.");
-        EXPECT_FALSE(game.controls.tmrAI.Enabled);
-        StartTurns(game);  // draws no more
-        EXPECT_EQ(game.record.bytTurn, 1);
+        controls.tmrAI.Enabled = false;
+        ShowTurn(played.game, true);
+        StartTurns(played.game);  // draws no more
+        EXPECT_EQ(record.bytTurn, 1);
+        EXPECT_EQ(controls.lblStatus.Caption, "It is Red's turn.");
+        EXPECT_FALSE(controls.tmrAI.Enabled);
 
-        ShowTurn(game, true);
-        ShowTurn(game, false);
-        EXPECT_EQ(game.controls.lblStatus.Caption, row.later);
-        EXPECT_TRUE(game.controls.tmrAI.Enabled);
+        ShowTurn(played.game, true);
+        ShowTurn(played.game, false);
+        EXPECT_EQ(controls.lblStatus.Caption, later);
+        EXPECT_TRUE(controls.tmrAI.Enabled);
     }
+    PlayedGame played("HM");
+    played.game.record.bytTurn = 0;
+    played.random.queued = {0.49};
+    StartTurns(played.game);
+    EXPECT_EQ(played.game.record.bytTurn, 1);
 }
 
 TEST(GameFile, NewGame) {
@@ -118,20 +113,6 @@ TEST(GameFile, NewGame) {
               "A player's name can not be stored. The character \"Ł\" can not be stored in a game "
               "file.");
     EXPECT_EQ(reason("Red\nBlue"), "A player's name can not hold a line break.");
-}
-
-TEST(GameFile, PlayerLines) {
-    const std::string name = std::string(50, 'n') + "Zo\xEB\x80";
-    for (const auto& [line, expected, computer] :
-         {std::tuple{name + "True", std::string(50, 'n') + "Zoë€", true},
-          std::tuple{name, std::string(50, 'n') + "Zoë€", false},
-          std::tuple{name + "true", std::string(50, 'n') + "Zoë€", false},
-          std::tuple{"Red" + std::string(51, ' ') + "True ", std::string("Red"), false},
-          std::tuple{std::string(54, ' ') + "True", std::string(), true}}) {
-        const Player player = ParsePlayerLine(line);
-        EXPECT_EQ(player.strPlayerName, expected) << line;
-        EXPECT_EQ(player.blnComputer, computer) << line;
-    }
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 import json
 import os
 import resource
-import shlex
 import signal
 import subprocess
 import sys
@@ -20,10 +19,31 @@ RECORD_KEYS = """bytScenario bytTurn strPlayerName blnComputer bytPeopleLeft str
     bytCurrentX bytCurrentY blnMoveMode blnAttackMode blnDetailsMode bytMobilityLeft
     bytSelectedPeople bytTerrain People""".split()
 
+ACCEPTED = """seed 18446744073709551615; random 0 0.99 1e-3; answer yes no retry cancel;
+    new h.tgf SB A human B human; open saved.tgf; press cmdMove; click 9 10; untick 1; tick 1;
+    press cmdDoneSel; press cmdSquareDetails; click 18 1; press cmdSeeTerDet(0);
+    menu mnuPeopleDetails; menu mnuHelp; press cmdMove; press cmdAttack; press cmdAttack;
+    saveas other.tgf; timer; timer 3; state; close"""
+REFUSED_WITHOUT_GAME = """click 1 1; press cmdMove; tick 1; untick 1; menu mnuSave; timer;
+    saveas x.tgf; close"""
+REFUSED = """nonsense; Click 1 1; click 0 1; click 19 1; click 1 11; click 1; click 1 1 1;
+    click one 1; click 1.5 1; press; press cmdDoneSel; press cmdNothing; press cmdSeeTerDet(9);
+    press cmdSeeTerDet(8); press cmdSeeTerDet(); tick 1; tick 12; untick 0; menu mnuConvertFile;
+    menu mnuNothing; menu File; timer 0; timer -1; answer; answer ok; answer yes maybe; random;
+    random 1; random -0.1; random nan; random 0.5 x; seed; seed -1; seed 18446744073709551616;
+    saveas ""; open ""; open; state now; help; quit now; click "1 1; new n.tgf HM A human B;
+    new n.tgf hm A human B human; new n.tgf HM A man B human; new none/n.tgf HM A human B human;
+    new n.tgf HM Łucja human B human; new n.tgf HM \udcff human B human;
+    new n.tgf HM """ + 55 * "A" + " human B human"
 
-def saved_game(*people, turn=1):
+
+def words(text):
+    return [command.strip() for command in text.split(";")]
+
+
+def saved_game(*people):
     """A saved game of Hollowmere in which only these (entry, column, row) stand on the board."""
-    numbers = [turn, 9, 8] + 48 * [0] + [1, 15, 4, 7]
+    numbers = [1, 9, 8] + 48 * [0] + [1, 15, 4, 7]
     for entry, column, row in people:
         numbers[1 + 2 * entry:3 + 2 * entry] = column, row
     players = "".join(f"{name:54}False\r\n" for name in ("Red", "Blue"))
@@ -40,11 +60,11 @@ class ConsoleTest(unittest.TestCase):
         return os.path.join(self.folder, name)
 
     def write(self, name, text):
-        with open(self.path(name), "w", encoding="cp1252", newline="") as file:
+        with open(self.path(name), "w", newline="") as file:
             file.write(text)
 
     def read(self, name):
-        with open(self.path(name), encoding="cp1252", newline="") as file:
+        with open(self.path(name), newline="") as file:
             return file.read()
 
     def run_program(self, text, *arguments, **options):
@@ -54,8 +74,7 @@ class ConsoleTest(unittest.TestCase):
     def play(self, *commands, arguments=(), status=0, **options):
         """The objects that the commands give."""
         run = self.run_program("\n".join(commands) + "\n", "--json", *arguments, **options)
-        self.assertEqual(run.stderr, b"")
-        self.assertEqual(run.returncode, status)
+        self.assertEqual((run.stderr, run.returncode), (b"", status))
         return [json.loads(line) for line in run.stdout.decode().splitlines()]
 
     def test_the_objects(self):
@@ -65,11 +84,9 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(list(objects[0]), KEYS[:6])
         last = objects[4]
         self.assertEqual(last, objects[5])
-        self.assertEqual(list(last), KEYS)
-        self.assertEqual(list(last["record"]), RECORD_KEYS)
+        self.assertEqual((list(last), list(last["record"])), (KEYS, RECORD_KEYS))
         self.assertEqual(last["lblStatus"],
                          "You have 7 mobility units.\nSelect your destination.")
-        self.assertEqual(last["caption"], "Hollowmere Tactical Game - g.tgf (Red vs. Blue)")
         record = last["record"]
         self.assertEqual(record["strGamePath"], self.path("g.tgf"))
         self.assertEqual(record["bytSelectedPeople"], [1, 6])
@@ -87,67 +104,43 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(last["terrainKey"][7], {
             "caption": "Gallowrock", "visible": True, "buttonCaption": "...",
             "buttonEnabled": True, "buttonVisible": True})
-        self.assertEqual(list(last["menus"]), ["File", "mnuPeopleDetails", "mnuConvertFile",
-                                               "mnuSummary", "mnuTGF", "mnuAbout"])
         self.assertEqual(last["menus"]["File"],
                          {"enabled": False, "visible": True, "checked": False})
+        self.assertEqual(list(last["menus"]), ["File", "mnuPeopleDetails", "mnuConvertFile",
+                                               "mnuSummary", "mnuTGF", "mnuAbout"])
 
     def test_every_command(self):
         self.write("saved.tgf", saved_game((1, 9, 10), (6, 9, 10), (2, 10, 10), (9, 1, 1)))
-        self.assertEqual(
-            [(o["ok"], o["error"]) for o in self.play(
-                "seed 18446744073709551615", "random 0 0.99 1e-3", "answer yes no retry cancel",
-                NEW, "open saved.tgf", "press cmdMove", "click 9 10", "untick 1", "tick 1",
-                "press cmdDoneSel", "press cmdSquareDetails", "click 18 1", "press cmdSeeTerDet(0)",
-                "menu mnuPeopleDetails", "menu mnuHelp", "press cmdMove", "press cmdAttack",
-                "press cmdAttack", "saveas other.tgf", "timer", "timer 3", "state", "close")],
-            23 * [(True, "")])
+        for command, done in zip(words(ACCEPTED), self.play(*words(ACCEPTED)), strict=True):
+            self.assertEqual((done["ok"], done["error"]), (True, ""), command)
         self.assertEqual(self.read("other.tgf"), self.read("saved.tgf").replace(" 1 ", " 2 ", 1))
 
     def test_refused_commands_change_nothing(self):
-        for command in ("click 1 1", "press cmdMove", "tick 1", "menu mnuSave", "timer",
-                        "saveas x.tgf", "close"):
-            self.assertEqual(self.play(command)[0]["error"], "No game is open.")
-        refused = shlex.split("""
-            'nonsense' 'Click 1 1' 'click 0 1' 'click 19 1' 'click 1 11' 'click 1' 'click 1 1 1'
-            'click one 1' 'click 1.5 1' 'press' 'press cmdDoneSel' 'press cmdNothing' 'state now'
-            'press cmdSeeTerDet(9)' 'press cmdSeeTerDet(8)' 'press cmdSeeTerDet()' 'tick 1'
-            'tick 12' 'untick 0' 'menu mnuConvertFile' 'menu mnuNothing' 'menu File' 'timer 0'
-            'timer -1' 'answer' 'answer ok' 'answer yes maybe' 'random' 'random 1' 'random -0.1'
-            'random nan' 'random 0.5 x' 'seed' 'seed -1' 'seed 18446744073709551616' 'saveas ""'
-            'open ""' 'open' 'new n.tgf hm A human B human' 'new n.tgf HM A man B human'
-            'new n.tgf HM A human B' 'new n.tgf HM Łucja human B human'
-            'new none/n.tgf HM A human B human' 'click "1 1' 'help' 'quit now'""")
-        refused.append("new n.tgf HM " + 55 * "A" + " human B human")
-        refused.append("new n.tgf HM \udcff human B human")
-        objects = self.play("random 0", NEW, *(c for r in refused for c in (r, "state")))[1:]
-        for command, answer, state in zip(refused, objects[1::2], objects[2::2]):
-            self.assertFalse(answer["ok"], command)
-            self.assertTrue(answer["error"], command)
-            self.assertEqual({**answer, "ok": True, "error": "", "boxes": []}, state, command)
-            self.assertEqual(state, objects[0], command)
+        for done in self.play(*words(REFUSED_WITHOUT_GAME)):
+            self.assertEqual((done["ok"], done["error"]), (False, "No game is open."))
+        objects = self.play("random 0", NEW, *(c for r in words(REFUSED) for c in (r, "state")))
+        for command, done, state in zip(words(REFUSED), objects[2::2], objects[3::2], strict=True):
+            self.assertTrue(done["error"] and not done["ok"], command)
+            self.assertEqual({**done, "ok": True, "error": "", "boxes": []}, state, command)
+            self.assertEqual(state, objects[1], command)
         self.assertEqual(os.listdir(self.folder), ["g.tgf"])
-        # The bad words of a refused command were not queued.
-        fresh = self.play("answer yes maybe", "random 0.9 x", "seed 1", NEW, "press cmdAttack",
-                          "saveas x.tgf", "press cmdAttack", "menu mnuSaveAs", "menu New")
-        again = self.play("seed 1", NEW)
-        self.assertEqual(fresh[3]["record"]["bytTurn"], again[1]["record"]["bytTurn"])
-        self.assertEqual(fresh[-1]["boxes"][0]["answer"], "no")
+        # Nothing of a refused command waits for later.
+        objects = self.play("answer yes maybe", "random 0.9 x", "random 0", NEW, "press cmdAttack",
+                            "saveas x.tgf", "press cmdAttack", "menu mnuSaveAs", "menu New")
+        self.assertEqual(objects[3]["record"]["bytTurn"], 1)
+        self.assertEqual(objects[-1]["boxes"][0]["answer"], "no")
         self.assertFalse(os.path.exists(self.path("x.tgf")), "A refused Save As came later.")
 
     def test_exit_statuses(self):
-        self.assertEqual(self.play(NEW, "menu mnuSave", "quit", "state")[-1]["ok"], True)
-        self.assertEqual(len(self.play(NEW, "quit")), 1)
-        self.assertEqual(self.play(NEW, "close")[-1], {
-            "ok": True, "error": "", "boxes": [], "help": [], "ended": True, "open": False})
-        self.assertEqual(self.play(NEW, "close", "click 1 1")[-1]["error"],
-                         "The program has ended.")
+        self.assertEqual(len(self.play(NEW, "quit", "state")), 1)
+        self.assertEqual(self.play(NEW, "close", "click 1 1")[1:], [
+            {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False}
+            for error in ("", "The program has ended.")])
         for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"]):
             run = self.run_program("", *arguments)
             self.assertEqual((run.returncode, run.stdout), (2, b""))
             self.assertIn(b"Usage: qarn-console", run.stderr)
-        self.play(arguments=["none.tgf"], status=1)
-        self.play("open none.tgf", status=1)
+        self.assertEqual(self.play(arguments=["none.tgf"], status=1), [])
         self.assertEqual(self.run_program("cancel\n", "none.tgf").returncode, 1)
 
     def test_boxes(self):
@@ -162,37 +155,31 @@ class ConsoleTest(unittest.TestCase):
         self.write("g.tgf", saved_game((6, 9, 10), (2, 10, 10)))
         objects = self.play("press cmdAttack", "click 9 10", "random 0", "click 10 10", "state",
                             "press cmdMove", arguments=["g.tgf"])
-        self.assertEqual(len(objects), 6)  # none for the opening
-        boxes = objects[3]["boxes"]
-        self.assertEqual([box["text"] for box in boxes[:2]], [
+        self.assertEqual([box["text"] for box in objects[3]["boxes"][:2]], [
             "You will win if you roll a 1 or less, tie if you roll a 2, and lose if you roll a 3 "
             "and up. Select OK to roll", "You rolled a 1 and won the attack!"])
-        self.assertEqual(len(boxes), 3)
-        self.assertEqual([(o["ok"], o["ended"]) for o in objects[3:]],
-                         [(True, True), (True, True), (False, True)])
+        self.assertEqual(len(objects[3]["boxes"]), 3)
+        self.assertEqual([(o["ok"], o["ended"]) for o in objects],
+                         3 * [(True, False)] + 2 * [(True, True)] + [(False, True)])
         self.assertEqual(os.listdir(self.folder), [])
 
-    def test_words_and_names(self):
+    def test_names_and_a_game_in_progress(self):
         name = 'The "Old" \\ Rat €'
         quoted = name.replace("\\", "\\\\").replace('"', '\\"')
-        last = self.play(f'new "a b.tgf" CF "{quoted}" human "" computer', "close", 'open "a b.tgf"')
-        opened = self.play(arguments=["a b.tgf"], *["state"])[-1]
-        self.assertEqual(opened["record"]["strPlayerName"], [name, ""])
-        self.assertEqual(opened["record"]["blnComputer"], [False, True])
-        self.assertEqual(opened["record"]["strGamePath"], self.path("a b.tgf"))
-        self.assertEqual(last[0]["caption"], f"Cinderfell Tactical Game - a b.tgf ({name} vs. )")
-
-    def test_a_game_in_progress_is_saved_before_another(self):
         objects = self.play("random 0 0", NEW, "press cmdMove", "click 14 7", "press cmdDoneSel",
-                            "press cmdMove", "new h.tgf SB A human B human", "open g.tgf")
-        self.assertEqual(objects[-2]["record"]["strGameName"], "h.tgf")
-        self.assertEqual(objects[-1]["record"]["bytTurn"], 2)
+                            "press cmdMove", f'new "a b.tgf" CF "{quoted}" human "" computer',
+                            "open g.tgf", 'open "a b.tgf"')
+        self.assertEqual(objects[-2]["record"]["bytTurn"], 2)  # it was saved
+        self.assertEqual(objects[-1]["record"]["strPlayerName"], [name, ""])
+        self.assertEqual(objects[-1]["record"]["blnComputer"], [False, True])
+        self.assertEqual(objects[-1]["caption"],
+                         f"Cinderfell Tactical Game - a b.tgf ({name} vs. )")
 
     def test_same_seed_same_game(self):
         def attacks(seed):
             self.write("s.tgf", saved_game((5, 9, 10), (12, 9, 10), (13, 9, 10), (16, 9, 10),
                                            (2, 10, 10), (7, 10, 10), (8, 10, 10), (9, 1, 1)))
-            attack = ["press cmdAttack", "click 9 10", "click 10 10", "tick 1", "press cmdDoneSel"]
+            attack = words("press cmdAttack; click 9 10; click 10 10; tick 1; press cmdDoneSel")
             return self.play("answer " + 50 * "yes ", f"seed {seed}", "open s.tgf", *(5 * attack),
                              "quit")
 
@@ -218,19 +205,16 @@ class ConsoleTest(unittest.TestCase):
 
         old = saved_game((6, 9, 10), (2, 1, 1))
         self.write("g.tgf", old)
-        move = ["press cmdMove", "click 9 10", "press cmdDoneSel", "press cmdMove"]
-        objects = self.play(*move, "menu mnuSave", "close", "answer yes", "close",
-                            arguments=["g.tgf"], preexec_fn=limit)
+        saved, kept, _, left = self.play("menu mnuSave", "close", "answer yes", "close",
+                                         arguments=["g.tgf"], preexec_fn=limit)
         reason = f"The game can not be saved. File too large.\n{self.path('g.tgf')}"
-        self.assertEqual(objects[4]["boxes"], [
+        self.assertEqual(saved["boxes"], [
             {"title": "Save", "text": reason, "buttons": "OK", "answer": "ok"}])
-        self.assertEqual(objects[5]["boxes"], [
+        self.assertEqual(kept["boxes"], [
             {"title": "Save", "text": reason + "\nDo you want to leave without saving?",
              "buttons": "Yes/No", "answer": "no"}])
-        self.assertTrue(objects[5]["open"])
-        self.assertTrue(objects[7]["ended"])
-        self.assertEqual(self.read("g.tgf"), old)
-        self.assertEqual(os.listdir(self.folder), ["g.tgf"])
+        self.assertEqual((kept["open"], left["ended"]), (True, True))
+        self.assertEqual((self.read("g.tgf"), os.listdir(self.folder)), (old, ["g.tgf"]))
 
     def test_for_a_person(self):
         run = self.run_program(f"random 0\n{NEW}\nhelp\npress cmdMove\nclick 14 7\nclick 0 0\n"

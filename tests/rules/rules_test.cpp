@@ -60,6 +60,17 @@ TEST(Movement, CostsOfSteps) {
     }
 }
 
+TEST(Movement, TheCurrentSquareComesBack) {
+    for (const char* look :
+         {"click 14 7", "press cmdSquareDetails; click 1 1"}) {  // too dear, away
+        PlayedGame played("HF@13,7 Z@1,1");
+        played.Play("> press cmdMove; click 13 7; press cmdDoneSel");
+        played.Play(std::string("> ") + look);
+        EXPECT_EQ(played.game.record.bytCurrentX, 13) << look;
+        EXPECT_EQ(played.game.record.bytCurrentY, 7) << look;
+    }
+}
+
 // What becomes of 10 attack and 10 defense units: under a defender who is attacked by command, and
 // directly, and under an attacker.
 TEST(Combat, TerrainModifiers) {

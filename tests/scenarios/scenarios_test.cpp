@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "rules/casualties.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
-#include "support/fake_ports.h"
+#include "support/played_game.h"
 
 namespace qarn {
 namespace {
@@ -39,48 +40,32 @@ TEST(Catalogue, ListNamesAppends) {
     EXPECT_TRUE(quoted.ends_with("\"Varrowdene\", and \"Ambermoor\" "));
 }
 
-class Setup : public testing::Test {
-protected:
-    void SetUpScenario(int scenario) {
-        game.record = {};
-        game.controls = {};
-        game.record.bytScenario = static_cast<std::uint8_t>(scenario);
-        SetupScenario(game);
-    }
-    std::string SquaresOf(Terrain code) const {
-        std::string squares;
-        for (std::size_t X = 1; X <= columnCount; ++X) {
-            for (std::size_t Y = 1; Y <= rowCount; ++Y) {
-                if (game.record.bytTerrain[X][Y] != code) continue;
-                squares += "(" + std::to_string(X) + "," + std::to_string(Y) + ")";
-            }
+std::string SquaresOf(Terrain code, const GameRecord& record) {
+    std::string squares;
+    for (std::size_t X = 1; X <= columnCount; ++X) {
+        for (std::size_t Y = 1; Y <= rowCount; ++Y) {
+            if (record.bytTerrain[X][Y] != code) continue;
+            squares += "(" + std::to_string(X) + "," + std::to_string(Y) + ")";
         }
-        return squares;
     }
-    // The row of the terrain key as a person reads it: caption, what the button says, place.
-    std::string KeyRow(Terrain code) const {
-        const Label& label = game.controls.lblTerrKey[code];
-        const Button& button = game.controls.cmdSeeTerDet[code];
-        const TerrainKindRecord& kind = game.record.TerrainKinds[code];
-        EXPECT_EQ(label.Top, button.Top);
-        std::string row = label.Visible ? label.Caption + " at " + std::to_string(label.Top) : "-";
-        if (button.Visible) row += " ...";
-        if (kind.Mobility == 0) return row;
-        EXPECT_TRUE(kind.Mobility == 1 && kind.Attack == 0 && kind.DirectAttack &&
-                    kind.IndirectAttack && !kind.NeedsBoat);
-        return row + " " + std::to_string(kind.Defense) + " " + kind.Comments;
-    }
+    return squares;
+}
 
-    FakeDialogs dialogs;
-    FakeRandomNumbers random;
-    FakeHelp help;
-    FakeSettings settings;
-    FakeFileTypes fileTypes;
-    Game game{
-        .record = {}, .controls = {}, .ports = {dialogs, random, help, settings, fileTypes, {}}};
-};
+// The row of the terrain key as a person reads it: caption, place, and what the button tells.
+std::string KeyRow(Terrain code, const Game& game) {
+    const Label& label = game.controls.lblTerrKey[code];
+    const Button& button = game.controls.cmdSeeTerDet[code];
+    const TerrainKindRecord& kind = game.record.TerrainKinds[code];
+    EXPECT_EQ(label.Top, button.Top);
+    std::string row = label.Visible ? label.Caption + " at " + std::to_string(label.Top) : "-";
+    if (button.Visible) row += " ...";
+    if (kind.Mobility == 0) return row;
+    EXPECT_TRUE(kind.Mobility == 1 && kind.Attack == 0 && kind.DirectAttack &&
+                kind.IndirectAttack && !kind.NeedsBoat);
+    return row + " " + std::to_string(kind.Defense) + " " + kind.Comments;
+}
 
-TEST_F(Setup, LandmarksAndTheirKey) {
+TEST(Setup, LandmarksTheirKeyAndGroups) {
     struct Row {
         const char *fortresses, *abbeys, *fortressKey, *abbeyKey;
     };
@@ -101,55 +86,34 @@ TEST_F(Setup, LandmarksAndTheirKey) {
         {"", "(10,9)", "-", onlyAbbey},
         {"(1,7)(2,6)(2,7)(3,7)", "(12,8)", mantle, abbey},
     };
-    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
-        SCOPED_TRACE(NamesOfScenario(scenario).Code);
-        SetUpScenario(scenario);
-        EXPECT_EQ(SquaresOf(Fortress), rows[scenario - 1].fortresses);
-        EXPECT_EQ(SquaresOf(Abbey), rows[scenario - 1].abbeys);
-        EXPECT_EQ(KeyRow(Fortress), rows[scenario - 1].fortressKey);
-        EXPECT_EQ(KeyRow(Abbey), rows[scenario - 1].abbeyKey);
-    }
-}
-
-TEST_F(Setup, GroupsOfAllScenarios) {
     const char* counts[] = {"10,10", "9,9",   "10,10", "9,9",   "10,8", "10,10",
                             "9,8",   "10,10", "9,9",   "11,11", "9,9",  "9,9"};
-    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
-        SetUpScenario(scenario);
-        std::array<int, 3> sides{};
-        for (std::size_t i = 1; i <= peopleCount; ++i) {
-            const PeopleRecord& people = game.record.People[i];
-            ++sides.at(people.Side);
-            EXPECT_EQ(people.Code.size(), 3u);
+    for (std::size_t i = 0; i < scenarioCount; ++i) {
+        const std::string code(NamesOfScenario(static_cast<int>(i) + 1).Code);
+        SCOPED_TRACE(code);
+        PlayedGame played(code);
+        const GameRecord& record = played.game.record;
+        EXPECT_EQ(SquaresOf(Fortress, record), rows[i].fortresses);
+        EXPECT_EQ(SquaresOf(Abbey, record), rows[i].abbeys);
+        EXPECT_EQ(KeyRow(Fortress, played.game), rows[i].fortressKey);
+        EXPECT_EQ(KeyRow(Abbey, played.game), rows[i].abbeyKey);
+        for (int recount = 1; recount <= 2; ++recount) {
+            EXPECT_EQ(std::to_string(record.bytPeopleLeft[1]) + "," +
+                          std::to_string(record.bytPeopleLeft[2]),
+                      counts[i]);
+            CountPeople(played.game);
         }
-        EXPECT_EQ(std::to_string(sides[1]) + "," + std::to_string(sides[2]), counts[scenario - 1]);
-        EXPECT_EQ(sides[1], game.record.bytPeopleLeft[1]);
-        EXPECT_EQ(sides[2], game.record.bytPeopleLeft[2]);
     }
 }
 
-TEST_F(Setup, HollowmereAsItStarts) {
-    SetUpScenario(7);
-    const GameRecord& record = game.record;
-    EXPECT_EQ(record.bytTerrain[1][2], Plain);
-    EXPECT_EQ(record.bytTerrain[18][10], Plain);
-    EXPECT_EQ(record.bytTerrain[14][1], Sand);
-    const SquareList gallowrock = LocationOfPeople(record, 15, 4);
-    EXPECT_EQ(std::vector<int>(gallowrock.People().begin(), gallowrock.People().end()),
-              (std::vector<int>{2, 7, 24}));
-    EXPECT_EQ(record.People[10].Code, "ZA1");
-    EXPECT_EQ(record.People[3].Ability1, 961);
-    EXPECT_EQ(record.People[18].Defense, 4);
-}
-
-TEST_F(Setup, AnUnknownScenarioLeavesTheRecordUntouched) {
-    for (const int scenario : {0, 13}) {
-        SetUpScenario(scenario);
-        EXPECT_EQ(game.record.People[1].Name, "");
-        EXPECT_EQ(game.record.bytPeopleLeft[1], 0);
-        EXPECT_EQ(SquaresOf(Mountain), "");
-        EXPECT_EQ(KeyRow(Fortress), "- ...");
-    }
+TEST(Setup, HollowmereAsItStarts) {
+    const PlayedGame played("HM");
+    EXPECT_EQ(played.game.record.bytTerrain[1][2], Plain);
+    EXPECT_EQ(played.game.record.bytTerrain[18][10], Plain);
+    EXPECT_EQ(played.game.record.bytTerrain[14][1], Sand);
+    EXPECT_EQ(played.game.controls.lbl[15][4].Caption, "WA   WA1  BT   ");
+    EXPECT_EQ(played.game.record.People[24].LocationX, 15);
+    EXPECT_EQ(played.game.record.People[18].Defense, 4);
 }
 
 }  // namespace

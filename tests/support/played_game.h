@@ -39,9 +39,9 @@ public:
     /// tells. Checks after each line that every square shows what stands on it.
     std::string Play(const std::string& script);
 
-    /// One command: press, tick, untick, menu, saveas, click or close; answer or roll, for boxes and
-    /// dice to come; rename side 2's player, or breakdisk, after which nothing can be written. Gives
-    /// false for what a person could not do.
+    /// One command: press, tick, untick, menu, saveas, click or close; answer or roll, for boxes
+    /// and dice to come; rename side 2's player, or breakdisk, after which nothing can be written.
+    /// Gives false for what a person could not do.
     bool Do(const std::string& command);
 
     void ExpectBoardShown() const;

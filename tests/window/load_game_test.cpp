@@ -7,10 +7,6 @@
 namespace qarn {
 namespace {
 
-const std::string olderFormMessage =
-    "The file may be loaded with the incorrect scenario. If it appears that the loaded scenario is "
-    "incorrect, select the Convert File menu item from the Tools menu.";
-
 std::string Padded(std::string name) {
     name.resize(54, ' ');
     return name;
@@ -19,12 +15,8 @@ std::string Padded(std::string name) {
 class LoadGame : public testing::Test {
 protected:
     void Open(const std::string& text) {
-        WriteFile(played.path, text);
-        Open();
-    }
-    void Open() {
         played.dialogs.boxes.clear();
-        played.Open();
+        played.Open(text);
     }
 
     PlayedGame played;
@@ -89,6 +81,7 @@ TEST_F(LoadGame, PlayersWithoutFlags) {
               "Red|False|" + Padded("Blue") + "True|False");
     EXPECT_EQ(players(Padded("Red") + "True", "Blue "), "Red|True|Blue|False");
     EXPECT_EQ(players(Padded("Red") + "true", Padded("") + "True"), "Red|False||True");
+    EXPECT_EQ(players(Padded("Red") + "True ", Padded("") + "False"), "Red|False||False");
     EXPECT_EQ(players(std::string(54, 'R'), ""), std::string(54, 'R') + "|False||False");
 }
 
@@ -101,46 +94,41 @@ TEST_F(LoadGame, ItemsEndAtCommas) {
     EXPECT_EQ(record.bytTerrain[15][4], Sand);
 }
 
-struct BadLine {
-    int line;
-    const char* text;
-    int number;
-    const char* description;
-};
-
 TEST_F(LoadGame, RefusesBadLines) {
+    struct BadLine {
+        int line;
+        const char* text;
+        int number;
+        const char* reason;
+    };
     const std::string saved = SavedGame("Q@1,1 WA@15,4 15,4=4");
     for (const BadLine& bad : {
-             BadLine{1, "", 13, "Line 1: the scenario should be a code or a number, but is \"\"."},
-             {1, "x", 13, "Line 1: the scenario should be a code or a number, but is \"x\"."},
-             {4, " 3 ", 9, "Line 4: the side to move should be 0 to 2, but is 3."},
-             {4, " -1 ", 9, "Line 4: the side to move should be 0 to 2, but is -1."},
-             {4, " 1 1 ", 13, "Line 4: the side to move should be a number, but is \"1 1\"."},
-             {4, " \x80 ", 13, "Line 4: the side to move should be a number, but is \"€\"."},
-             {5, " 256 ", 9,
-              "Line 5: the number of groups left of side 1 should be 0 to 255, but is 256."},
-             {6, " ", 13,
-              "Line 6: the number of groups left of side 2 should be a number, but is \"\"."},
-             {7, " 19 ", 9, "Line 7: the column of group 1 should be 0 to 18, but is 19."},
-             {8, " 11 ", 9, "Line 8: the row of group 1 should be 1 to 10, but is 11."},
-             {8, " 0 ", 9, "Line 8: the row of group 1 should be 1 to 10, but is 0."},
-             {54, " 1.5 ", 13, "Line 54: the row of group 24 should be a number, but is \"1.5\"."},
-             {55, " 99999999999 ", 9,
-              "Line 55: the number of landmark squares should be 0 to 255, but is 99999999999."},
-             {55, " 2 ", 62, "Line 59: the file ends before the column of landmark square 2."},
-             {56, " 0 ", 9,
-              "Line 56: the column of landmark square 1 should be 1 to 18, but is 0."},
-             {57, " 11 ", 9, "Line 57: the row of landmark square 1 should be 1 to 10, but is 11."},
-             {58, " 9 ", 9,
-              "Line 58: the terrain code of landmark square 1 should be 0 to 8, but is 9."},
+             BadLine{1, "", 13, "the scenario should be a code or a number, but is \"\"."},
+             {1, "x", 13, "the scenario should be a code or a number, but is \"x\"."},
+             {4, " 3 ", 9, "the side to move should be 0 to 2, but is 3."},
+             {4, " -1 ", 9, "the side to move should be 0 to 2, but is -1."},
+             {4, " 1 1 ", 13, "the side to move should be a number, but is \"1 1\"."},
+             {4, " \x80 ", 13, "the side to move should be a number, but is \"€\"."},
+             {5, "256", 9, "the number of groups left of side 1 should be 0 to 255, but is 256."},
+             {6, " ", 13, "the number of groups left of side 2 should be a number, but is \"\"."},
+             {7, " 19 ", 9, "the column of group 1 should be 0 to 18, but is 19."},
+             {8, " 11 ", 9, "the row of group 1 should be 1 to 10, but is 11."},
+             {8, " 0 ", 9, "the row of group 1 should be 1 to 10, but is 0."},
+             {54, " 1.5 ", 13, "the row of group 24 should be a number, but is \"1.5\"."},
+             {55, "9876543210", 9,
+              "the number of landmark squares should be 0 to 255, but is 9876543210."},
+             {56, " 0 ", 9, "the column of landmark square 1 should be 1 to 18, but is 0."},
+             {57, " 11 ", 9, "the row of landmark square 1 should be 1 to 10, but is 11."},
+             {58, " 9 ", 9, "the terrain code of landmark square 1 should be 0 to 8, but is 9."},
          }) {
         const std::string text = WithLine(saved, bad.line, bad.text);
         played.dialogs.queued = {Answer::Cancel};
         Open(text);
-        ASSERT_EQ(played.dialogs.boxes.size(), 1u) << bad.description;
+        ASSERT_EQ(played.dialogs.boxes.size(), 1u) << bad.reason;
         EXPECT_EQ(played.dialogs.boxes[0].Title, "Error " + std::to_string(bad.number));
-        EXPECT_EQ(played.dialogs.boxes[0].Text,
-                  std::string("Invalid game format\n") + bad.description + "\n" + played.path);
+        EXPECT_EQ(played.dialogs.boxes[0].Text, "Invalid game format\nLine " +
+                                                    std::to_string(bad.line) + ": " + bad.reason +
+                                                    "\n" + played.path);
         EXPECT_TRUE(played.game.blnEnded && !played.game.blnOpen);
         EXPECT_EQ(played.game.exitStatus, 1);
         EXPECT_EQ(ReadFile(played.path), text);
@@ -149,21 +137,20 @@ TEST_F(LoadGame, RefusesBadLines) {
 
 TEST_F(LoadGame, SurvivesBeingCutAtEveryByte) {
     const std::string saved = SavedGame("Q@1,1 WA@15,4 15,4=4");
-    std::string lengthsLoaded;
+    std::vector<std::size_t> loaded;
     for (std::size_t length = 0; length <= saved.size(); ++length) {
         const std::string cut = saved.substr(0, length);
         played.dialogs.queued = {Answer::Cancel};
         Open(cut);
         EXPECT_EQ(ReadFile(played.path), cut);
         if (played.game.blnOpen) {
-            lengthsLoaded += std::to_string(length) + " ";
+            loaded.push_back(length);
             played.ExpectBoardShown();
             continue;
         }
         ASSERT_EQ(played.dialogs.boxes.size(), 1u) << length;
-        const bool lastLineCanBeRead = cut.find_last_not_of(" \r") + 1 > cut.rfind('\n') + 1;
-        const auto line =
-            1 + std::count(cut.begin(), cut.end(), '\n') + (lastLineCanBeRead ? 1 : 0);
+        const int readInLastLine = cut.find_last_not_of(" \r") + 1 > cut.rfind('\n') + 1;
+        const auto line = 1 + std::count(cut.begin(), cut.end(), '\n') + readInLastLine;
         EXPECT_EQ(played.dialogs.boxes[0].Offered, Buttons::RetryCancel);
         EXPECT_TRUE(played.dialogs.boxes[0].Text.starts_with("Invalid game format\nLine " +
                                                              std::to_string(line) + ": "))
@@ -171,12 +158,8 @@ TEST_F(LoadGame, SurvivesBeingCutAtEveryByte) {
     }
     // The game is whole once the turn has been read, and once the last terrain code has.
     const std::size_t turn = 4 + 2 * (54 + 5 + 2) + 2, end = saved.size();
-    std::string expected;
-    for (const std::size_t whole :
-         {turn, turn + 1, turn + 2, turn + 3, end - 3, end - 2, end - 1, end}) {
-        expected += std::to_string(whole) + " ";
-    }
-    EXPECT_EQ(lengthsLoaded, expected);
+    EXPECT_EQ(loaded, (std::vector<std::size_t>{turn, turn + 1, turn + 2, turn + 3, end - 3,
+                                                end - 2, end - 1, end}));
 }
 
 TEST_F(LoadGame, RefusesWhatIsNoFile) {
@@ -185,10 +168,10 @@ TEST_F(LoadGame, RefusesWhatIsNoFile) {
           std::pair{played.folder.Path().string(), "Is a directory"}}) {
         played.path = path;
         played.dialogs.queued = {Answer::Cancel};
-        Open();
-        EXPECT_EQ(played.dialogs.boxes.at(0).Title, "Error 53");
+        played.Open();
+        EXPECT_EQ(played.dialogs.boxes.back().Title, "Error 53");
         EXPECT_EQ(
-            played.dialogs.boxes.at(0).Text,
+            played.dialogs.boxes.back().Text,
             std::string("Invalid game format\nThe file can not be read: ") + reason + ".\n" + path);
     }
 }
@@ -198,7 +181,7 @@ TEST_F(LoadGame, RetryAfterTheFileWasMended) {
     // Nothing was known of the file: it is read from its first line.
     played.dialogs.queued = {Answer::Retry};
     played.dialogs.whileShown = [&] { WriteFile(played.path, WithLine(good, 1, "SB")); };
-    Open();
+    played.Open();
     EXPECT_EQ(record.bytScenario, 1);
 
     // The scenario was known: it stays, and the message of the older form is not shown again.
@@ -208,7 +191,9 @@ TEST_F(LoadGame, RetryAfterTheFileWasMended) {
     };
     Open(WithLine(WithLine(good, 1, "7"), 20, "?"));
     ASSERT_EQ(played.dialogs.boxes.size(), 3u);
-    EXPECT_EQ(played.dialogs.boxes[0].Text, olderFormMessage);
+    EXPECT_EQ(played.dialogs.boxes[0].Text,
+              "The file may be loaded with the incorrect scenario. If it appears that the loaded "
+              "scenario is incorrect, select the Convert File menu item from the Tools menu.");
     EXPECT_EQ(played.dialogs.boxes[1].Title, "Error 13");
     EXPECT_EQ(played.dialogs.boxes[2].Text, played.dialogs.boxes[1].Text);
     EXPECT_EQ(record.bytScenario, 7);
@@ -216,15 +201,6 @@ TEST_F(LoadGame, RetryAfterTheFileWasMended) {
     EXPECT_EQ(record.strPlayerName[1], "Red");
     EXPECT_EQ(controls.Caption, "Hollowmere Tactical Game - game.tgf (Red vs. Blue)");
     played.ExpectBoardShown();
-}
-
-TEST_F(LoadGame, OlderForm) {
-    Open(WithLine(SavedGame("CF"), 1, "5"));
-    ASSERT_EQ(played.dialogs.boxes.size(), 1u);
-    EXPECT_EQ(played.dialogs.boxes[0].Text, olderFormMessage);
-    EXPECT_EQ(record.bytScenario, 5);
-    EXPECT_TRUE(controls.mnuConvertFile.Visible);
-    EXPECT_EQ(controls.Caption, "Cinderfell Tactical Game - game.tgf (Red vs. Blue)");
 }
 
 TEST_F(LoadGame, UnknownScenariosAreShownAndNeverWritten) {
@@ -240,9 +216,8 @@ TEST_F(LoadGame, UnknownScenariosAreShownAndNeverWritten) {
                   "Thornmere Series Tactical Game Tactical Game - game.tgf (Red vs. Blue)");
         EXPECT_EQ(record.bytTerrain[1][1], Plain);
         played.dialogs.saveFileName = played.folder / "other.tgf";
-        for (const char* command :
-             {"menu mnuSave", "menu mnuSaveAs", "menu mnuConvertFile", "close"}) {
-            played.Do(command);
+        for (const char* item : {"mnuSave", "mnuSaveAs", "mnuConvertFile", "mnuExit"}) {
+            played.Do(std::string("menu ") + item);
         }
         EXPECT_TRUE(played.game.blnEnded);
         EXPECT_EQ(ReadFile(played.path), text);

@@ -22,9 +22,8 @@ TEST(MenuCommands, HelpTopics) {
     for (const char* item : {"mnuItemDetails", "mnuSummaryTerrain", "mnuGetStarted", "mnuHelp"}) {
         EXPECT_TRUE(played.Do(std::string("menu ") + item));
     }
-    EXPECT_EQ(played.help.topics,
-              (std::vector<std::string>{"HMdetails.htm", "Terrain Info.htm", "GettingStarted.htm",
-                                        ""}));
+    EXPECT_EQ(played.help.topics, (std::vector<std::string>{"HMdetails.htm", "Terrain Info.htm",
+                                                            "GettingStarted.htm", ""}));
     EXPECT_FALSE(played.Do("menu mnusave") || played.Do("menu"));
 }
 
@@ -68,7 +67,8 @@ TEST(Events, SurviveAnything) {
         for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
             const std::string code(entry.Code), attack = std::to_string(1 + below(25));
             if (below(3) > 0) continue;
-            crowd += " " + code + "@" + std::to_string(8 + below(4)) + near(6, 10).replace(0, 1, ",");
+            crowd +=
+                " " + code + "@" + std::to_string(8 + below(4)) + near(6, 10).replace(0, 1, ",");
             if (entry.Side != 0) crowd += " " + code + ".Attack=" + attack;
         }
         PlayedGame played(crowd);

@@ -1,0 +1,271 @@
+#include "ui/board_widget.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "ui/board_accessible.h"
+#include "ui/code_layout.h"
+#include "ui/design.h"
+#include "ui/square_text.h"
+#include "ui/text.h"
+
+namespace qarn {
+namespace {
+
+constexpr QPoint nowhere;
+
+constexpr QColor lineColor(0x40, 0x40, 0x40);
+constexpr QColor cursorColor(0x00, 0x00, 0x00);
+constexpr QColor cursorRimColor(0xFF, 0xFF, 0xFF);
+constexpr QColor highlightColor(0xFF, 0x00, 0xC8);
+
+QColor ToQt(Color color) { return QColor::fromRgb(color.rgb); }
+
+template <typename Squares>
+auto& SquareOf(Squares& squares, QPoint square) {
+    return squares[static_cast<std::size_t>(square.x())][static_cast<std::size_t>(square.y())];
+}
+
+bool LookAlike(const SquareLabel& a, const SquareLabel& b) {
+    return a.Caption == b.Caption && a.BackColor == b.BackColor && a.ForeColor == b.ForeColor;
+}
+
+template <typename Function>
+void ForEachSquare(Function function) {
+    for (int Y = 1; Y <= rowCount; ++Y) {
+        for (int X = 1; X <= columnCount; ++X) function(QPoint(X, Y));
+    }
+}
+
+// Lines stand on whole pixels of the screen, so that they are sharp at any size.
+template <typename Lines>
+void SpreadLines(Lines& lines, double length, double ratio) {
+    const auto last = static_cast<double>(lines.size() - 1);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        lines[i] = std::round(length * ratio * static_cast<double>(i) / last) / ratio;
+    }
+}
+
+// An outline inside a rectangle, `width` thick.
+void PaintOutline(QPainter& painter, const QRectF& rect, double width, QColor color) {
+    painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), width), color);
+    painter.fillRect(QRectF(rect.left(), rect.bottom() - width, rect.width(), width), color);
+    painter.fillRect(QRectF(rect.left(), rect.top(), width, rect.height()), color);
+    painter.fillRect(QRectF(rect.right() - width, rect.top(), width, rect.height()), color);
+}
+
+}  // namespace
+
+BoardWidget::BoardWidget(const Game& game, QWidget* parent) : QWidget(parent), game_(game) {
+    // First, since whatever changes while a screen reader listens asks the factory.
+    QAccessible::installFactory(MakeAccessibleBoard);
+    // A click on a square leaves the focus where it is, so that the buttons keep it.
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setAccessibleName("Board");
+}
+
+void BoardWidget::BringUpToDate() {
+    ForEachSquare([&](QPoint square) {
+        const SquareLabel& label = SquareOf(game_.controls.lbl, square);
+        SquareLabel& shown = SquareOf(shown_, square);
+        if (LookAlike(label, shown)) return;
+        shown = label;
+        UpdateSquare(square);
+        TellChangedSquare(this, square);
+    });
+    ShowHighlight();
+}
+
+// The mark comes with a place in twips; it always stands over a whole square.
+void BoardWidget::ShowHighlight() {
+    const Marker& mark = game_.controls.shpHighlight;
+    QPoint square = nowhere;
+    if (mark.Visible) {
+        square = QPoint((mark.Left + squareTwips.width() / 2 - boardTwips.x()) / columnTwips + 1,
+                        (mark.Top + squareTwips.height() / 2 - boardTwips.y()) / rowTwips + 1);
+    }
+    if (square == highlight_) return;
+    UpdateSquare(highlight_);
+    highlight_ = square;
+    UpdateSquare(highlight_);
+}
+
+void BoardWidget::UpdateSquare(QPoint square) {
+    if (square != nowhere) update(PlaceOfSquare(square));
+}
+
+// ---- Places ----
+
+void BoardWidget::resizeEvent(QResizeEvent*) { PlaceLines(); }
+
+void BoardWidget::PlaceLines() {
+    const double ratio = devicePixelRatioF();
+    lineWidth_ = std::max(1.0, std::floor(ratio)) / ratio;
+    SpreadLines(columnLines_, width() - lineWidth_, ratio);
+    SpreadLines(rowLines_, height() - lineWidth_, ratio);
+}
+
+QRectF BoardWidget::InnerSquare(QPoint square) const {
+    const auto X = static_cast<std::size_t>(square.x());
+    const auto Y = static_cast<std::size_t>(square.y());
+    return QRectF(QPointF(columnLines_[X - 1] + lineWidth_, rowLines_[Y - 1] + lineWidth_),
+                  QPointF(columnLines_[X], rowLines_[Y]));
+}
+
+QRect BoardWidget::PlaceOfSquare(QPoint square) const {
+    return InnerSquare(square)
+        .adjusted(-lineWidth_, -lineWidth_, lineWidth_, lineWidth_)
+        .toAlignedRect();
+}
+
+QPoint BoardWidget::SquareAt(QPointF place) const {
+    const int X = static_cast<int>(place.x() * columnCount / width()) + 1;
+    const int Y = static_cast<int>(place.y() * rowCount / height()) + 1;
+    return QPoint(std::clamp(X, 1, columnCount), std::clamp(Y, 1, rowCount));
+}
+
+// ---- Painting ----
+
+void BoardWidget::paintEvent(QPaintEvent* event) {
+    PlaceLines();  // the window may have come to a screen of another pixel ratio
+    QPainter painter(this);
+    PaintLines(painter);
+    ForEachSquare([&](QPoint square) {
+        if (event->region().intersects(PlaceOfSquare(square))) PaintSquare(painter, square);
+    });
+    PaintMarks(painter);
+}
+
+void BoardWidget::PaintLines(QPainter& painter) const {
+    for (const double x : columnLines_) {
+        painter.fillRect(QRectF(x, 0, lineWidth_, height()), lineColor);
+    }
+    for (const double y : rowLines_) {
+        painter.fillRect(QRectF(0, y, width(), lineWidth_), lineColor);
+    }
+}
+
+void BoardWidget::PaintSquare(QPainter& painter, QPoint square) const {
+    const SquareLabel& label = SquareOf(shown_, square);
+    const QRectF inner = InnerSquare(square);
+    painter.fillRect(inner, ToQt(label.BackColor));
+    if (label.Caption.empty()) return;
+    painter.setPen(ToQt(label.ForeColor));
+    PaintCodes(painter, QString::fromStdString(label.Caption), inner);
+}
+
+void BoardWidget::PaintCodes(QPainter& painter, const QString& caption, const QRectF& inner) const {
+    const QStringList codes = CodesOf(caption);
+    const CodeLayout layout = LayOutCodes(codes, inner, font());
+    painter.setFont(layout.font);
+    for (qsizetype i = 0; i < codes.size(); ++i) {
+        painter.drawText(layout.cells[static_cast<std::size_t>(i)],
+                         Qt::AlignCenter | Qt::TextDontClip, codes[i]);
+    }
+}
+
+void BoardWidget::PaintMarks(QPainter& painter) const {
+    const double thick = std::max(1.0, std::round(width() / 430.0));
+    if (hovered_ != nowhere) {
+        PaintOutline(painter, InnerSquare(hovered_), lineWidth_,
+                     ToQt(SquareOf(shown_, hovered_).ForeColor));
+    }
+    const QRectF inner = InnerSquare(cursor_);
+    if (hasFocus()) {
+        PaintOutline(painter, inner, 2 * thick, cursorRimColor);
+        PaintOutline(painter, inner, thick, cursorColor);
+    }
+    if (highlight_ != nowhere) {
+        PaintOutline(painter, InnerSquare(highlight_), 2 * thick, highlightColor);
+    }
+}
+
+// ---- Mouse and keyboard ----
+
+void BoardWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) pressed_ = SquareAt(event->position());
+}
+
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const QPoint square = std::exchange(pressed_, nowhere);
+    if (rect().contains(event->position().toPoint()) && SquareAt(event->position()) == square) {
+        Click(square);
+    }
+}
+
+void BoardWidget::mouseMoveEvent(QMouseEvent* event) { Hover(SquareAt(event->position())); }
+
+void BoardWidget::leaveEvent(QEvent*) { Hover(nowhere); }
+
+void BoardWidget::Hover(QPoint square) {
+    if (square == hovered_) return;
+    UpdateSquare(hovered_);
+    hovered_ = square;
+    UpdateSquare(hovered_);
+}
+
+void BoardWidget::Click(QPoint square) {
+    MoveCursor(square);
+    emit SquareClicked(square.x(), square.y());
+}
+
+void BoardWidget::MoveCursor(QPoint square) {
+    UpdateSquare(cursor_);
+    cursor_ = QPoint(std::clamp(square.x(), 1, columnCount), std::clamp(square.y(), 1, rowCount));
+    UpdateSquare(cursor_);
+    if (hasFocus()) TellCursor();
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left:
+            MoveCursor(cursor_ + QPoint(-1, 0));
+            break;
+        case Qt::Key_Right:
+            MoveCursor(cursor_ + QPoint(1, 0));
+            break;
+        case Qt::Key_Up:
+            MoveCursor(cursor_ + QPoint(0, -1));
+            break;
+        case Qt::Key_Down:
+            MoveCursor(cursor_ + QPoint(0, 1));
+            break;
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (!event->isAutoRepeat()) Click(cursor_);
+            break;
+        default:
+            QWidget::keyPressEvent(event);
+    }
+}
+
+void BoardWidget::focusInEvent(QFocusEvent*) {
+    UpdateSquare(cursor_);
+    TellCursor();
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent*) { UpdateSquare(cursor_); }
+
+void BoardWidget::TellCursor() { TellFocusedSquare(this); }
+
+bool BoardWidget::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QPoint square = SquareAt(help->pos());
+    QToolTip::showText(help->globalPos(), TipOfSquare(game_, square.x(), square.y()), this,
+                       PlaceOfSquare(square));
+    return true;
+}
+
+}  // namespace qarn

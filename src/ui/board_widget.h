@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "core/game.h"
+
+namespace qarn {
+
+/// The board: all 180 squares painted as one widget. Has a cursor of its own, so that the keyboard
+/// can click squares too. Squares are told by column and row, from 1.
+class BoardWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Shows the squares of `game`, which outlives the widget.
+    BoardWidget(const Game& game, QWidget* parent);
+
+    /// Paints what has changed since the last call.
+    void BringUpToDate();
+
+    /// The square that the keyboard clicks.
+    QPoint Cursor() const { return cursor_; }
+    void MoveCursor(QPoint square);
+
+    /// Clicks a square as a mouse does.
+    void Click(QPoint square);
+
+    /// The place of a square on the widget, its lines included.
+    QRect PlaceOfSquare(QPoint square) const;
+    /// The square at a place on the widget.
+    QPoint SquareAt(QPointF place) const;
+
+    const Game& ShownGame() const { return game_; }
+
+signals:
+    void SquareClicked(int X, int Y);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void PlaceLines();
+    QRectF InnerSquare(QPoint square) const;
+    void PaintLines(QPainter& painter) const;
+    void PaintSquare(QPainter& painter, QPoint square) const;
+    void PaintCodes(QPainter& painter, const QString& caption, const QRectF& inner) const;
+    void PaintMarks(QPainter& painter) const;
+    void ShowHighlight();
+    void Hover(QPoint square);
+    void TellCursor();
+    void UpdateSquare(QPoint square);
+
+    const Game& game_;
+    decltype(Controls::lbl) shown_;
+    double lineWidth_ = 1;
+    std::array<double, columnCount + 1> columnLines_{};  // from the left
+    std::array<double, rowCount + 1> rowLines_{};        // from the top
+    QPoint highlight_;                                   // (0, 0): none
+    QPoint cursor_{columnCount / 2, rowCount / 2};
+    QPoint hovered_;  // (0, 0): none
+    QPoint pressed_;  // (0, 0): none
+};
+
+}  // namespace qarn

@@ -1,0 +1,106 @@
+#include "ui/code_layout.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+namespace qarn {
+namespace {
+
+constexpr qsizetype captionLength = 5;  // of one code: three characters and two blanks
+constexpr double largestFont = 0.28;    // by the width of the square
+constexpr double margin = 0.05;         // by the width of the square
+constexpr double rowHeight = 1.1;       // by the size of the font
+constexpr double gap = 0.3;             // by the size of the font
+constexpr int smallestFont = 5;         // pixels
+
+using Widths = std::vector<double>;
+using Row = Widths;
+
+Widths WidthsOf(const QStringList& codes, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    Widths widths;
+    for (const QString& code : codes) widths.push_back(metrics.horizontalAdvance(code));
+    return widths;
+}
+
+Widths Scaled(Widths widths, double factor) {
+    for (double& width : widths) width *= factor;
+    return widths;
+}
+
+double WidthOf(const Row& row, double between) {
+    double width = -between;
+    for (const double cell : row) width += between + cell;
+    return width;
+}
+
+std::vector<Row> Stacked(const Widths& widths) {
+    std::vector<Row> rows;
+    for (const double width : widths) rows.push_back({width});
+    return rows;
+}
+
+std::vector<Row> Wrapped(const Widths& widths, double between, double room) {
+    std::vector<Row> rows;
+    for (const double width : widths) {
+        if (rows.empty() || WidthOf(rows.back(), between) + between + width > room) {
+            rows.emplace_back();
+        }
+        rows.back().push_back(width);
+    }
+    return rows;
+}
+
+bool Fit(const std::vector<Row>& rows, int fontSize, const QRectF& room) {
+    return static_cast<double>(rows.size()) * fontSize * rowHeight <= room.height() &&
+           std::all_of(rows.begin(), rows.end(), [&](const Row& row) {
+               return WidthOf(row, fontSize * gap) <= room.width();
+           });
+}
+
+std::vector<QRectF> Centred(const std::vector<Row>& rows, int fontSize, const QRectF& room) {
+    const double height = fontSize * rowHeight;
+    const double between = fontSize * gap;
+    double top = room.center().y() - height * static_cast<double>(rows.size()) / 2;
+    std::vector<QRectF> cells;
+    for (const Row& row : rows) {
+        double left = room.center().x() - WidthOf(row, between) / 2;
+        for (const double width : row) {
+            cells.emplace_back(left, top, width, height);
+            left += width + between;
+        }
+        top += height;
+    }
+    return cells;
+}
+
+}  // namespace
+
+QStringList CodesOf(const QString& caption) {
+    QStringList codes;
+    for (qsizetype i = 0; i < caption.size(); i += captionLength) {
+        codes << caption.mid(i, captionLength).trimmed();
+    }
+    return codes;
+}
+
+CodeLayout LayOutCodes(const QStringList& codes, const QRectF& square, QFont font) {
+    const double inset = square.width() * margin;
+    const QRectF room = square.adjusted(inset, inset, -inset, -inset);
+    const int largest = std::max(smallestFont, static_cast<int>(square.width() * largestFont));
+    font.setPixelSize(largest);
+    font.setBold(true);
+    std::vector<Row> rows = Stacked(WidthsOf(codes, font));
+    if (Fit(rows, largest, room)) return {font, Centred(rows, largest, room)};
+
+    font.setBold(false);  // is read better when it is small
+    const Widths widths = WidthsOf(codes, font);
+    int size = largest;
+    do {
+        rows = Wrapped(Scaled(widths, double(size) / largest), size * gap, room.width());
+    } while (!Fit(rows, size, room) && --size >= smallestFont);
+    font.setPixelSize(size);
+    return {font, Centred(rows, size, room)};
+}
+
+}  // namespace qarn

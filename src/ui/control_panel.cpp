@@ -1,0 +1,236 @@
+#include "ui/control_panel.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "rules/attack_mode.h"
+#include "rules/movement.h"
+#include "rules/terrain.h"
+#include "ui/design.h"
+#include "ui/text.h"
+#include "window/board_clicks.h"
+
+namespace qarn {
+namespace {
+
+constexpr double titleFont = 1.1;  // by the size of the other fonts
+
+// The button that has the least room for its caption, in pixels of the design. Its letters may move
+// together a little.
+constexpr auto widestCaption = "Square Information";
+constexpr double captionRoom = cmdSquareDetailsTwips.width() / twipsPerPixel - 6;
+constexpr double tightestSpacing = 0.92;
+
+void ShowButton(QPushButton* widget, const Button& button) {
+    widget->setText(ToQt(button.Caption));
+    widget->setEnabled(button.Enabled);
+    widget->setVisible(button.Visible);
+}
+
+QFont Bold(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+// Moves the letters of the widest caption together as far as its button makes it necessary.
+void Tighten(QPushButton* button) {
+    const double width = QFontMetricsF(button->font()).horizontalAdvance(widestCaption);
+    QFont spacing;  // the rest is that of the other buttons
+    spacing.setLetterSpacing(QFont::PercentageSpacing, std::min(100.0, 100 * captionRoom / width));
+    button->setFont(spacing);
+}
+
+QPalette TerrainPalette(std::uint8_t code) {
+    const TerrainColors colors = ColorsOfTerrain(code);
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor::fromRgb(colors.BackColor.rgb));
+    palette.setColor(QPalette::WindowText, QColor::fromRgb(colors.ForeColor.rgb));
+    return palette;
+}
+
+// The look of a note that lies over the board.
+void MakeNote(QFrame* widget) {
+    widget->setFrameShape(QFrame::Box);
+    widget->setAutoFillBackground(true);
+    widget->setBackgroundRole(QPalette::ToolTipBase);
+    widget->setForegroundRole(QPalette::ToolTipText);
+}
+
+}  // namespace
+
+ControlPanel::ControlPanel(ScaledArea* area, EventRunner run) : area_(area), run_(std::move(run)) {
+    MakeCheckBoxes();
+    MakeButtons();
+    MakeTerrainKey();
+    MakeLabels();
+    MakeFloatingFrames();
+}
+
+QPushButton* ControlPanel::MakeButton(QWidget* parent, const char* name, void (*click)(Game&)) {
+    auto* button = new QPushButton(parent);
+    button->setObjectName(name);
+    button->setAutoDefault(true);  // Enter presses it while it has the focus
+    QObject::connect(button, &QPushButton::clicked, [this, click] { run_(click); });
+    return button;
+}
+
+void ControlPanel::MakeCheckBoxes() {
+    fraCheckBoxes_ = new QFrame(area_);
+    fraCheckBoxes_->setFrameShape(QFrame::StyledPanel);
+    area_->Place(fraCheckBoxes_, fraCheckBoxesTwips);
+    for (std::size_t i = 1; i <= checkBoxCount; ++i) {
+        auto* box = new QCheckBox(fraCheckBoxes_);
+        box->setObjectName(QString("chkItems(%1)").arg(i));
+        box->setStyle(&checkBoxStyle_);
+        box->hide();
+        QObject::connect(box, &QCheckBox::clicked, [this, i](bool ticked) {
+            run_([=](Game& game) { game.controls.chkItems[i].Value = ticked; });
+        });
+        area_->Place(box, ChkItemsTwips(static_cast<int>(i)));
+        chkItems_[i] = box;
+    }
+    cmdDoneSel_ = MakeButton(fraCheckBoxes_, "cmdDoneSel", cmdDoneSel_Click);
+    area_->Place(cmdDoneSel_, cmdDoneSelTwips);
+}
+
+void ControlPanel::MakeButtons() {
+    cmdAttack_ = MakeButton(area_, "cmdAttack", cmdAttack_Click);
+    cmdMove_ = MakeButton(area_, "cmdMove", cmdMove_Click);
+    cmdSquareDetails_ = MakeButton(area_, "cmdSquareDetails", cmdSquareDetails_Click);
+    Tighten(cmdSquareDetails_);
+    area_->Place(cmdAttack_, cmdAttackTwips);
+    area_->Place(cmdMove_, cmdMoveTwips);
+    area_->Place(cmdSquareDetails_, cmdSquareDetailsTwips);
+}
+
+void ControlPanel::MakeTerrainKey() {
+    const QFont bold = Bold(area_->font());
+    for (std::uint8_t code = 0; code < terrainKindCount; ++code) {
+        auto* label = new FittedLabel(area_, titleFont);
+        label->setObjectName(QString("lblTerrKey(%1)").arg(code));
+        label->setAlignment(Qt::AlignCenter);
+        label->setFont(bold);
+        label->setPalette(TerrainPalette(code));
+        label->setAutoFillBackground(true);
+        lblTerrKey_[code] = label;
+
+        auto* button = new QPushButton(area_);
+        button->setObjectName(QString("cmdSeeTerDet(%1)").arg(code));
+        button->setAutoDefault(true);
+        QObject::connect(button, &QPushButton::clicked, [this, code] {
+            run_([code](Game& game) { cmdSeeTerDet_Click(game, code); });
+        });
+        cmdSeeTerDet_[code] = button;
+    }
+}
+
+void ControlPanel::MakeLabels() {
+    lblDetailMore_ = new FittedLabel(area_);
+    lblDetailMore_->setObjectName("lblDetailMore");
+    area_->Place(lblDetailMore_, lblDetailMoreTwips);
+    lblStatus_ = new FittedLabel(area_);
+    lblStatus_->setObjectName("lblStatus");
+    area_->Place(lblStatus_, lblStatusTwips);
+}
+
+void ControlPanel::MakeFloatingFrames() {
+    const QFont bold = Bold(area_->font());
+    lblTerrainDescription_ = new FittedLabel(area_);
+    lblTerrainDescription_->setObjectName("lblTerrainDescription");
+    MakeNote(lblTerrainDescription_);
+    lblTerrainDescription_->setMargin(4);
+    lblTerrainDescription_->hide();
+
+    fraQuickDetails_ = new QFrame(area_);
+    fraQuickDetails_->setObjectName("fraQuickDetails");
+    MakeNote(fraQuickDetails_);
+    fraQuickDetails_->hide();
+    auto* title = new FittedLabel(fraQuickDetails_, titleFont);
+    title->setFont(bold);
+    title->ShowText("Quick Info");
+    title->setForegroundRole(QPalette::ToolTipText);
+    area_->Place(title, quickInfoTitleTwips);
+    lblSummary_ = new FittedLabel(fraQuickDetails_);
+    lblSummary_->setObjectName("lblSummary");
+    lblSummary_->setForegroundRole(QPalette::ToolTipText);
+    area_->Place(lblSummary_, lblSummaryTwips);
+}
+
+// ---- Bringing up to date ----
+
+void ControlPanel::Show(const Game& game) {
+    const Controls& controls = game.controls;
+    ShowCheckBoxes(game);
+    ShowButton(cmdDoneSel_, controls.cmdDoneSel);
+    ShowButton(cmdAttack_, controls.cmdAttack);
+    ShowButton(cmdMove_, controls.cmdMove);
+    ShowButton(cmdSquareDetails_, controls.cmdSquareDetails);
+    ShowTerrainKey(controls);
+    lblDetailMore_->ShowText(ToLabelText(controls.lblDetailMore.Caption));
+    lblStatus_->ShowText(ToLabelText(controls.lblStatus.Caption));
+    ShowFloatingFrames(controls);
+}
+
+void ControlPanel::ShowCheckBoxes(const Game& game) {
+    for (std::size_t i = 1; i <= checkBoxCount; ++i) {
+        const CheckBox& chkItem = game.controls.chkItems[i];
+        QCheckBox* box = chkItems_[i];
+        box->setText(ToQt(chkItem.Caption).trimmed());
+        box->setEnabled(chkItem.Enabled);
+        box->setVisible(chkItem.Visible);
+        box->setChecked(chkItem.Value);
+        if (!chkItem.Visible) continue;
+        const QString name = ToQt(game.record.People.at(game.record.bytListedPeople[i]).Name);
+        box->setToolTip(name);
+        box->setAccessibleName(name);
+    }
+}
+
+void ControlPanel::ShowTerrainKey(const Controls& controls) {
+    for (std::size_t i = 0; i < terrainKindCount; ++i) {
+        const Label& key = controls.lblTerrKey[i];
+        lblTerrKey_[i]->ShowText(ToLabelText(key.Caption));
+        lblTerrKey_[i]->setVisible(key.Visible);
+        area_->Place(lblTerrKey_[i], LblTerrKeyTwips(key.Top));
+
+        const Button& button = controls.cmdSeeTerDet[i];
+        ShowButton(cmdSeeTerDet_[i], button);
+        cmdSeeTerDet_[i]->setAccessibleName("About " + ToQt(key.Caption));
+        area_->Place(cmdSeeTerDet_[i], CmdSeeTerDetTwips(button.Top));
+    }
+}
+
+void ControlPanel::ShowFloatingFrames(const Controls& controls) {
+    const Label& description = controls.lblTerrainDescription;
+    area_->Place(lblTerrainDescription_, LblTerrainDescriptionTwips(description.Top));
+    lblTerrainDescription_->ShowText(ToLabelText(description.Caption));
+    lblTerrainDescription_->setVisible(description.Visible);
+
+    const Marker& frame = controls.fraQuickDetails;
+    area_->Place(fraQuickDetails_, FraQuickDetailsTwips(frame.Left, frame.Top));
+    lblSummary_->ShowText(ToLabelText(controls.lblSummary.Caption));
+    fraQuickDetails_->setVisible(frame.Visible);
+}
+
+// ---- Focus ----
+
+void ControlPanel::FocusOn(Control control) {
+    if (control == Control::cmdMove) cmdMove_->setFocus();
+    if (control == Control::chkFirst) chkItems_[1]->setFocus();
+}
+
+std::vector<QPushButton*> ControlPanel::PushButtons() const {
+    std::vector<QPushButton*> buttons{cmdDoneSel_, cmdAttack_, cmdMove_, cmdSquareDetails_};
+    buttons.insert(buttons.end(), cmdSeeTerDet_.begin(), cmdSeeTerDet_.end());
+    return buttons;
+}
+
+double DesignFontSize(const QFont& font) {
+    constexpr double largest = 13;
+    const double unitWidth =
+        QFontMetricsF(font).horizontalAdvance(widestCaption) / QFontInfo(font).pixelSize();
+    return std::min(largest, captionRoom / (unitWidth * tightestSpacing));
+}
+
+}  // namespace qarn

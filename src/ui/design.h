@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QRect>
+
+#include "core/game_record.h"
+
+namespace qarn {
+
+// The design of the game window: where its controls stand, in twips (15 to a pixel) of its client
+// area. Controls inside a frame are counted from the frame's corner.
+
+inline constexpr QSize designTwips(15240, 10440);
+
+inline constexpr int columnTwips = 720;
+inline constexpr int rowTwips = 960;
+/// A square's size; its lines are those of its neighbours too.
+inline constexpr QSize squareTwips(735, 975);
+inline constexpr QRect boardTwips(120, 120, columnTwips*(columnCount - 1) + squareTwips.width(),
+                                  rowTwips*(rowCount - 1) + squareTwips.height());
+
+inline constexpr QRect cmdSquareDetailsTwips(13320, 3360, 1695, 375);
+inline constexpr QRect lblDetailMoreTwips(13200, 3840, 1815, 1335);
+inline constexpr QRect fraCheckBoxesTwips(13200, 5400, 1935, 3255);
+inline constexpr QRect cmdDoneSelTwips(120, 2760, 1695, 375);
+inline constexpr QRect cmdAttackTwips(13320, 8880, 1695, 375);
+inline constexpr QRect cmdMoveTwips(13320, 9360, 1695, 375);
+inline constexpr QRect lblStatusTwips(120, 9840, 8895, 495);
+inline constexpr QRect quickInfoTitleTwips(90, 60, 1395, 240);
+inline constexpr QRect lblSummaryTwips(90, 315, 1395, 855);
+
+/// Check box 1 to 11: two columns of five, and the last below them.
+constexpr QRect ChkItemsTwips(int i) {
+    constexpr int width = 840;
+    constexpr int height = 312;
+    if (i == checkBoxCount) return QRect(600, 2400, width, height);
+    return QRect(i <= 5 ? 120 : 1080, 120 + 480 * ((i - 1) % 5), width, height);
+}
+
+constexpr QRect LblTerrKeyTwips(int top) { return QRect(13320, top, 1335, 255); }
+constexpr QRect CmdSeeTerDetTwips(int top) { return QRect(14760, top - 30, 375, 315); }
+constexpr QRect LblTerrainDescriptionTwips(int top) { return QRect(10320, top, 2895, 1575); }
+constexpr QRect FraQuickDetailsTwips(int left, int top) { return QRect(left, top, 1575, 1215); }
+
+}  // namespace qarn

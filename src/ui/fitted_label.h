@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QLabel>
+
+namespace qarn {
+
+/// A label that always shows its whole text: where this does not fit, its font shrinks.
+class FittedLabel : public QLabel {
+public:
+    /// `relativeSize` is the size of its font where there is room, measured by its parent's font.
+    explicit FittedLabel(QWidget* parent, double relativeSize = 1);
+
+    void ShowText(const QString& text);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    bool Fits(const QFont& font) const;
+    void Fit();
+
+    double relativeSize_;
+};
+
+}  // namespace qarn

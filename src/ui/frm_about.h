@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QDialog>
+
+namespace qarn {
+
+/// The about window: what the program is, who made it, and its legal notices. It deletes itself
+/// when it closes.
+class FrmAbout : public QDialog {
+public:
+    explicit FrmAbout(QWidget* gameWindow);
+};
+
+}  // namespace qarn

@@ -1,0 +1,146 @@
+#include "ui/frm_game.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <utility>
+
+#include "ai/turn_driver.h"
+#include "shell/about.h"
+#include "ui/design.h"
+#include "ui/frm_about.h"
+#include "ui/text.h"
+#include "ui/window_icon.h"
+#include "ui/window_place.h"
+#include "window/board_clicks.h"
+#include "window/load_game.h"
+#include "window/run_event.h"
+#include "window/save_game.h"
+
+namespace qarn {
+namespace {
+
+bool IsArrow(int key) {
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+}  // namespace
+
+FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
+    : dialogs_(this, [this] { ShowWidgets(); }),
+      help_(desktop.folders.program, dialogs_),
+      game_{
+          .record = {},
+          .controls = {},
+          .ports = {dialogs_, random, help_, desktop.settings, desktop.fileTypes, desktop.folders}},
+      area_(new ScaledArea(designTwips, DesignFontSize(font()))),
+      board_(new BoardWidget(game_, area_)),
+      panel_(area_, [this](const auto& handler) { Run(handler); }),
+      menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }) {
+    setWindowIcon(WindowIcon());
+    setAttribute(Qt::WA_KeyboardFocusChange);  // shows where the focus is from the start
+    setCentralWidget(area_);
+    area_->Place(board_, boardTwips);
+    board_->setFocus();
+    connect(board_, &BoardWidget::SquareClicked, this,
+            [this](int X, int Y) { Run([=](Game& game) { lblX_Click(game, X, Y); }); });
+    for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
+
+    tmrAI_.setInterval(tmrAIInterval);
+    tmrAI_.setSingleShot(true);
+    tmrAI_.callOnTimeout(this, [this] { Run(tmrAI_Timer); });
+    RestoreWindowPlace(*this, desktop.settings);
+}
+
+void FrmGame::Open(const std::string& strGamePath) {
+    Run([&](Game& game) { Form_Load(game, strGamePath); });
+}
+
+// One event at a time: what comes in while a box is open, as the timer does, is passed over.
+void FrmGame::Run(const std::function<void(Game&)>& handler) {
+    if (running_) return;
+    running_ = true;
+    RunEvent(game_, handler);
+    running_ = false;
+    BringUpToDate();
+}
+
+void FrmGame::BringUpToDate() {
+    if (!game_.blnOpen) {
+        End();
+        return;
+    }
+    ShowWidgets();
+    ShowAbout();
+    panel_.FocusOn(std::exchange(game_.controls.SetFocus, Control::None));
+    if (!game_.controls.tmrAI.Enabled) {
+        tmrAI_.stop();
+    } else if (!tmrAI_.isActive()) {
+        tmrAI_.start();
+    }
+}
+
+void FrmGame::ShowWidgets() {
+    const QWidget* focused = focusWidget();
+    setWindowTitle(ToQt(game_.controls.Caption));
+    board_->BringUpToDate();
+    panel_.Show(game_);
+    menus_.Show(game_.controls);
+    if (game_.blnOpen && isHidden()) {
+        show();
+        activateWindow();
+    }
+    // Where a control loses the focus, the next event mostly comes from the board.
+    if (focused != nullptr && (!focused->isEnabled() || focused->isHidden())) board_->setFocus();
+}
+
+// The about window is open while its menu item is disabled.
+void FrmGame::ShowAbout() {
+    const bool open = !game_.controls.mnuAbout.Enabled;
+    if (open == (about_ != nullptr)) return;
+    if (!open) {
+        about_->close();
+        return;
+    }
+    about_ = new FrmAbout(this);
+    connect(about_, &QDialog::finished, this, [this] {
+        about_ = nullptr;
+        Run(frmAbout_Unload);
+    });
+    about_->show();
+}
+
+void FrmGame::End() {
+    tmrAI_.stop();
+    StoreWindowPlace(*this, game_.ports.settings);
+    hide();
+    QCoreApplication::exit(game_.exitStatus);
+}
+
+void FrmGame::Choose(const MenuCommand& command) {
+    if (CanChoose(game_.controls, command)) Run(command.Click);
+}
+
+// ---- Events of the window itself ----
+
+void FrmGame::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Run(Form_Unload);
+}
+
+// Buttons act at once on their access keys, where Qt waits a while, and leave the arrow keys to the
+// board.
+bool FrmGame::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        static_cast<QPushButton*>(object)->click();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && IsArrow(static_cast<QKeyEvent*>(event)->key())) {
+        board_->setFocus();
+        QCoreApplication::sendEvent(board_, event);
+        return true;
+    }
+    return QMainWindow::eventFilter(object, event);
+}
+
+}  // namespace qarn

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDialog>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+#include <functional>
+#include <string>
+
+#include "core/game.h"
+#include "shell/help_program.h"
+#include "ui/board_widget.h"
+#include "ui/control_panel.h"
+#include "ui/game_menus.h"
+#include "ui/qt_ports.h"
+#include "ui/scaled_area.h"
+
+namespace qarn {
+
+/// The game window. It owns the game, forwards every event to the handler of that name, and shows
+/// the game's controls as they stand after it.
+class FrmGame : public QMainWindow {
+public:
+    /// `random` and the ports of `desktop` outlive the window.
+    FrmGame(RandomNumbers& random, const DesktopPorts& desktop);
+
+    /// Opens a game file and shows the window. The game has ended when it could not be opened.
+    void Open(const std::string& strGamePath);
+
+    const Game& ShownGame() const { return game_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void Run(const std::function<void(Game&)>& handler);
+    void BringUpToDate();
+    void ShowWidgets();
+    void Choose(const MenuCommand& command);
+    void ShowAbout();
+    void End();
+
+    QtDialogs dialogs_;
+    HelpProgram help_;
+    Game game_;
+    bool running_ = false;  // a handler runs, perhaps with a box open
+
+    ScaledArea* area_;
+    BoardWidget* board_;
+    ControlPanel panel_;
+    GameMenus menus_;
+    QTimer tmrAI_;
+    QPointer<QDialog> about_;
+};
+
+}  // namespace qarn

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QFileSystemWatcher>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <functional>
+
+#include "shell/help_program.h"
+#include "shell/start_window.h"
+#include "ui/qt_ports.h"
+
+namespace qarn {
+
+/// The start window: forwards its events to the handlers of StartWindow by name and shows the
+/// controls as they then stand. It closes once another window is next.
+class FrmSplash : public QDialog {
+public:
+    /// What is given here outlives the window.
+    FrmSplash(RandomNumbers& random, const DesktopPorts& desktop, Wastebasket& wastebasket);
+
+    /// Makes the window ready for a person who comes from a game, `blnOpen` to choose a saved one.
+    void Prepare(bool blnOpen);
+
+    /// The next window, and the game's path when it is the game window.
+    const StartWindow& Shown() const { return window_; }
+
+    void reject() override;  ///< Escape and the close box press "E&xit"
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    using Handler = void (*)(StartWindow&);
+
+    void Lay();
+    QLayout* LayNewGame();
+    QLayout* LayScenarios();
+    QLayout* LaySavedGames();
+    QLayout* LayBottom();
+    void Connect();
+    void RunOnClick(QPushButton& button, Handler handler);
+
+    void Run(Handler handler);
+    void BringUpToDate();
+    void ShowControls();
+    void ShowFiles();
+    void ShowScenario();
+    void ShowDefaultButton();
+    void MoveFocus();
+    QWidget* WidgetOf(StartControl control);
+
+    QtDialogs dialogs_;
+    HelpProgram help_;
+    StartWindow window_;
+    bool updating_ = false;  // what changes now was changed by a handler, not by a person
+
+    QLabel lblProgramName_;
+    QLabel lblInstructions_;
+    QLineEdit txtNewFilePath_;
+    QPushButton cmdNew_;
+    QCheckBox chkComputer_;
+    QListWidget lstScenarios_;
+    QLabel picture_;
+    QLabel lblScenarioBackground_;
+    QListWidget fileLoad_;
+    QPushButton cmdLoad_;
+    QPushButton cmdDelete_;
+    QLabel lblYouAre_;
+    QLineEdit txtLocation_;
+    QPushButton cmdBrowse_;
+    QPushButton cmdBackGround_;
+    QPlainTextEdit txtBackGround_;
+    QPushButton cmdExit_;
+    QFileSystemWatcher folder_;
+};
+
+}  // namespace qarn

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QMenuBar>
+#include <functional>
+#include <vector>
+
+#include "window/menu_commands.h"
+
+namespace qarn {
+
+/// The menu bar of the game window, made from the table of its commands.
+class GameMenus {
+public:
+    /// Makes the menus on `bar`. `choose` gets each command that is chosen, by mouse or by key.
+    GameMenus(QMenuBar* bar, std::function<void(const MenuCommand&)> choose);
+
+    /// Brings check marks, enabled and visible states up to date.
+    void Show(const Controls& controls);
+
+private:
+    struct Item {
+        const MenuCommand* command;
+        QAction* action;
+    };
+
+    QAction* MakeAction(QMenu* menu, const MenuCommand& command);
+
+    QMenuBar* bar_;
+    std::function<void(const MenuCommand&)> choose_;
+    std::vector<Item> items_;
+};
+
+}  // namespace qarn

@@ -1,0 +1,36 @@
+#include <fontconfig/fontconfig.h>
+
+#include <QApplication>
+#include <cstdio>
+#include <cstdlib>
+#include <span>
+#include <thread>
+
+#include "shell/command_line.h"
+#include "ui/program.h"
+
+namespace {
+
+// Qt ends the program when it finds no display; this says why in a line of our own.
+void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::fputs("qarn: there is no display to open a window on\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    // The font configuration takes long to read. Qt needs it for the first window only, so it is
+    // read while Qt connects to the display.
+    std::thread fontReader([] { FcInit(); });
+    const QtMessageHandler usual = qInstallMessageHandler(TellNoDisplay);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
+    fontReader.join();
+    // The game window follows the start window: the last window to close does not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
+    return qarn::RunProgram(qarn::CommandLine(arguments.subspan(1)));
+}

@@ -1,0 +1,74 @@
+#include "ui/program.h"
+
+#include <QApplication>
+
+#include "shell/desktop_display.h"
+#include "shell/desktop_wastebasket.h"
+#include "shell/linux_desktop.h"
+#include "shell/login_manager.h"
+#include "ui/frm_game.h"
+#include "ui/frm_splash.h"
+#include "ui/frm_yes_no_help.h"
+
+namespace qarn {
+namespace {
+
+// The windows of one run, each shown until another one is next.
+class Program {
+public:
+    int Run(const std::string& strCommandLine) {
+        StartUp(strCommandLine);
+        while (next_ != NextWindow::None) {
+            if (next_ == NextWindow::Start) {
+                ShowStartWindow();
+            } else {
+                ShowGameWindow();
+            }
+        }
+        return exitStatus_;
+    }
+
+private:
+    void StartUp(const std::string& strCommandLine) {
+        FrmYesNoHelp window(desktop_.Ports().folders.program, display_, computer_, strCommandLine);
+        if (window.Asks()) window.exec();
+        next_ = window.Shown().Next;
+        strGamePath_ = window.Shown().strGamePath;
+    }
+
+    void ShowStartWindow() {
+        FrmSplash window(random_, desktop_.Ports(), wastebasket_);
+        if (fromGame_) window.Prepare(blnOpen_);
+        window.exec();
+        next_ = window.Shown().Next;
+        strGamePath_ = window.Shown().strGamePath;
+    }
+
+    void ShowGameWindow() {
+        FrmGame window(random_, desktop_.Ports());
+        window.Open(strGamePath_);
+        if (window.ShownGame().blnOpen) QApplication::exec();
+        fromGame_ = true;
+        blnOpen_ = window.ShownGame().blnLeftByOpen;
+        exitStatus_ = window.ShownGame().exitStatus;
+        next_ = window.ShownGame().blnEnded ? NextWindow::None : NextWindow::Start;
+    }
+
+    ClockSeededNumbers random_;
+    LinuxDesktop desktop_;
+    DesktopDisplay display_;
+    LoginManager computer_;
+    DesktopWastebasket wastebasket_;
+
+    NextWindow next_ = NextWindow::Same;
+    std::string strGamePath_;
+    bool fromGame_ = false;
+    bool blnOpen_ = false;  // ... to choose a saved game
+    int exitStatus_ = 0;
+};
+
+}  // namespace
+
+int RunProgram(const std::string& strCommandLine) { return Program().Run(strCommandLine); }
+
+}  // namespace qarn

@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+
+#include "core/game_record.h"
+#include "ui/code_layout.h"
+#include "ui/fitted_label.h"
+#include "ui/text.h"
+
+namespace qarn {
+namespace {
+
+TEST(CodeLayout, KeepsEveryCodeWholeInItsSquare) {
+    const QRectF square(3, 5, 47, 63);
+    QStringList codes;
+    for (int count = 1; count <= peopleCount; ++count) {
+        codes << (count <= 4 ? "WA" + QString::number(count) : "BT");
+        const CodeLayout layout = LayOutCodes(codes, square, QFont());
+        ASSERT_EQ(layout.cells.size(), static_cast<std::size_t>(count));
+        const QFontMetricsF metrics(layout.font);
+        for (int i = 0; i < count; ++i) {
+            const QRectF cell = layout.cells[static_cast<std::size_t>(i)];
+            EXPECT_TRUE(square.contains(cell)) << count;
+            EXPECT_LE(metrics.horizontalAdvance(codes[i]), cell.width() + 1) << count;
+            for (int j = 0; j < i; ++j) {
+                EXPECT_FALSE(cell.intersects(layout.cells[static_cast<std::size_t>(j)])) << count;
+            }
+        }
+        EXPECT_GE(layout.font.pixelSize(), count <= 4 ? 13 : count <= 11 ? 8 : 5) << count;
+    }
+}
+
+TEST(CodeLayout, ReadsTheCodesOfACaption) {
+    EXPECT_EQ(CodesOf("Q    WA1  BT   "), (QStringList{"Q", "WA1", "BT"}));
+    EXPECT_EQ(CodesOf(""), QStringList());
+}
+
+TEST(FittedLabel, ShrinksItsFontUntilTheTextFits) {
+    QWidget parent;
+    QFont font = parent.font();
+    font.setPixelSize(12);
+    parent.setFont(font);
+    FittedLabel label(&parent);
+    label.resize(120, 60);
+    parent.show();
+
+    label.ShowText("Short");
+    EXPECT_EQ(label.font().pixelSize(), 12);
+    label.ShowText(
+        "Current Items: Warlord, Warlords's Army (2), Warlord's Misc. Helpers, Boat (7)");
+    EXPECT_LT(label.font().pixelSize(), 12);
+    EXPECT_LE(label.heightForWidth(label.width()), label.height());
+    label.resize(400, 60);
+    EXPECT_EQ(label.font().pixelSize(), 12);
+}
+
+TEST(LabelText, LeavesOutTheMarksOfAccessKeysOnly) {
+    EXPECT_EQ(ToLabelText("You have 0 mobility units left.\nClick Done &Moving"),
+              "You have 0 mobility units left.\nClick Done Moving");
+    EXPECT_EQ(ToLabelText("select &Details from the &Details menu."),
+              "select Details from the Details menu.");
+    EXPECT_EQ(ToLabelText("It is Rock & Roll's, R&B's, &'s turn."),
+              "It is Rock & Roll's, R&B's, &'s turn.");
+}
+
+}  // namespace
+}  // namespace qarn
