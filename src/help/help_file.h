@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "help/chm_archive.h"
+
+namespace qarn {
+
+/// One line of the table of contents, and the lines below it.
+struct ContentsEntry {
+    std::string title;
+    std::string page;  ///< with its anchor, if any; empty for a mere heading
+    std::vector<ContentsEntry> entries;
+};
+
+/// A compiled help file in memory. It stays as it was read when the file on the disk changes.
+class HelpFile {
+public:
+    /// Reads the file. Throws HelpFileError when it cannot be read, or has no start page.
+    explicit HelpFile(const std::string& path);
+
+    /// A page, picture or style sheet, whatever the case of its name; null when there is none.
+    const std::string* Find(std::string_view name) const;
+
+    /// The names of all pages, in the order of the alphabet.
+    std::vector<std::string> PageNames() const;
+
+    const std::string& StartPage() const { return startPage_; }
+    const std::vector<ContentsEntry>& Contents() const { return contents_; }
+
+private:
+    void ReadSystem();
+
+    ChmContents files_;
+    std::string startPage_;
+    std::vector<ContentsEntry> contents_;
+};
+
+/// Reads a table of contents in the form that help compilers take: nested lists of objects with a
+/// "Name" and a "Local" parameter. What is not understood is left out.
+std::vector<ContentsEntry> ParseContents(std::string_view html);
+
+}  // namespace qarn

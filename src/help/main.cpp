@@ -1,0 +1,49 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+#include <QStyle>
+#include <cstdio>
+#include <cstdlib>
+
+#include "help/viewer.h"
+
+namespace {
+
+// Qt ends the program when it finds no display; this says why in a line of our own.
+void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::fputs("qarn-help: there is no display to open a window on\n", stderr);
+    std::_Exit(1);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const QtMessageHandler usual = qInstallMessageHandler(TellNoDisplay);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
+    QApplication::setApplicationName("qarn-help");
+    QApplication::setApplicationDisplayName("Thornmere Series Tactical Game Help");
+    QApplication::setApplicationVersion(QARN_VERSION);
+    QApplication::setWindowIcon(QIcon::fromTheme(
+        "help-browser", application.style()->standardIcon(QStyle::SP_DialogHelpButton)));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Shows the help of the Thornmere Series Tactical Game.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument("file", "The help file; without it the one beside this program.",
+                                 "[FILE");
+    parser.addPositionalArgument(
+        "topic", "A page, such as \"Terrain Info.htm\", with \"#\" and an anchor where wanted.",
+        "[TOPIC]]");
+    parser.process(application);
+
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() > 2) {
+        std::fputs("usage: qarn-help [FILE [TOPIC]]\n", stderr);
+        return 2;
+    }
+    const QString beside = QApplication::applicationDirPath() + "/Help.chm";
+    return qarn::RunViewer(arguments.value(0, beside), arguments.value(1));
+}

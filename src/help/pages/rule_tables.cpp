@@ -1,0 +1,122 @@
+#include "help/pages/rule_tables.h"
+
+#include <array>
+#include <map>
+
+#include "help/pages/html.h"
+#include "help/pages/trial_game.h"
+#include "rules/terrain.h"
+#include "scenarios/catalogue.h"
+
+namespace qarn {
+namespace {
+
+constexpr std::int16_t climbing1 = 961;
+constexpr std::int16_t climbing2 = 602;
+constexpr std::int16_t flying1 = 811;
+
+std::string Percent(int ofFive) { return std::to_string(ofFive * 20) + "%"; }
+
+// "1 to 3", "2", or a dash when no number of the die does it.
+std::string Numbers(int first, int last) {
+    if (last < first) return "&ndash;";
+    if (last == first) return std::to_string(first);
+    return std::to_string(first) + " to " + std::to_string(last);
+}
+
+std::string OddsRow(const std::string& difference, const Odds& odds) {
+    const int tie = odds.wins + odds.ties;
+    return Row({difference, Numbers(1, odds.wins), Numbers(odds.wins + 1, tie), Numbers(tie + 1, 5),
+                Percent(odds.wins), Percent(odds.ties), Percent(odds.losses),
+                odds.warns ? "yes" : "no"});
+}
+
+std::string DifferenceText(int first, int last, int lowest, int highest) {
+    if (first == lowest) return std::to_string(last) + " or less";
+    if (last == highest) return std::to_string(first) + " or more";
+    if (first == last) return std::to_string(first);
+    return std::to_string(first) + " or " + std::to_string(last);
+}
+
+// A kind of terrain as one row of the table knows it. Fortresses differ from scenario to scenario.
+struct TerrainRow {
+    std::uint8_t code;
+    std::string name;
+    TerrainKindRecord kind;
+};
+
+std::vector<TerrainRow> TerrainRows() {
+    std::vector<TerrainRow> rows;
+    const TrialGame plain;
+    for (std::uint8_t code = Plain; code <= Forest; ++code) {
+        rows.push_back({code, plain.game.controls.lblTerrKey[code].Caption,
+                        plain.game.record.TerrainKinds[code]});
+    }
+    std::map<std::string, TerrainRow> landmarks;
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        const TrialGame trial(scenario);
+        for (const std::uint8_t code : {Fortress, Abbey}) {
+            const Label& key = trial.game.controls.lblTerrKey[code];
+            const TerrainKindRecord& kind = trial.game.record.TerrainKinds[code];
+            if (key.Visible)
+                landmarks[std::to_string(code) + key.Caption] = {code, key.Caption, kind};
+        }
+    }
+    for (const auto& [order, row] : landmarks) rows.push_back(row);
+    return rows;
+}
+
+std::string YesNo(bool value) { return value ? "yes" : "no"; }
+
+}  // namespace
+
+std::string OddsTable() {
+    constexpr int lowest = -3;
+    constexpr int highest = 15;
+    std::string rows = Row({"Attack minus defense", "You win on", "Tie on", "You lose on", "Win",
+                            "Tie", "Lose", "Asks first"},
+                           "th");
+    int first = lowest;
+    for (int difference = lowest; difference <= highest; ++difference) {
+        const Odds odds = OddsOf(difference);
+        if (difference < highest && OddsOf(difference + 1) == odds) continue;
+        rows += OddsRow(DifferenceText(first, difference, lowest, highest), odds);
+        first = difference + 1;
+    }
+    return Table("numbers", rows);
+}
+
+std::string TerrainTable() {
+    std::string rows = Row({"Terrain", "Mobility", "Attack", "Defense", "Attack command",
+                            "Needs a boat", "The key&rsquo;s comment"},
+                           "th");
+    for (const TerrainRow& row : TerrainRows()) {
+        const TerrainColors colors = ColorsOfTerrain(row.code);
+        rows += Row({InColors(colors.BackColor, colors.ForeColor, Escape(row.name)),
+                     std::to_string(row.kind.Mobility), std::to_string(row.kind.Attack),
+                     std::to_string(row.kind.Defense), YesNo(row.kind.IndirectAttack),
+                     YesNo(row.kind.NeedsBoat),
+                     "<td class=\"text\">" + Escape(row.kind.Comments) + "</td>"});
+    }
+    return Table("numbers", rows);
+}
+
+std::string SpecialMoverTable() {
+    std::string rows = Row({"Step onto", "Ordinary group, or any company", "Climbing group alone",
+                            "Flying group alone"},
+                           "th");
+    const TrialGame trial(1);
+    for (std::uint8_t code = Plain; code <= Abbey; ++code) {
+        const TerrainColors colors = ColorsOfTerrain(code);
+        const std::string name = code == Fortress ? "Fortress"
+                                 : code == Abbey  ? "Abbey"
+                                                  : trial.game.controls.lblTerrKey[code].Caption;
+        rows += Row({InColors(colors.BackColor, colors.ForeColor, name),
+                     std::to_string(CostOfStep(0, 0, code)),
+                     std::to_string(CostOfStep(climbing1, climbing2, code)),
+                     std::to_string(CostOfStep(flying1, 0, code))});
+    }
+    return Table("numbers", rows);
+}
+
+}  // namespace qarn

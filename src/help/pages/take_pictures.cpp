@@ -1,0 +1,196 @@
+// Plays the game that the pages tell of in the real window and takes their pictures of it. Needs a
+// display; run with QT_SCALE_FACTOR=2. The pictures are kept with the pages.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPainter>
+#include <QTimer>
+#include <cstdio>
+#include <deque>
+#include <filesystem>
+
+#include "core/file_store.h"
+#include "core/game_file.h"
+#include "ui/design.h"
+#include "ui/frm_game.h"
+
+namespace qarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int columnOfPage = 730;  // pixels of the pages' usual width
+constexpr QColor frame{0x99, 0x99, 0x99};
+
+/// The die shows these numbers, one after the other.
+class GivenRolls : public RandomNumbers {
+public:
+    explicit GivenRolls(std::deque<int> rolls) : rolls_(std::move(rolls)) {}
+    void Seed() override {}
+    double Next() override {
+        const int roll = rolls_.front();
+        rolls_.pop_front();
+        return (roll - 0.5) / 5;
+    }
+
+private:
+    std::deque<int> rolls_;
+};
+
+class NoSettings : public SettingsStore, public FileTypeRegistry {
+public:
+    std::string Read(const std::string&, const std::string&, const std::string&,
+                     const std::string& defaultValue) override {
+        return defaultValue;
+    }
+    void Write(const std::string&, const std::string&, const std::string&,
+               const std::string&) override {}
+    std::string LoginName() override { return {}; }
+    bool CreateKey(const std::string&) override { return false; }
+    bool SetDefaultValue(const std::string&, const std::string&) override { return false; }
+    std::optional<std::string> DefaultValue(const std::string&) override { return {}; }
+};
+
+void LetWindowsSettle() {
+    for (int i = 0; i < 20; ++i) QApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+class Photographer {
+public:
+    Photographer(fs::path folder, std::deque<int> rolls)
+        : folder_(std::move(folder)),
+          random_(std::move(rolls)),
+          window_(random_, {settings_, settings_, {}}) {
+        const fs::path file = fs::temp_directory_path() / "First try.tgf";
+        std::string game = NewGameText("HM", {{{"Marit", false}, {"Ansel", false}}});
+        game[game.rfind('0')] = '1';  // Marit begins
+        ReplaceFile(file.string(), game);
+        window_.Open(file.string());
+        window_.resize(1016, 696 + 24);
+        LetWindowsSettle();
+    }
+
+    void Click(int X, int Y) {
+        emit Board()->SquareClicked(X, Y);
+        LetWindowsSettle();
+    }
+
+    void Press(const QString& name) {
+        window_.findChild<QAbstractButton*>(name)->click();
+        LetWindowsSettle();
+    }
+
+    /// The boxes that come up from now on are taken under these names, or not where one is empty.
+    void TakeBoxes(std::deque<std::string> names) {
+        boxes_ = std::move(names);
+        QTimer::singleShot(300, [this] { TakeBox(); });
+    }
+
+    void Take(const std::string& name, const QRect& pixels) {
+        Save(name, window_.centralWidget()->grab(pixels));
+    }
+    void TakeWindow(const std::string& name, int width) { Save(name, window_.grab(), width); }
+
+private:
+    BoardWidget* Board() { return window_.findChild<BoardWidget*>(); }
+
+    void TakeBox() {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr || boxes_.empty()) return;
+        LetWindowsSettle();
+        if (!boxes_.front().empty()) Save(boxes_.front(), box->grab());
+        boxes_.pop_front();
+        QTimer::singleShot(300, [this] { TakeBox(); });
+        box->button(QMessageBox::Ok)->click();
+    }
+
+    // Framed, no wider than a page, and once more with twice as many pixels.
+    void Save(const std::string& name, const QPixmap& pixmap, int mostWidth = columnOfPage) {
+        QImage image = pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+        image.setDevicePixelRatio(1);
+        QPainter painter(&image);
+        painter.setPen(QPen(frame, 2));
+        painter.drawRect(image.rect().adjusted(1, 1, -1, -1));
+        painter.end();
+        if (image.width() > 2 * mostWidth) {
+            image = image.scaledToWidth(2 * mostWidth, Qt::SmoothTransformation);
+        }
+        const QImage small =
+            image.scaled(image.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image.save(QString::fromStdString((folder_ / (name + "@2x.png")).string()), "PNG", 0);
+        small.save(QString::fromStdString((folder_ / (name + ".png")).string()), "PNG", 0);
+    }
+
+    fs::path folder_;
+    GivenRolls random_;
+    NoSettings settings_;
+    FrmGame window_;
+    std::deque<std::string> boxes_;
+};
+
+constexpr QRect boardBelow{8 + 48 * 9, 8 + 64 * 5, 48 * 7, 64 * 5};
+constexpr QRect boxesAndButtons{872, 355, 144, 300};
+
+// The Hero's company walks to the river, and the corsairs row up to it.
+void PlayToTheRiver(Photographer& photographer, bool take) {
+    photographer.Press("cmdMove");
+    photographer.Click(14, 7);
+    if (take) photographer.Take("selecting", boxesAndButtons);
+    photographer.Press("cmdDoneSel");
+    photographer.Click(13, 7);
+    photographer.Click(13, 8);
+    photographer.Click(12, 8);
+    if (take) photographer.Take("moved", boardBelow);
+    photographer.Press("cmdMove");
+    photographer.Press("cmdMove");
+    photographer.Click(11, 10);
+    photographer.Press("cmdDoneSel");
+    photographer.Click(11, 9);
+    photographer.Click(12, 9);
+    photographer.Press("cmdMove");
+    if (take) photographer.Take("corsairs", boardBelow);
+}
+
+void TakeWonGame(const fs::path& folder) {
+    Photographer photographer(folder, {2, 5});
+    photographer.TakeWindow("game", columnOfPage);
+    photographer.TakeWindow("welcome", 460);
+    photographer.Press("cmdSquareDetails");
+    photographer.Click(14, 7);
+    photographer.Take("square-information", {8 + 48 * 11, 216, 480, 368});
+    photographer.Press("cmdSquareDetails");
+    photographer.Press("cmdSeeTerDet(4)");
+    photographer.Take("terrain-key", {640, 0, 376, 214});
+    photographer.Press("cmdSeeTerDet(4)");
+
+    PlayToTheRiver(photographer, true);
+    photographer.TakeBoxes({"odds", "won", ""});
+    photographer.Press("cmdAttack");
+    photographer.Click(12, 8);
+    photographer.Click(12, 9);
+}
+
+void TakeLostGame(const fs::path& folder) {
+    Photographer photographer(folder, {5});
+    PlayToTheRiver(photographer, false);
+    photographer.TakeBoxes({"", ""});
+    photographer.Press("cmdAttack");
+    photographer.Click(12, 8);
+    photographer.Click(12, 9);
+    photographer.Take("casualty", boxesAndButtons);
+}
+
+}  // namespace
+}  // namespace qarn
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("usage: take_pictures FOLDER\n", stderr);
+        return 2;
+    }
+    qarn::TakeWonGame(argv[1]);
+    qarn::TakeLostGame(argv[1]);
+    return 0;
+}

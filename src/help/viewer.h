@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace qarn {
+
+/// Shows a topic of a help file, in the viewer that is already open on it or in a window of its
+/// own, and runs until that window is closed. Gives the program's exit status: 1 when the file is
+/// missing or damaged, which a box has told then. Needs a QApplication.
+int RunViewer(const QString& helpFilePath, const QString& topic);
+
+}  // namespace qarn

@@ -1,0 +1,241 @@
+#include "help/help_file.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <set>
+
+#include "scenarios/catalogue.h"
+#include "scenarios/setup.h"
+#include "support/temp_folder.h"
+
+namespace qarn {
+namespace {
+
+// QARN_HELP_FILE is the Help.chm of this build.
+const HelpFile& Help() {
+    static const HelpFile file(QARN_HELP_FILE);
+    return file;
+}
+
+std::string Page(const std::string& name) {
+    const std::string* page = Help().Find(name);
+    EXPECT_NE(page, nullptr) << name;
+    return page == nullptr ? "" : *page;
+}
+
+std::string Replaced(std::string text, const std::string& what, const std::string& with) {
+    for (std::size_t at = text.find(what); at != text.npos; at = text.find(what, at + 1)) {
+        text.replace(at, what.size(), with);
+    }
+    return text;
+}
+
+// A page without its tags, its words told apart by one blank.
+std::string TextOf(const std::string& page) {
+    std::string text;
+    bool inTag = false;
+    for (const char letter : Replaced(page, "&#39;", "'")) {
+        if (letter == '<') inTag = true;
+        const bool blank = inTag || letter == '\n' || letter == ' ';
+        if (!blank) text += letter;
+        if (blank && !text.ends_with(' ')) text += ' ';
+        if (letter == '>') inTag = false;
+    }
+    return text;
+}
+
+std::vector<std::string> ValuesOf(const std::string& page, const std::string& attribute) {
+    const std::string mark = " " + attribute + "=\"";
+    std::vector<std::string> values;
+    for (std::size_t at = page.find(mark); at != page.npos; at = page.find(mark, at)) {
+        at += mark.size();
+        values.push_back(page.substr(at, page.find('"', at) - at));
+    }
+    return values;
+}
+
+// True when there is such a page, picture or style sheet, and the anchor on it, if one is named.
+bool Leads(const std::string& address, const std::string& from) {
+    const std::string plain = Replaced(address, "%20", " ");
+    const std::size_t hash = std::min(plain.find('#'), plain.size());
+    const std::string name = hash == 0 ? from : plain.substr(0, hash);
+    const std::string* target = Help().Find(name);
+    if (target == nullptr) return false;
+    if (hash == plain.size()) return true;
+    for (const std::string& anchor : ValuesOf(*target, "name")) {
+        if (anchor == plain.substr(hash + 1)) return true;
+    }
+    return false;
+}
+
+void AddPages(const std::vector<ContentsEntry>& entries, std::set<std::string>& pages) {
+    for (const ContentsEntry& entry : entries) {
+        if (!entry.page.empty()) pages.insert(entry.page);
+        AddPages(entry.entries, pages);
+    }
+}
+
+TEST(HelpFile, HasEveryPageThatTheProgramOpens) {
+    std::vector<std::string> topics{Help().StartPage(),
+                                    "GettingStarted.htm",
+                                    "Terrain Info.htm",
+                                    "Troubleshooting.htm#Remove",
+                                    "Troubleshooting.htm#ManualFix",
+                                    "details.htm"};
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        topics.push_back(std::string(NamesOfScenario(scenario).Code) + "details.htm");
+    }
+    for (const std::string& topic : topics) EXPECT_TRUE(Leads(topic, "")) << topic;
+}
+
+TEST(HelpFile, EveryLinkAndPictureLeadsSomewhere) {
+    int links = 0;
+    for (const std::string& name : Help().PageNames()) {
+        const std::string page = Page(name);
+        for (const char* attribute : {"href", "src"}) {
+            for (const std::string& address : ValuesOf(page, attribute)) {
+                EXPECT_TRUE(Leads(address, name)) << name << " leads to " << address;
+                ++links;
+            }
+        }
+    }
+    EXPECT_GT(links, 100);
+}
+
+TEST(HelpFile, ContentsListEveryPage) {
+    std::set<std::string> listed;
+    AddPages(Help().Contents(), listed);
+    const std::vector<std::string> pages = Help().PageNames();
+    EXPECT_EQ(listed, std::set<std::string>(pages.begin(), pages.end()));
+}
+
+TEST(HelpFile, NamesAreFoundInAnyCase) {
+    EXPECT_EQ(Help().Find("terrain info.HTM"), Help().Find("Terrain Info.htm"));
+    EXPECT_EQ(Help().Find("Terrain%20Info.htm"), nullptr);
+    EXPECT_EQ(Help().Find(""), nullptr);
+}
+
+TEST(HelpFile, RostersAreThoseOfTheGame) {
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        const std::string name = std::string(NamesOfScenario(scenario).Code) + "details.htm";
+        const std::string text = TextOf(Page(name));
+        for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
+            if (entry.Side == 0) continue;
+            const std::string row = " " + std::string(entry.Code) + " " + std::string(entry.Name) +
+                                    " " + std::to_string(entry.Mobility) + " " +
+                                    std::to_string(entry.Attack) + " " +
+                                    std::to_string(entry.Defense) + " ";
+            const std::size_t badbeasts = text.find(" Badbeasts ");
+            const std::size_t at = text.find(row);
+            ASSERT_NE(at, text.npos) << name << row;
+            EXPECT_EQ(at > badbeasts, entry.Side == 2) << name << row;
+        }
+    }
+}
+
+TEST(HelpFile, OddsAreThoseOfTheRule) {
+    const std::string text = TextOf(Page("Combat.htm"));
+    for (const char* row : {
+             " 1 or less &ndash; &ndash; 1 to 5 0% 0% 100% yes ",
+             " 2 &ndash; 1 2 to 5 0% 20% 80% yes ",
+             " 3 &ndash; 1 2 to 5 0% 20% 80% no ",
+             " 6 or 7 1 to 2 3 4 to 5 40% 20% 40% no ",
+             " 10 or 11 1 to 4 5 &ndash; 80% 20% 0% no ",
+             " 12 or more 1 to 5 &ndash; &ndash; 100% 0% 0% no ",
+         }) {
+        EXPECT_NE(text.find(row), text.npos) << row;
+    }
+}
+
+TEST(HelpFile, CostsAreThoseOfTheRule) {
+    const std::string text = TextOf(Page("SpecialMovers.htm"));
+    for (const char* row :
+         {" Mountain 5 2 1 ", " Sand 3 3 1 ", " Forest 2 1 1 ", " Abbey 1 1 1 "}) {
+        EXPECT_NE(text.find(row), text.npos) << row;
+    }
+    EXPECT_NE(TextOf(Page("Terrain Info.htm")).find(" Gallowrock 1 0 3 yes no 1 to move and 3"),
+              std::string::npos);
+}
+
+// ---- Damage ----
+
+class DamagedHelpFile : public testing::Test {
+protected:
+    std::string ErrorOf(const std::string& contents) {
+        WriteFile(path_, contents);
+        try {
+            const HelpFile file(path_);
+            return "";
+        } catch (const HelpFileError& error) {
+            return error.what();
+        }
+    }
+
+    TempFolder folder_;
+    const std::string path_ = folder_ / "Help.chm";
+    const std::string whole_ = ReadFile(QARN_HELP_FILE);
+};
+
+TEST_F(DamagedHelpFile, CutShortAnywhereIsRefused) {
+    EXPECT_EQ(ErrorOf(whole_), "");
+    for (std::size_t part = 0; part < 24; ++part) {
+        EXPECT_NE(ErrorOf(whole_.substr(0, whole_.size() * part / 24)), "") << part;
+    }
+    EXPECT_NE(ErrorOf(whole_.substr(0, whole_.size() - 1)), "");
+}
+
+TEST_F(DamagedHelpFile, WrongBytesAreReadOrRefused) {
+    int refused = 0;
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        std::mt19937 random(seed);
+        std::string bytes = whole_;
+        const std::size_t range = seed % 2 == 0 ? bytes.size() : 0x2000;
+        for (int i = 0; i < 8; ++i) bytes[random() % range] = static_cast<char>(random());
+        refused += ErrorOf(bytes).empty() ? 0 : 1;
+    }
+    EXPECT_GT(refused, 0);
+}
+
+TEST_F(DamagedHelpFile, WhatIsNoHelpFileIsRefusedWithTheReason) {
+    EXPECT_EQ(ErrorOf(std::string(100000, 'x')), "It is damaged, or it is not a help file.");
+    EXPECT_EQ(ErrorOf("ITSF"), "It is damaged, or it is not a help file.");
+    try {
+        ReadChm(folder_ / "missing.chm");
+        ADD_FAILURE();
+    } catch (const HelpFileError& error) {
+        EXPECT_STREQ(error.what(), "No such file or directory.");
+    }
+    EXPECT_THROW(ReadChm(folder_.Path()), HelpFileError);
+}
+
+// ---- Contents ----
+
+std::string Object(const std::string& name, const std::string& page) {
+    return "<LI><OBJECT type=\"text/sitemap\"><param name=\"Name\" value=\"" + name +
+           "\"><PARAM NAME=\"Local\" VALUE=\"" + page + "\"></OBJECT>\n";
+}
+
+TEST(ParseContents, ReadsNestedLists) {
+    const auto entries =
+        ParseContents("<UL>" + Object("A", "a.htm") + "<UL>" + Object("B &amp; C", "b.htm#c") +
+                      "</UL>" + Object("D", "") + "</UL>");
+    ASSERT_EQ(entries.size(), 2u);
+    ASSERT_EQ(entries[0].entries.size(), 1u);
+    EXPECT_EQ(entries[0].entries[0].title, "B & C");
+    EXPECT_EQ(entries[0].entries[0].page, "b.htm#c");
+    EXPECT_EQ(entries[1].title, "D");
+}
+
+TEST(ParseContents, GoesOnAfterMistakes) {
+    EXPECT_TRUE(ParseContents("").empty());
+    EXPECT_TRUE(ParseContents("<UL><LI").empty());
+    EXPECT_EQ(ParseContents("</UL></UL>" + Object("A", "a.htm")).size(), 1u);
+    EXPECT_EQ(ParseContents("<OBJECT><param name=\"Name\" value=\"A").size(), 1u);
+    std::string deep;
+    for (int i = 0; i < 100000; ++i) deep += "<UL>" + Object("A", "a.htm");
+    EXPECT_FALSE(ParseContents(deep).empty());
+}
+
+}  // namespace
+}  // namespace qarn
