@@ -144,9 +144,10 @@ struct SquareList {
     std::array<std::uint8_t, peopleCount + 1> bytPeopleNumbers{};  ///< used from index 1
 
     /// The listed entries, in roster order.
-    std::span<const std::uint8_t> People() const {
+    std::span<const std::uint8_t> People() const& {
         return {bytPeopleNumbers.data() + 1, bytNumberofPeople};
     }
+    std::span<const std::uint8_t> People() const&& = delete;  // it would outlive the list
 };
 
 /// Mobility, attack and defense added up.

@@ -66,7 +66,8 @@ void ConfirmCasualty(Game& game) {
 }
 
 std::uint8_t ChooseDeadAnimal(const GameRecord& record, int X, int Y) {
-    return ChooseDeadAnimal(record, LocationOfPeople(record, X, Y).People());
+    const SquareList list = LocationOfPeople(record, X, Y);
+    return ChooseDeadAnimal(record, list.People());
 }
 
 std::uint8_t ChooseDeadAnimal(const GameRecord& record, std::span<const std::uint8_t> list) {

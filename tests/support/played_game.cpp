@@ -84,6 +84,8 @@ std::vector<Fact> FactsOf(const Game& game) {
     for (const Fact& fact : {
              Fact{"@", "turn", std::to_string(record.bytTurn)},
              Fact{"@", "left", Pair(record.bytPeopleLeft[1], record.bytPeopleLeft[2])},
+             Fact{"@", "scenario", std::to_string(record.bytScenario)},
+             Fact{"@", "name", record.strGameName},
              Fact{"@", "file", FileFact(record.strGamePath)},
              Fact{"#", "window", WindowFact(game)},
              Fact{"#", "caption", controls.Caption},

@@ -109,6 +109,7 @@ TEST_F(LoadGame, RefusesBadLines) {
              {4, " -1 ", 9, "the side to move should be 0 to 2, but is -1."},
              {4, " 1 1 ", 13, "the side to move should be a number, but is \"1 1\"."},
              {4, " \x80 ", 13, "the side to move should be a number, but is \"€\"."},
+             {4, "1, 9, 8, 19", 9, "the column of group 1 should be 0 to 18, but is 19."},
              {5, "256", 9, "the number of groups left of side 1 should be 0 to 255, but is 256."},
              {6, " ", 13, "the number of groups left of side 2 should be a number, but is \"\"."},
              {7, " 19 ", 9, "the column of group 1 should be 0 to 18, but is 19."},

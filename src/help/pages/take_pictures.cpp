@@ -3,6 +3,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPainter>
 #include <QTimer>
@@ -12,8 +14,10 @@
 
 #include "core/file_store.h"
 #include "core/game_file.h"
+#include "scenarios/catalogue.h"
 #include "ui/design.h"
 #include "ui/frm_game.h"
+#include "ui/frm_splash.h"
 
 namespace qarn {
 namespace {
@@ -56,6 +60,50 @@ void LetWindowsSettle() {
     for (int i = 0; i < 20; ++i) QApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
+// Framed, no wider than a page, and once more with twice as many pixels.
+void Save(const fs::path& folder, const std::string& name, const QPixmap& pixmap,
+          int mostWidth = columnOfPage) {
+    QImage image = pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+    image.setDevicePixelRatio(1);
+    QPainter painter(&image);
+    painter.setPen(QPen(frame, 2));
+    painter.drawRect(image.rect().adjusted(1, 1, -1, -1));
+    painter.end();
+    if (image.width() > 2 * mostWidth) {
+        image = image.scaledToWidth(2 * mostWidth, Qt::SmoothTransformation);
+    }
+    const QImage small =
+        image.scaled(image.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    image.save(QString::fromStdString((folder / (name + "@2x.png")).string()), "PNG", 0);
+    small.save(QString::fromStdString((folder / (name + ".png")).string()), "PNG", 0);
+}
+
+class NoWastebasket : public Wastebasket {
+    void MoveThere(const std::string&) override {}
+};
+
+// The start window, in which Hollowmere is being chosen.
+void TakeStartWindow(const fs::path& folder) {
+    GivenRolls random({});
+    NoSettings settings;
+    NoWastebasket wastebasket;
+    const std::string games = fs::temp_directory_path().string();
+    FrmSplash window(random, {settings, settings, {games, games}}, wastebasket);
+    window.show();
+    LetWindowsSettle();
+    for (QLineEdit* text : window.findChildren<QLineEdit*>()) {
+        if (!text->isReadOnly()) text->insert("First try");
+    }
+    for (QPushButton* button : window.findChildren<QPushButton*>()) {
+        if (button->text() == "&New") button->click();
+    }
+    for (QListWidget* list : window.findChildren<QListWidget*>()) {
+        if (list->count() == scenarioCount) list->setCurrentRow(ScenarioNumber("HM") - 1);
+    }
+    LetWindowsSettle();
+    Save(folder, "scenario", window.grab());
+}
+
 class Photographer {
 public:
     Photographer(fs::path folder, std::deque<int> rolls)
@@ -88,9 +136,11 @@ public:
     }
 
     void Take(const std::string& name, const QRect& pixels) {
-        Save(name, window_.centralWidget()->grab(pixels));
+        Save(folder_, name, window_.centralWidget()->grab(pixels));
     }
-    void TakeWindow(const std::string& name, int width) { Save(name, window_.grab(), width); }
+    void TakeWindow(const std::string& name, int width) {
+        Save(folder_, name, window_.grab(), width);
+    }
 
 private:
     BoardWidget* Board() { return window_.findChild<BoardWidget*>(); }
@@ -99,27 +149,10 @@ private:
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr || boxes_.empty()) return;
         LetWindowsSettle();
-        if (!boxes_.front().empty()) Save(boxes_.front(), box->grab());
+        if (!boxes_.front().empty()) Save(folder_, boxes_.front(), box->grab());
         boxes_.pop_front();
         QTimer::singleShot(300, [this] { TakeBox(); });
         box->button(QMessageBox::Ok)->click();
-    }
-
-    // Framed, no wider than a page, and once more with twice as many pixels.
-    void Save(const std::string& name, const QPixmap& pixmap, int mostWidth = columnOfPage) {
-        QImage image = pixmap.toImage().convertToFormat(QImage::Format_RGB32);
-        image.setDevicePixelRatio(1);
-        QPainter painter(&image);
-        painter.setPen(QPen(frame, 2));
-        painter.drawRect(image.rect().adjusted(1, 1, -1, -1));
-        painter.end();
-        if (image.width() > 2 * mostWidth) {
-            image = image.scaledToWidth(2 * mostWidth, Qt::SmoothTransformation);
-        }
-        const QImage small =
-            image.scaled(image.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        image.save(QString::fromStdString((folder_ / (name + "@2x.png")).string()), "PNG", 0);
-        small.save(QString::fromStdString((folder_ / (name + ".png")).string()), "PNG", 0);
     }
 
     fs::path folder_;
@@ -190,6 +223,7 @@ int main(int argc, char* argv[]) {
         std::fputs("usage: take_pictures FOLDER\n", stderr);
         return 2;
     }
+    qarn::TakeStartWindow(argv[1]);
     qarn::TakeWonGame(argv[1]);
     qarn::TakeLostGame(argv[1]);
     return 0;
