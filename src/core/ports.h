@@ -17,6 +17,7 @@ struct MessageBox {
     std::string Text;
     Buttons Offered = Buttons::OK;
     Icon Shown = Icon::None;
+    bool DeclinedByDefault = false;  ///< Enter alone says No, where Yes would lose something
 };
 
 /// Modal boxes and prompts. Each call returns when the person has answered.

@@ -2,8 +2,6 @@
 
 #include "core/details_mode.h"
 #include "core/turn_cycle.h"
-#include "rules/check_boxes.h"
-#include "rules/end_move.h"
 
 namespace qarn {
 
@@ -22,15 +20,6 @@ void EnterAttackMode(Game& game) {
 }
 
 namespace {
-
-// A move under way disables the button, but a person may have it back from details mode that was on
-// when the computer began its move.
-void AbandonMove(Game& game) {
-    EndMove(game.record);
-    HideCheckBoxes(game.controls);
-    game.controls.cmdDoneSel.Visible = false;
-    game.controls.cmdMove.Caption = "&Move";
-}
 
 void LeaveAttackMode(Game& game) {
     GameRecord& record = game.record;
@@ -52,7 +41,6 @@ void cmdAttack_Click(Game& game) {
     if (game.record.blnAttackMode) {
         LeaveAttackMode(game);
     } else {
-        AbandonMove(game);
         EnterAttackMode(game);
     }
 }

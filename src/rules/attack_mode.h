@@ -4,11 +4,11 @@
 
 namespace qarn {
 
-/// Enters attack mode and keeps the move under way, for the attack that it leads to.
+/// Enters attack mode.
 void EnterAttackMode(Game& game);
 
-/// The button "&Attack" / "&Retreat": enters attack mode and abandons any move, or leaves it and
-/// forgets the chosen attacker. The game itself leaves attack mode through it once an attack is over.
+/// The button "&Attack" / "&Retreat": enters attack mode, or leaves it and forgets the chosen
+/// attacker. The game itself leaves attack mode through it once an attack is over.
 void cmdAttack_Click(Game& game);
 
 }  // namespace qarn

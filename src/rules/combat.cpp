@@ -6,6 +6,8 @@
 #include "core/turn_cycle.h"
 #include "rules/attack_mode.h"
 #include "rules/casualties.h"
+#include "rules/check_boxes.h"
+#include "rules/end_move.h"
 #include "rules/terrain.h"
 
 namespace qarn {
@@ -106,6 +108,13 @@ bool ConfirmsBadOdds(Game& game, bool blnDirect, const ClickedSquare& S, AttackR
         bytResult = S.terrain == Abbey ? AttackResult::CancelledAtAbbey : AttackResult::NotPossible;
     }
     return false;
+}
+
+// An attack made with the Attack command ends the turn, and with it a move that was under way: the
+// computer can have begun one with attack mode on.
+void AbandonMove(Game& game) {
+    EndMove(game.record);
+    HideCheckBoxes(game.controls);
 }
 
 void BeginAttack(Game& game) {
@@ -212,6 +221,7 @@ void AttackTarget(Game& game, bool blnDirect, const ClickedSquare& S, AttackResu
     if (!AllowsTerrain(game, blnDirect, S, bytResult)) return;
     if (!ConfirmsBadOdds(game, blnDirect, S, bytResult)) return;
 
+    if (!blnDirect) AbandonMove(game);
     BeginAttack(game);
     if (record.bytAttackUnits == record.bytDefenseUnits) {
         Status(game, "Your attack units can not penetrate your enemy's defense.");

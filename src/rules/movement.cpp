@@ -23,6 +23,7 @@ void Status(Game& game, const std::string& text) { game.controls.lblStatus.Capti
 
 void EnterMoveMode(Game& game) {
     Controls& controls = game.controls;
+    EndMove(game.record);
     game.record.blnMoveMode = true;
     controls.cmdMove.Caption = "Done &Moving";
     Status(game, controls.mnuPeopleDetails.Checked
@@ -291,11 +292,9 @@ void ReturnToStart(Game& game) {
 }  // namespace
 
 void cmdMove_Click(Game& game) {
-    const bool entering = game.controls.cmdMove.Caption == "&Move";
     // Disabled for a person then, but the computer's turn may come in the middle of their attack.
     if (game.record.blnCasualtyPending) return;
-    if (game.record.blnAttackMode) cmdAttack_Click(game);
-    if (entering) {
+    if (game.controls.cmdMove.Caption == "&Move") {
         EnterMoveMode(game);
     } else {
         LeaveMoveMode(game);

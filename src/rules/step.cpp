@@ -99,6 +99,7 @@ StepResult AttackDirectly(Game& game, std::uint8_t X, std::uint8_t Y) {
         return StepResult::AttackCancelled;
     }
     AttackResult result = AttackResult::NotPossible;
+    record.blnAttackerChosen = false;
     EnterAttackMode(game);
     AttackSquare(game, true, record.bytGroupX, record.bytGroupY, result);
     AttackSquare(game, true, X, Y, result);

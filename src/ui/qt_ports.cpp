@@ -78,7 +78,7 @@ Answer QtDialogs::Show(const MessageBox& box) {
     widget.setText(ToQt(box.Text));
     if (box.Shown == Icon::Information) widget.setIcon(QMessageBox::Information);
     widget.setStandardButtons(buttons.shown);
-    widget.setDefaultButton(buttons.preferred);
+    widget.setDefaultButton(box.DeclinedByDefault ? buttons.escape : buttons.preferred);
     widget.setEscapeButton(buttons.escape);
     return AnswerOf(Run(widget));
 }

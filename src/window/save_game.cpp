@@ -50,7 +50,8 @@ bool SavesOrLeavesWithoutSaving(Game& game) {
         const Answer answer = game.ports.dialogs.Show(
             {.Title = "Save",
              .Text = Reason(game, error) + "\nDo you want to leave without saving?",
-             .Offered = Buttons::YesNo});
+             .Offered = Buttons::YesNo,
+             .DeclinedByDefault = true});
         return answer == Answer::Yes;
     }
 }

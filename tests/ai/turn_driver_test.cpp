@@ -216,10 +216,8 @@ private:
     }
 
     bool Confirm() {
-        if (!played_.game.controls.cmdDoneSel.Visible) return false;
         for (int box = 1; box <= checkBoxCount; ++box) played_.Do("untick " + std::to_string(box));
-        played_.Do("tick 1");
-        return played_.Do("press cmdDoneSel");
+        return played_.Do("tick 1") && played_.Do("press cmdDoneSel");
     }
 
     bool Retreat() {

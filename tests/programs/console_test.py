@@ -3,8 +3,6 @@
 
 import json
 import os
-import resource
-import signal
 import subprocess
 import sys
 import tempfile
@@ -197,24 +195,6 @@ class ConsoleTest(unittest.TestCase):
                 program.stdin.flush()
                 self.assertFalse(json.loads(program.stdout.readline())["open"])
             program.stdin.close()
-
-    def test_a_full_disk_keeps_the_old_game(self):
-        def limit():
-            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
-            resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))
-
-        old = saved_game((6, 9, 10), (2, 1, 1))
-        self.write("g.tgf", old)
-        saved, kept, _, left = self.play("menu mnuSave", "close", "answer yes", "close",
-                                         arguments=["g.tgf"], preexec_fn=limit)
-        reason = f"The game can not be saved. File too large.\n{self.path('g.tgf')}"
-        self.assertEqual(saved["boxes"], [
-            {"title": "Save", "text": reason, "buttons": "OK", "answer": "ok"}])
-        self.assertEqual(kept["boxes"], [
-            {"title": "Save", "text": reason + "\nDo you want to leave without saving?",
-             "buttons": "Yes/No", "answer": "no"}])
-        self.assertEqual((kept["open"], left["ended"]), (True, True))
-        self.assertEqual((self.read("g.tgf"), os.listdir(self.folder)), (old, ["g.tgf"]))
 
     def test_for_a_person(self):
         run = self.run_program(f"random 0\n{NEW}\nhelp\npress cmdMove\nclick 14 7\nclick 0 0\n"

@@ -17,27 +17,6 @@ INSTANTIATE_TEST_SUITE_P(Moves, Rules, testing::ValuesIn(ReadSequences("rules/mo
 INSTANTIATE_TEST_SUITE_P(Attacks, Rules, testing::ValuesIn(ReadSequences("rules/attacks.txt")),
                          NameOf);
 
-TEST(Movement, WhoCrossesWater) {
-    struct Row {
-        const char* groups;  // on one square
-        int stays;           // the box that is unticked, 12 for none
-        bool crosses;
-    };
-    for (const Row& row :
-         {Row{"Q@5,1", 12, false}, Row{"J@5,1", 12, true}, Row{"J@5,1 HF@5,1", 2, false},
-          Row{"J@5,1 BT@5,1", 2, false}, Row{"J@5,1 BT@5,1", 12, true},
-          Row{"SK@5,1 HF@5,1", 12, true}, Row{"SK@5,1 HF@5,1", 2, true},
-          Row{"Q@5,1 SK@5,1", 12, false}, Row{"HF@5,1 CT@5,1", 12, false}}) {
-        PlayedGame played(std::string("Z@1,10 ") + row.groups);
-        played.Play("> press cmdMove; click 5 1");
-        played.game.controls.chkItems.at(static_cast<std::size_t>(row.stays) % 12).Value = false;
-        played.Play("> press cmdDoneSel; click 6 1");
-        EXPECT_EQ(played.game.record.bytGroupX, row.crosses ? 6 : 5) << row.groups << row.stays;
-        EXPECT_EQ(played.game.controls.lblStatus.Caption.starts_with("You can not go on water"),
-                  !row.crosses);
-    }
-}
-
 // The cost of a step onto each terrain, codes 0 to 8, for those who go together. The landmarks are
 // made dear, so that it shows who pays for them.
 TEST(Movement, CostsOfSteps) {
@@ -118,6 +97,18 @@ TEST(Casualties, TheComputersChoice) {
     EXPECT_EQ(ChooseDeadAnimal(record, 2, 2), 1);
     EXPECT_EQ(ChooseDeadAnimal(record, 3, 3), 1);  // nobody
     EXPECT_EQ(ChooseDeadAnimal(record, 9, 9), 1);  // nobody below 100
+}
+
+TEST(Casualties, BoxesBeyondTheListAreUnticked) {
+    PlayedGame played("LS@15,10 SK@15,10 HF@15,10 ZA1@16,10 LS.Attack=9");
+    played.Play(
+        "> press cmdMove; click 15 10; untick 1; press cmdDoneSel; click 15 9; press cmdMove; "
+        "press cmdAttack; click 15 10; roll 5; click 16 10");
+    EXPECT_TRUE(played.game.record.blnCasualtyPending);
+    for (std::size_t box = 2; box <= checkBoxCount; ++box) {
+        EXPECT_FALSE(played.game.controls.chkItems[box].Visible) << box;
+        EXPECT_FALSE(played.game.controls.chkItems[box].Value) << box;
+    }
 }
 
 TEST(Casualties, TheCountStopsAtTheFirstTransport) {

@@ -231,7 +231,7 @@ TEST_F(GameWindow, SavesWhenItCloses) {
 TEST_F(GameWindow, StaysOpenWhenItCanNotSaveAndThePersonWantsIt) {
     Open("Q@9,5 WA@17,2");
     std::filesystem::remove_all(folder.Path());
-    AnswerBoxes({Qt::Key_Escape});
+    AnswerBoxes({Qt::Key_Return});
     window->close();
     EXPECT_EQ(boxes.size(), 1u);
     EXPECT_TRUE(window->isVisible());
