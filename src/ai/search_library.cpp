@@ -12,9 +12,8 @@ bool StandsOn(const PeopleRecord& people, int X, int Y) {
 }  // namespace
 
 bool IsAnyGroupAt(const Roster& People, int bytX, int bytY) {
-    return std::any_of(People.begin() + 1, People.end(), [&](const PeopleRecord& people) {
-        return StandsOn(people, bytX, bytY);
-    });
+    return std::any_of(People.begin() + 1, People.end(),
+                       [&](const PeopleRecord& people) { return StandsOn(people, bytX, bytY); });
 }
 
 bool IsEnemyAt(const Roster& People, int bytX, int bytY, std::uint8_t bytSide) {

@@ -54,7 +54,8 @@ struct TerrainKindRecord {
     std::string Comments;
 };
 
-/// The most steps that a path without detours has: from one corner of the board to the opposite one.
+/// The most steps that a path without detours has: from one corner of the board to the opposite
+/// one.
 inline constexpr int longestPath = columnCount - 1 + rowCount - 1;
 
 /// The steps of one path, used from index 1.

@@ -212,12 +212,9 @@ std::string TextOf(StepResult r) {
 // is no end of a turn, so it does not go through the attack button, which would announce one.
 void ResumeMove(Game& game) {
     GameRecord& record = game.record;
-    Controls& controls = game.controls;
     record.blnAttackMode = false;
     record.blnAttackerChosen = false;
-    controls.cmdAttack.Caption = "&Attack";
-    controls.cmdAttack.Enabled = false;
-    controls.File.Enabled = false;
+    game.controls.cmdAttack.Caption = "&Attack";
     ShowMobility(game, record.bytMobilityLeft);
 }
 

@@ -19,8 +19,8 @@ std::string ChosenIn(const std::string& position) {
     ChooseMove(played.game);
     const ActionRecord& action = played.game.record.Action;
     if (!action.blnAIBusy) return played.dialogs.boxes.back().Text;
-    std::string text = std::to_string(action.bytAIStartX) + "," +
-                       std::to_string(action.bytAIStartY) + " ";
+    std::string text =
+        std::to_string(action.bytAIStartX) + "," + std::to_string(action.bytAIStartY) + " ";
     for (std::size_t k = 1; k <= action.bytAIPathLength; ++k) {
         text += static_cast<char>('0' + action.bytAIPath[k]);
     }

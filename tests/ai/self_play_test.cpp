@@ -12,8 +12,8 @@ namespace qarn {
 namespace {
 
 std::vector<long> NumbersOf(const SelfPlayResult& result) {
-    return {result.games, result.wins1, result.wins2, result.stalemates, result.endless,
-            result.turns};
+    return {result.games,      result.wins1,   result.wins2,
+            result.stalemates, result.endless, result.turns};
 }
 
 void Ignore(long) {}
@@ -25,8 +25,7 @@ TEST(SelfPlay, GivesTheSameResultForTheSameSeed) {
             PlayItself(scenario, 20, 7, [&](long games) { EXPECT_EQ(games, ++played); });
         EXPECT_EQ(NumbersOf(result), NumbersOf(PlayItself(scenario, 20, 7, Ignore)));
         EXPECT_EQ(played, 20);
-        EXPECT_EQ(result.games,
-                  result.wins1 + result.wins2 + result.stalemates + result.endless);
+        EXPECT_EQ(result.games, result.wins1 + result.wins2 + result.stalemates + result.endless);
     }
 }
 

@@ -150,6 +150,44 @@ TEST(TurnDriver, ForgetsTheActionWhenAGameIsLoaded) {
 
 // ---- A person who meddles ----
 
+// The attacker that the person named stands beside the square from which the computer attacks.
+TEST(TurnDriver, ForgetsTheAttackerThatThePersonNamed) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@12,10 ZA1@1,1");
+    played.Play("> press cmdAttack; click 10 10");
+    played.dialogs.queued = {Answer::Yes};
+    for (const int roll : {1, 1}) played.random.QueueRoll(roll);
+    played.TickOn();
+    EXPECT_EQ(played.Square(12, 10), "TS   WS   ");
+    EXPECT_EQ(played.game.record.bytTurn, 2);
+}
+
+// A person attacks for the computer while the boxes of its stack are showing, and that stack dies
+// before the computer confirms the boxes.
+TEST(TurnDriver, DoesNotMoveTheDead) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@12,10 LS@16,10 V@16,10 WA3@17,10 ZA3@10,9");
+    played.game.record.People[15].Attack = 60;
+    for (const int roll : {1, 1, 1, 1}) played.random.QueueRoll(roll);
+    played.Do("press cmdAttack");
+    for (int tick = 0; tick < 2; ++tick) played.Tick();
+    played.Play("> click 16 10; click 17 10; press cmdAttack; click 10 9; click 10 10");
+    played.TickOn();
+    EXPECT_EQ(played.Square(10, 10) + played.Square(11, 10) + played.Square(12, 10), "Z    ");
+}
+
+// The computer goes on to confirm the casualty that the person has confirmed already, and confirms
+// what the person is selecting.
+TEST(TurnDriver, LeavesNobodyWithoutAMoveButton) {
+    ComputerGame played("Q@10,10 J@10,10 V@10,10 Z@12,10 ZA1@1,1");
+    played.game.record.blnComputer[2] = true;
+    played.dialogs.queued = {Answer::Yes};
+    played.random.QueueRoll(5);
+    for (int tick = 0; tick < 6; ++tick) played.Tick();
+    played.Play("> tick 1; press cmdDoneSel; press cmdMove; click 12 10; press cmdSquareDetails");
+    for (int tick = 0; tick < 2; ++tick) played.Tick();
+    played.Play("> press cmdSquareDetails; press cmdMove");
+    EXPECT_EQ(played.game.record.bytTurn, 1);
+}
+
 class Meddler {
 public:
     Meddler(ComputerGame& played, unsigned seed) : played_(played), random_(seed) {}
@@ -246,19 +284,16 @@ private:
         if (X >= 1 && X <= columnCount && Y >= 1 && Y <= rowCount) Click(X, Y);
     }
 
-    void Click(int X, int Y) {
-        played_.Do("click " + std::to_string(X) + " " + std::to_string(Y));
-    }
+    void Click(int X, int Y) { played_.Do("click " + std::to_string(X) + " " + std::to_string(Y)); }
 
     ComputerGame& played_;
     std::mt19937 random_;
 };
 
 int CharactersLeft(const GameRecord& record) {
-    return static_cast<int>(
-        std::count_if(record.People.begin(), record.People.end(), [](const PeopleRecord& people) {
-            return !IsTransport(people) && OnBoard(people);
-        }));
+    return static_cast<int>(std::count_if(
+        record.People.begin(), record.People.end(),
+        [](const PeopleRecord& people) { return !IsTransport(people) && OnBoard(people); }));
 }
 
 // Close together, so that everybody soon fights; a strong and a weak stack on either side.

@@ -20,9 +20,7 @@ namespace {
 // A window on a game in which Red, side 1, is to move.
 class GameWindow : public testing::Test {
 protected:
-    void Open(const std::string& position) {
-        OpenFile(SavedGame(position));
-    }
+    void Open(const std::string& position) { OpenFile(SavedGame(position)); }
     void OpenFile(const std::string& contents) {
         WriteFile(path, contents);
         window->Open(path);
@@ -37,9 +35,7 @@ protected:
         QApplication::exec();
     }
 
-    QAbstractButton* Button(const char* name) {
-        return window->findChild<QAbstractButton*>(name);
-    }
+    QAbstractButton* Button(const char* name) { return window->findChild<QAbstractButton*>(name); }
     QAction* MenuItem(const char* name) { return window->findChild<QAction*>(name); }
     std::string Text(const char* label) {
         return window->findChild<QLabel*>(label)->text().toStdString();
@@ -206,9 +202,9 @@ TEST_F(GameWindow, KeepsItsDesignAtEverySize) {
         const int left = qRound((size.width() - 1016 * scale) / 2);
         EXPECT_EQ(board->geometry(), QRect(left + qRound(8 * scale), qRound(8 * scale),
                                            qRound(865 * scale), qRound(641 * scale)));
-        EXPECT_EQ(Button("cmdMove")->geometry(), QRect(left + qRound(888 * scale),
-                                                       qRound(624 * scale), qRound(113 * scale),
-                                                       qRound(25 * scale)));
+        EXPECT_EQ(Button("cmdMove")->geometry(),
+                  QRect(left + qRound(888 * scale), qRound(624 * scale), qRound(113 * scale),
+                        qRound(25 * scale)));
         for (int X = 1; X <= columnCount; ++X) {
             for (int Y = 1; Y <= rowCount; ++Y) {
                 const QRect place = board->PlaceOfSquare({X, Y});

@@ -51,9 +51,9 @@ TEST_F(StartWindowOnScreen, MakesANewGameByKeyboardAlone) {
     Type("Blue");
     EXPECT_EQ(window->Shown().Next, NextWindow::Game);
     EXPECT_EQ(window->Shown().strGamePath, folder / "First Game.tgf");
-    EXPECT_EQ(ReadFile(folder / "First Game.tgf"),
-              "AM\r\nRed" + std::string(51, ' ') + "False\r\nBlue" + std::string(50, ' ') +
-                  "False\r\n 0 \r\n");
+    EXPECT_EQ(ReadFile(folder / "First Game.tgf"), "AM\r\nRed" + std::string(51, ' ') +
+                                                       "False\r\nBlue" + std::string(50, ' ') +
+                                                       "False\r\n 0 \r\n");
 }
 
 TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
