@@ -14,6 +14,8 @@ struct Choice {
     const char* chosen;  // the starting square and the directions: 1 up, 2 right, 3 down, 4 left
 };
 
+void PrintTo(const Choice& choice, std::ostream* out) { *out << choice.position; }
+
 std::string ChosenIn(const std::string& position) {
     PlayedGame played(position);
     ChooseMove(played.game);
