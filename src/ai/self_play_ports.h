@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
+#include "core/no_desktop.h"
 #include "core/ports.h"
 #include "core/random_numbers.h"
 
@@ -46,26 +46,6 @@ private:
     private:
         std::uint64_t seed_;
         UniformGenerator generator_;
-    };
-
-    struct NoHelp : HelpViewer {
-        void ShowHelp(const std::string&) override {}
-    };
-
-    struct NoSettings : SettingsStore {
-        std::string Read(const std::string&, const std::string&, const std::string&,
-                         const std::string& defaultValue) override {
-            return defaultValue;
-        }
-        void Write(const std::string&, const std::string&, const std::string&,
-                   const std::string&) override {}
-        std::string LoginName() override { return {}; }
-    };
-
-    struct NoFileTypes : FileTypeRegistry {
-        bool CreateKey(const std::string&) override { return false; }
-        bool SetDefaultValue(const std::string&, const std::string&) override { return false; }
-        std::optional<std::string> DefaultValue(const std::string&) override { return {}; }
     };
 
     ConsentingDialogs dialogs_;

@@ -14,6 +14,7 @@
 
 #include "core/file_store.h"
 #include "core/game_file.h"
+#include "core/no_desktop.h"
 #include "scenarios/catalogue.h"
 #include "ui/design.h"
 #include "ui/frm_game.h"
@@ -40,20 +41,6 @@ public:
 
 private:
     std::deque<int> rolls_;
-};
-
-class NoSettings : public SettingsStore, public FileTypeRegistry {
-public:
-    std::string Read(const std::string&, const std::string&, const std::string&,
-                     const std::string& defaultValue) override {
-        return defaultValue;
-    }
-    void Write(const std::string&, const std::string&, const std::string&,
-               const std::string&) override {}
-    std::string LoginName() override { return {}; }
-    bool CreateKey(const std::string&) override { return false; }
-    bool SetDefaultValue(const std::string&, const std::string&) override { return false; }
-    std::optional<std::string> DefaultValue(const std::string&) override { return {}; }
 };
 
 void LetWindowsSettle() {
@@ -86,9 +73,10 @@ class NoWastebasket : public Wastebasket {
 void TakeStartWindow(const fs::path& folder) {
     GivenRolls random({});
     NoSettings settings;
+    NoFileTypes fileTypes;
     NoWastebasket wastebasket;
     const std::string games = fs::temp_directory_path().string();
-    FrmSplash window(random, {settings, settings, {games, games}}, wastebasket);
+    FrmSplash window(random, {settings, fileTypes, {games, games}}, wastebasket);
     window.show();
     LetWindowsSettle();
     for (QLineEdit* text : window.findChildren<QLineEdit*>()) {
@@ -109,7 +97,7 @@ public:
     Photographer(fs::path folder, std::deque<int> rolls)
         : folder_(std::move(folder)),
           random_(std::move(rolls)),
-          window_(random_, {settings_, settings_, {}}) {
+          window_(random_, {settings_, fileTypes_, {}}) {
         const fs::path file = fs::temp_directory_path() / "First try.tgf";
         std::string game = NewGameText("HM", {{{"Marit", false}, {"Ansel", false}}});
         game[game.rfind('0')] = '1';  // Marit begins
@@ -158,6 +146,7 @@ private:
     fs::path folder_;
     GivenRolls random_;
     NoSettings settings_;
+    NoFileTypes fileTypes_;
     FrmGame window_;
     std::deque<std::string> boxes_;
 };

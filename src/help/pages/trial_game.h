@@ -3,11 +3,12 @@
 #include <cstdint>
 
 #include "core/game.h"
+#include "core/no_desktop.h"
 
 namespace qarn {
 
 /// A game that nobody plays: the pages try out in it what the rules make of a position.
-class TrialGame : private Dialogs, RandomNumbers, HelpViewer, SettingsStore, FileTypeRegistry {
+class TrialGame : private Dialogs, RandomNumbers, NoHelp, NoSettings, NoFileTypes {
 public:
     /// An empty board of plain, with nobody on it.
     TrialGame();
@@ -32,17 +33,6 @@ private:
     }
     void Seed() override {}
     double Next() override { return (die_ - 0.5) / 5; }
-    void ShowHelp(const std::string&) override {}
-    std::string Read(const std::string&, const std::string&, const std::string&,
-                     const std::string& defaultValue) override {
-        return defaultValue;
-    }
-    void Write(const std::string&, const std::string&, const std::string&,
-               const std::string&) override {}
-    std::string LoginName() override { return {}; }
-    bool CreateKey(const std::string&) override { return false; }
-    bool SetDefaultValue(const std::string&, const std::string&) override { return false; }
-    std::optional<std::string> DefaultValue(const std::string&) override { return {}; }
 
     int die_ = 1;
     bool asked_ = false;
