@@ -215,6 +215,8 @@ void ResumeMove(Game& game) {
     record.blnAttackMode = false;
     record.blnAttackerChosen = false;
     game.controls.cmdAttack.Caption = "&Attack";
+    game.controls.cmdAttack.Enabled = false;
+    game.controls.File.Enabled = false;
     ShowMobility(game, record.bytMobilityLeft);
 }
 
