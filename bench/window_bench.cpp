@@ -10,7 +10,7 @@
 
 #include "core/file_store.h"
 #include "core/game_file.h"
-#include "shell/linux_desktop.h"
+#include "desktop/linux_desktop.h"
 #include "ui/frm_game.h"
 
 namespace qarn {

@@ -7,7 +7,7 @@
 #include "console/front_end.h"
 #include "console/options.h"
 #include "console/words.h"
-#include "shell/linux_desktop.h"
+#include "desktop/linux_desktop.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <QMessageBox>
 #include <memory>
 
+#include "desktop/settings_file.h"
 #include "help/hand_over.h"
 #include "help/help_window.h"
-#include "shell/settings_file.h"
 
 namespace qarn {
 namespace {

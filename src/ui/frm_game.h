@@ -8,7 +8,7 @@
 #include <string>
 
 #include "core/game.h"
-#include "shell/help_program.h"
+#include "desktop/help_program.h"
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
 #include "ui/game_menus.h"

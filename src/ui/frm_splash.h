@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <functional>
 
-#include "shell/help_program.h"
+#include "desktop/help_program.h"
 #include "shell/start_window.h"
 #include "ui/qt_ports.h"
 

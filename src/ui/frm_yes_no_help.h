@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "shell/help_program.h"
+#include "desktop/help_program.h"
 #include "shell/start_up.h"
 #include "ui/qt_ports.h"
 

@@ -2,10 +2,10 @@
 
 #include <QApplication>
 
-#include "shell/desktop_display.h"
-#include "shell/desktop_wastebasket.h"
-#include "shell/linux_desktop.h"
-#include "shell/login_manager.h"
+#include "desktop/desktop_display.h"
+#include "desktop/desktop_wastebasket.h"
+#include "desktop/linux_desktop.h"
+#include "desktop/login_manager.h"
 #include "ui/frm_game.h"
 #include "ui/frm_splash.h"
 #include "ui/frm_yes_no_help.h"

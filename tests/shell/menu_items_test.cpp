@@ -3,6 +3,7 @@
 #include "shell/about.h"
 #include "shell/default_path.h"
 #include "shell/program_texts.h"
+#include "shell/user_settings.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -11,6 +12,12 @@ namespace {
 using Texts = std::vector<std::string>;
 
 const std::string filepathSetting = "QARN/Filepath/04505230";
+
+TEST(UserSettingsTest, KeysOfUsers) {
+    EXPECT_EQ(GetUserKey("Al"), "04505230");
+    EXPECT_EQ(GetUserKey("A\xFF"), "57215230");
+    EXPECT_EQ(GetUserKey(""), "");
+}
 
 TEST(DefaultPathTest, IsTheSettingOrAFolderThatCanBeWrittenTo) {
     PlayedGame world;

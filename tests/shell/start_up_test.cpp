@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "shell/command_line.h"
-#include "shell/fixed_display.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"
 
@@ -126,18 +125,6 @@ TEST(CommandLineTest, NamesAGameFile) {
     char game[] = "game.tgf";
     char* arguments[] = {my, game};
     EXPECT_EQ(CommandLine(arguments), "my game.tgf");
-}
-
-TEST(FixedDisplayTest, ListsTheModesOfAllMonitors) {
-    const TempFolder folder;
-    std::filesystem::create_directory(folder / "card0-HDMI");
-    std::filesystem::create_directory(folder / "version");
-    WriteFile(folder / "card0-HDMI/modes", "1920x1080\n1920x1080i\n800x600\n");
-    FixedDisplay display(folder.Path().string());
-    EXPECT_EQ(display.Mode(0)->Width, 1920);
-    EXPECT_EQ(display.Mode(2)->Height, 600);
-    EXPECT_FALSE(display.Mode(3));
-    EXPECT_FALSE(FixedDisplay(folder / "missing").Mode(0));
 }
 
 }  // namespace

@@ -4,10 +4,10 @@
 #include <chrono>
 #include <thread>
 
-#include "shell/desktop_wastebasket.h"
+#include "desktop/desktop_wastebasket.h"
+#include "desktop/help_program.h"
+#include "desktop/xdg_file_types.h"
 #include "shell/file_commands.h"
-#include "shell/help_program.h"
-#include "shell/xdg_file_types.h"
 #include "support/played_game.h"
 
 namespace qarn {

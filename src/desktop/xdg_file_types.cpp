@@ -1,14 +1,14 @@
-#include "shell/xdg_file_types.h"
+#include "desktop/xdg_file_types.h"
 
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 
 #include "core/file_store.h"
+#include "desktop/glib_owned.h"
 
 namespace qarn {
 namespace {
@@ -17,19 +17,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view openCommandKey = "\\shell\\open\\command";
 constexpr auto mimeType = "application/x-qarn-game";
-
-struct FreeText {
-    void operator()(char* text) const { g_free(text); }
-};
-struct ReleaseObject {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-struct FreeKeyFile {
-    void operator()(GKeyFile* file) const { g_key_file_free(file); }
-};
-using Text = std::unique_ptr<char, FreeText>;
-using AppInfo = std::unique_ptr<GAppInfo, ReleaseObject>;
-using KeyFile = std::unique_ptr<GKeyFile, FreeKeyFile>;
 
 // One file type as its entries tell it.
 struct FileType {
@@ -50,7 +37,7 @@ std::string WithoutQuotes(const std::string& command) {
 }
 
 std::string MimeXml(const FileType& type) {
-    const Text text(g_markup_printf_escaped(
+    const GlibText text(g_markup_printf_escaped(
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
         "  <mime-type type=\"%s\">\n"
@@ -74,7 +61,7 @@ std::string QuotedForExec(const std::string& path) {
 }
 
 std::string DesktopEntry(const FileType& type) {
-    const KeyFile file(g_key_file_new());
+    const GlibKeyFile file(g_key_file_new());
     const auto set = [&](const char* key, const std::string& value) {
         g_key_file_set_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key, value.c_str());
     };
@@ -84,7 +71,7 @@ std::string DesktopEntry(const FileType& type) {
     if (!type.iconPath.empty()) set(G_KEY_FILE_DESKTOP_KEY_ICON, type.iconPath);
     set(G_KEY_FILE_DESKTOP_KEY_MIME_TYPE, std::string(mimeType) + ";");
     set(G_KEY_FILE_DESKTOP_KEY_NO_DISPLAY, "true");
-    const Text contents(g_key_file_to_data(file.get(), nullptr, nullptr));
+    const GlibText contents(g_key_file_to_data(file.get(), nullptr, nullptr));
     return contents.get();
 }
 
@@ -120,7 +107,7 @@ bool MakeDefaultProgram(const FileType& type) {
     const fs::path path = folder / name;
     GDesktopAppInfo* program = g_desktop_app_info_new_from_filename(path.c_str());
     if (program == nullptr) return false;
-    const AppInfo info(G_APP_INFO(program));
+    const GlibObject<GAppInfo> info(G_APP_INFO(program));
     return g_app_info_set_as_default_for_type(info.get(), mimeType, nullptr);
 }
 
@@ -161,9 +148,9 @@ bool XdgFileTypes::SetDefaultValue(const std::string& key, const std::string& va
 std::optional<std::string> XdgFileTypes::DefaultValue(const std::string& key) {
     if (!key.starts_with('.')) return std::nullopt;
     const std::string file = "game" + key;
-    const Text type(g_content_type_guess(file.c_str(), nullptr, 0, nullptr));
+    const GlibText type(g_content_type_guess(file.c_str(), nullptr, 0, nullptr));
     if (g_content_type_is_unknown(type.get())) return std::nullopt;
-    const AppInfo program(g_app_info_get_default_for_type(type.get(), FALSE));
+    const GlibObject<GAppInfo> program(g_app_info_get_default_for_type(type.get(), FALSE));
     if (!program) return std::nullopt;
     const char* id = g_app_info_get_id(program.get());
     return id != nullptr ? id : "";

@@ -1,10 +1,10 @@
-#include "help/pages/rule_tables.h"
+#include "help_pages/rule_tables.h"
 
 #include <array>
 #include <map>
 
-#include "help/pages/html.h"
-#include "help/pages/trial_game.h"
+#include "help_pages/html.h"
+#include "help_pages/trial_game.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 

@@ -1,4 +1,4 @@
-#include "shell/program_folders.h"
+#include "desktop/program_folders.h"
 
 #include <glib.h>
 

@@ -2,7 +2,6 @@
 
 #include <glib.h>
 
-#include <memory>
 #include <string>
 
 namespace qarn {

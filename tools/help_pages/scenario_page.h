@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "help/pages/fill.h"
+#include "help_pages/fill.h"
 
 namespace qarn {
 

@@ -1,4 +1,4 @@
-#include "help/pages/html.h"
+#include "help_pages/html.h"
 
 #include <QList>
 #include <QString>

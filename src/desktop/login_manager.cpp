@@ -1,24 +1,17 @@
-#include "shell/login_manager.h"
+#include "desktop/login_manager.h"
 
 #include <gio/gio.h>
 
 #include <stdexcept>
 
-#include "shell/glib_error.h"
+#include "desktop/glib_error.h"
+#include "desktop/glib_owned.h"
 
 namespace qarn {
-namespace {
-
-struct ReleaseObject {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-
-}  // namespace
 
 void LoginManager::Restart() {
     GlibError error;
-    const std::unique_ptr<GDBusConnection, ReleaseObject> bus(
-        g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, error.Out()));
+    const GlibObject<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, error.Out()));
     if (!bus) throw std::runtime_error(error.Reason());
     constexpr gboolean interactive = TRUE;
     GVariant* answer = g_dbus_connection_call_sync(

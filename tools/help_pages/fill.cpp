@@ -1,4 +1,4 @@
-#include "help/pages/fill.h"
+#include "help_pages/fill.h"
 
 namespace qarn {
 

@@ -1,8 +1,8 @@
-#include "shell/help_program.h"
+#include "desktop/help_program.h"
 
 #include <utility>
 
-#include "shell/glib_error.h"
+#include "desktop/glib_error.h"
 
 namespace qarn {
 

@@ -1,10 +1,10 @@
-#include "help/pages/compile_chm.h"
+#include "help_pages/compile_chm.h"
 
 #include <QProcess>
 #include <fstream>
 
 #include "core/file_store.h"
-#include "help/pages/fill.h"
+#include "help_pages/fill.h"
 
 namespace qarn {
 namespace {

@@ -1,7 +1,9 @@
-#include "shell/randr_display.h"
+#include "desktop/randr_display.h"
 
 #include <algorithm>
 #include <span>
+
+#include "desktop/free_with.h"
 
 // Behind the headers of our own: this one defines macros with everyday names.
 #include <X11/extensions/Xrandr.h>
@@ -9,13 +11,6 @@
 namespace qarn {
 namespace {
 
-template <auto Free>
-struct FreeWith {
-    template <typename Object>
-    void operator()(Object* object) const {
-        Free(object);
-    }
-};
 using Resources = std::unique_ptr<XRRScreenResources, FreeWith<XRRFreeScreenResources>>;
 using Output = std::unique_ptr<XRROutputInfo, FreeWith<XRRFreeOutputInfo>>;
 using Crtc = std::unique_ptr<XRRCrtcInfo, FreeWith<XRRFreeCrtcInfo>>;

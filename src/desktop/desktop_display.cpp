@@ -1,10 +1,10 @@
-#include "shell/desktop_display.h"
+#include "desktop/desktop_display.h"
 
 #include <cstdlib>
 #include <string>
 
-#include "shell/fixed_display.h"
-#include "shell/randr_display.h"
+#include "desktop/fixed_display.h"
+#include "desktop/randr_display.h"
 
 namespace qarn {
 namespace {

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
-#include "shell/desktop_display.h"
+#include "desktop/desktop_display.h"
+#include "desktop/fixed_display.h"
+#include "support/temp_folder.h"
 
 namespace qarn {
 namespace {
@@ -32,6 +34,18 @@ TEST(DesktopDisplayTest, SwitchesAnXServer) {
     setenv("WAYLAND_DISPLAY", "wayland-0", 1);
     EXPECT_EQ(DesktopDisplay().Change({800, 600}, false), DisplayChange::Failed);
     EXPECT_TRUE(ScreenIs("1024 x 768"));
+}
+
+TEST(FixedDisplayTest, ListsTheModesOfAllMonitors) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "card0-HDMI");
+    std::filesystem::create_directory(folder / "version");
+    WriteFile(folder / "card0-HDMI/modes", "1920x1080\n1920x1080i\n800x600\n");
+    FixedDisplay display(folder.Path().string());
+    EXPECT_EQ(display.Mode(0)->Width, 1920);
+    EXPECT_EQ(display.Mode(2)->Height, 600);
+    EXPECT_FALSE(display.Mode(3));
+    EXPECT_FALSE(FixedDisplay(folder / "missing").Mode(0));
 }
 
 }  // namespace

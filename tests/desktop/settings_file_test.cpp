@@ -1,18 +1,11 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
-#include "shell/settings_file.h"
-#include "shell/user_settings.h"
+#include "desktop/settings_file.h"
 #include "support/temp_folder.h"
 
 namespace qarn {
 namespace {
-
-TEST(UserSettings, KeysOfUsers) {
-    EXPECT_EQ(GetUserKey("Al"), "04505230");
-    EXPECT_EQ(GetUserKey("A\xFF"), "57215230");
-    EXPECT_EQ(GetUserKey(""), "");
-}
 
 TEST(SettingsFile, KeepsValuesAcrossRuns) {
     const char* config = getenv("XDG_CONFIG_HOME");

@@ -1,12 +1,12 @@
-#include "help/pages/scenario_page.h"
+#include "help_pages/scenario_page.h"
 
 #include <algorithm>
 #include <memory>
 #include <set>
 #include <vector>
 
-#include "help/pages/html.h"
-#include "help/pages/trial_game.h"
+#include "help_pages/html.h"
+#include "help_pages/trial_game.h"
 #include "rules/step.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"

@@ -5,12 +5,12 @@
 #include <fstream>
 #include <set>
 
-#include "help/pages/board_picture.h"
-#include "help/pages/compile_chm.h"
-#include "help/pages/fill.h"
-#include "help/pages/html.h"
-#include "help/pages/rule_tables.h"
-#include "help/pages/scenario_page.h"
+#include "help_pages/board_picture.h"
+#include "help_pages/compile_chm.h"
+#include "help_pages/fill.h"
+#include "help_pages/html.h"
+#include "help_pages/rule_tables.h"
+#include "help_pages/scenario_page.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "window/menu_commands.h"

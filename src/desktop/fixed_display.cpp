@@ -1,4 +1,4 @@
-#include "shell/fixed_display.h"
+#include "desktop/fixed_display.h"
 
 #include <filesystem>
 #include <fstream>

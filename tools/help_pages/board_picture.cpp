@@ -1,4 +1,4 @@
-#include "help/pages/board_picture.h"
+#include "help_pages/board_picture.h"
 
 #include <QPainter>
 #include <vector>

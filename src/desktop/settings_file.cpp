@@ -1,36 +1,26 @@
-#include "shell/settings_file.h"
+#include "desktop/settings_file.h"
 
-#include <glib.h>
 #include <pwd.h>
 #include <unistd.h>
 
 #include <filesystem>
-#include <memory>
 #include <stdexcept>
 
 #include "core/file_store.h"
+#include "desktop/glib_owned.h"
 
 namespace qarn {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct FreeKeyFile {
-    void operator()(GKeyFile* file) const { g_key_file_free(file); }
-};
-struct FreeText {
-    void operator()(char* text) const { g_free(text); }
-};
-using KeyFile = std::unique_ptr<GKeyFile, FreeKeyFile>;
-using Text = std::unique_ptr<char, FreeText>;
-
 fs::path FileOf(const std::string& application) {
     return fs::path(g_get_user_config_dir()) / (application + ".ini");
 }
 
 // A file that is not there yet, or cannot be understood, counts as one without settings.
-KeyFile LoadKeyFile(const std::string& application) {
-    KeyFile file(g_key_file_new());
+GlibKeyFile LoadKeyFile(const std::string& application) {
+    GlibKeyFile file(g_key_file_new());
     g_key_file_load_from_file(file.get(), FileOf(application).c_str(), G_KEY_FILE_KEEP_COMMENTS,
                               nullptr);
     return file;
@@ -43,18 +33,18 @@ std::string StoredKey(const std::string& key) { return key.empty() ? "default" :
 
 std::string SettingsFile::Read(const std::string& application, const std::string& section,
                                const std::string& key, const std::string& defaultValue) {
-    const KeyFile file = LoadKeyFile(application);
-    const Text value(
+    const GlibKeyFile file = LoadKeyFile(application);
+    const GlibText value(
         g_key_file_get_string(file.get(), section.c_str(), StoredKey(key).c_str(), nullptr));
     return value ? value.get() : defaultValue;
 }
 
 void SettingsFile::Write(const std::string& application, const std::string& section,
                          const std::string& key, const std::string& value) {
-    const KeyFile file = LoadKeyFile(application);
+    const GlibKeyFile file = LoadKeyFile(application);
     g_key_file_set_string(file.get(), section.c_str(), StoredKey(key).c_str(), value.c_str());
     gsize length = 0;
-    const Text contents(g_key_file_to_data(file.get(), &length, nullptr));
+    const GlibText contents(g_key_file_to_data(file.get(), &length, nullptr));
     const fs::path path = FileOf(application);
     try {
         fs::create_directories(path.parent_path());

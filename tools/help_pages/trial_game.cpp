@@ -1,4 +1,4 @@
-#include "help/pages/trial_game.h"
+#include "help_pages/trial_game.h"
 
 #include "rules/attack_mode.h"
 #include "rules/combat.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/ports.h"
-#include "shell/program_folders.h"
-#include "shell/settings_file.h"
-#include "shell/xdg_file_types.h"
+#include "desktop/program_folders.h"
+#include "desktop/settings_file.h"
+#include "desktop/xdg_file_types.h"
 
 namespace qarn {
 
