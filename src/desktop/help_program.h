@@ -6,7 +6,11 @@
 
 namespace qarn {
 
-/// Shows the help file in the viewer program that stands beside this one. A viewer that cannot be
+/// The help in the folder of the programs: the compiled file Help.chm; where none has been made, the
+/// folder Help of its pages.
+std::string HelpPathIn(const std::string& folder);
+
+/// Shows the help in the viewer program that stands beside this one. A viewer that cannot be
 /// started is told in a box.
 class HelpProgram : public HelpViewer {
 public:

@@ -6,12 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace qarn {
@@ -53,21 +52,50 @@ std::string Retrieve(chmFile* file, chmUnitInfo& unit) {
     return bytes;
 }
 
-ChmContents ReadArchive(const std::string& path) {
+// The entries of the file "#SYSTEM" that are read here, by their codes.
+enum SystemEntry { ContentsName = 0, StartPageName = 2 };
+constexpr std::size_t systemHeaderSize = 4;
+
+unsigned WordAt(std::string_view bytes, std::size_t at) {
+    return static_cast<unsigned char>(bytes[at]) |
+           static_cast<unsigned>(static_cast<unsigned char>(bytes[at + 1])) << 8;
+}
+
+// An entry is its code, its length and its text, which ends at a zero.
+std::string ReadSystemEntry(std::string_view system, SystemEntry wanted) {
+    std::size_t at = systemHeaderSize;
+    while (at + 4 <= system.size()) {
+        const unsigned code = WordAt(system, at);
+        const std::string_view text = system.substr(at + 4, WordAt(system, at + 2));
+        if (code == wanted) return std::string(text.substr(0, text.find('\0')));
+        at += 4 + text.size();
+    }
+    return {};
+}
+
+void ReadSystem(HelpContents& contents) {
+    const auto system = contents.files.find("#SYSTEM");
+    if (system == contents.files.end()) return;
+    contents.startPage = ReadSystemEntry(system->second, StartPageName);
+    contents.contentsName = ReadSystemEntry(system->second, ContentsName);
+}
+
+HelpContents ReadArchive(const std::string& path) {
     const ChmHandle file(chm_open(path.c_str()));
     if (!file) ThrowDamaged();
 
     std::vector<chmUnitInfo> units;
     if (chm_enumerate(file.get(), CHM_ENUMERATE_ALL, NoteUnit, &units) == 0) ThrowDamaged();
 
-    ChmContents contents;
+    HelpContents contents;
     std::uint64_t total = 0;
     for (chmUnitInfo& unit : units) {
         if (unit.length > mostBytes || (total += unit.length) > mostBytes) {
             throw HelpFileError("It is too large.");
         }
-        contents[unit.path + 1] = Retrieve(file.get(), unit);
+        contents.files[unit.path + 1] = Retrieve(file.get(), unit);
     }
+    ReadSystem(contents);
     return contents;
 }
 
@@ -100,13 +128,7 @@ void CheckOnTrial(const std::string& path) {
 
 }  // namespace
 
-bool IgnoringCase::operator()(std::string_view left, std::string_view right) const {
-    return std::lexicographical_compare(
-        left.begin(), left.end(), right.begin(), right.end(),
-        [](unsigned char a, unsigned char b) { return std::tolower(a) < std::tolower(b); });
-}
-
-ChmContents ReadChm(const std::string& path) {
+HelpContents ReadChm(const std::string& path) {
     CheckReadable(path);
     CheckOnTrial(path);
     return ReadArchive(path);

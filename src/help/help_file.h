@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "help/chm_archive.h"
+#include "help/help_contents.h"
 
 namespace qarn {
 
@@ -15,10 +15,11 @@ struct ContentsEntry {
     std::vector<ContentsEntry> entries;
 };
 
-/// A compiled help file in memory. It stays as it was read when the file on the disk changes.
+/// The help in memory. It stays as it was read when what is on the disk changes.
 class HelpFile {
 public:
-    /// Reads the file. Throws HelpFileError when it cannot be read, or has no start page.
+    /// Reads a compiled help file, or a folder of the pages that one is made of. Throws
+    /// HelpFileError when it cannot be read, or has no start page.
     explicit HelpFile(const std::string& path);
 
     /// A page, picture or style sheet, whatever the case of its name; null when there is none.
@@ -27,14 +28,11 @@ public:
     /// The names of all pages, in the order of the alphabet.
     std::vector<std::string> PageNames() const;
 
-    const std::string& StartPage() const { return startPage_; }
+    const std::string& StartPage() const { return help_.startPage; }
     const std::vector<ContentsEntry>& Contents() const { return contents_; }
 
 private:
-    void ReadSystem();
-
-    ChmContents files_;
-    std::string startPage_;
+    HelpContents help_;
     std::vector<ContentsEntry> contents_;
 };
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desktop/help_program.h"
 #include "help/viewer.h"
 
 namespace {
@@ -32,8 +33,9 @@ int main(int argc, char* argv[]) {
     parser.setApplicationDescription("Shows the help of the Thornmere Series Tactical Game.");
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument("file", "The help file; without it the one beside this program.",
-                                 "[FILE");
+    parser.addPositionalArgument(
+        "file", "The help file, or a folder of its pages; without it the help beside this program.",
+        "[FILE");
     parser.addPositionalArgument(
         "topic", "A page, such as \"Terrain Info.htm\", with \"#\" and an anchor where wanted.",
         "[TOPIC]]");
@@ -44,6 +46,6 @@ int main(int argc, char* argv[]) {
         std::fputs("usage: qarn-help [FILE [TOPIC]]\n", stderr);
         return 2;
     }
-    const QString beside = QApplication::applicationDirPath() + "/Help.chm";
-    return qarn::RunViewer(arguments.value(0, beside), arguments.value(1));
+    const std::string beside = qarn::HelpPathIn(QApplication::applicationDirPath().toStdString());
+    return qarn::RunViewer(arguments.value(0, QString::fromStdString(beside)), arguments.value(1));
 }

@@ -106,6 +106,12 @@ TEST(HelpProgramTest, IsStartedWithFileAndTopic) {
         help.ShowHelp(topic);
         EXPECT_EQ(viewer.WaitForArguments(), "[" + (folder / "Help.chm") + "][" + topic + "]");
     }
+    fs::create_directory(folder / "Help");
+    help.ShowHelp("");
+    EXPECT_EQ(viewer.WaitForArguments(), "[" + (folder / "Help") + "][]");
+    WriteFile(folder / "Help.chm", "compiled");
+    help.ShowHelp("");
+    EXPECT_EQ(viewer.WaitForArguments(), "[" + (folder / "Help.chm") + "][]");
     EXPECT_EQ(dialogs.boxes.size(), 1u);
 }
 

@@ -5,6 +5,7 @@
 #include <random>
 #include <set>
 
+#include "help/chm_archive.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "support/temp_folder.h"
@@ -12,7 +13,7 @@
 namespace qarn {
 namespace {
 
-// QARN_HELP_FILE is the Help.chm of this build.
+// QARN_HELP_FILE is the Help.chm of this build, QARN_HELP_PAGES the folder it was made of.
 const HelpFile& Help() {
     static const HelpFile file(QARN_HELP_FILE);
     return file;
@@ -207,6 +208,48 @@ TEST_F(DamagedHelpFile, WhatIsNoHelpFileIsRefusedWithTheReason) {
         EXPECT_STREQ(error.what(), "No such file or directory.");
     }
     EXPECT_THROW(ReadChm(folder_.Path()), HelpFileError);
+}
+
+// ---- A folder of pages ----
+
+std::string TitlesOf(const std::vector<ContentsEntry>& entries) {
+    std::string titles;
+    for (const ContentsEntry& entry : entries) {
+        titles += entry.title + "(" + entry.page + TitlesOf(entry.entries) + ")";
+    }
+    return titles;
+}
+
+TEST(PageFolder, IsReadAsTheFileThatIsMadeOfIt) {
+    const HelpFile pages(QARN_HELP_PAGES);
+    EXPECT_EQ(pages.StartPage(), Help().StartPage());
+    EXPECT_EQ(TitlesOf(pages.Contents()), TitlesOf(Help().Contents()));
+    EXPECT_EQ(pages.PageNames(), Help().PageNames());
+    for (const char* name : {"terrain info.HTM", "style.css", "pictures/odds.png"}) {
+        ASSERT_NE(pages.Find(name), nullptr) << name;
+        EXPECT_EQ(*pages.Find(name), *Help().Find(name)) << name;
+    }
+}
+
+std::string ErrorOfFolder(const std::string& path) {
+    try {
+        const HelpFile pages(path);
+        return "";
+    } catch (const HelpFileError& error) {
+        return error.what();
+    }
+}
+
+TEST(PageFolder, WithoutWhatItNeedsIsRefusedWithTheReason) {
+    const TempFolder folder;
+    const std::string path = folder.Path().string();
+    EXPECT_EQ(ErrorOfFolder(path), "Its file help.hhp can not be read.");
+    WriteFile(folder / "help.hhp", "[OPTIONS]\r\nDefault topic=Start.htm\r\n");
+    EXPECT_EQ(ErrorOfFolder(path), "Its start page is missing.");
+    WriteFile(folder / "start.htm", "");
+    EXPECT_EQ(ErrorOfFolder(path), "");
+    std::filesystem::create_symlink("nowhere", folder / "page.htm");
+    EXPECT_EQ(ErrorOfFolder(path), "");
 }
 
 // ---- Contents ----

@@ -45,7 +45,7 @@ void SavePicture(const fs::path& folder, const std::string& name,
         QImage picture = draw(ratio);
         picture.setDotsPerMeterX(0);
         picture.setDotsPerMeterY(0);
-        if (!picture.save(QString::fromStdString(path.string()), "PNG", 0)) {
+        if (!picture.save(QString::fromStdString(path.string()), "PNG")) {
             throw PageError(path.string() + ": can not be written");
         }
     }
@@ -147,13 +147,13 @@ void MakePages(const fs::path& source, const fs::path& folder) {
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    if (argc != 5) {
-        std::fputs("usage: make_help PAGES WORK_FOLDER CHMCMD HELP_FILE\n", stderr);
+    if (argc != 3 && argc != 5) {
+        std::fputs("usage: make_help PAGES FILLED_PAGES [CHMCMD HELP_FILE]\n", stderr);
         return 2;
     }
     try {
         qarn::MakePages(argv[1], argv[2]);
-        qarn::CompileChm(argv[3], argv[2], argv[4]);
+        if (argc == 5) qarn::CompileChm(argv[3], argv[2], argv[4]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "make_help: %s\n", error.what());
         return 1;
