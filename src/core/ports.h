@@ -101,8 +101,9 @@ public:
 
 /// Folders, as absolute paths.
 struct ProgramFolders {
-    std::string program;   ///< the one that the program itself stands in
-    std::string userData;  ///< the person's own for this program's files; need not exist yet
+    std::string program;       ///< the one that the program itself stands in
+    std::string userData;      ///< the person's own for this program's files; need not exist yet
+    bool isBuildTree = false;  ///< the program still stands where it was built
 };
 
 /// What the desktop keeps for the program, whatever its front end.

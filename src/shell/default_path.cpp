@@ -16,7 +16,7 @@ const std::string filepathSection = "Filepath";
 bool MayWriteTo(const std::string& folder) { return access(folder.c_str(), W_OK) == 0; }
 
 std::string ProgramFolder(const ProgramFolders& folders) {
-    if (MayWriteTo(folders.program)) return folders.program;
+    if (!folders.isBuildTree && MayWriteTo(folders.program)) return folders.program;
     std::error_code toldWhenAGameIsWritten;
     fs::create_directories(folders.userData, toldWhenAGameIsWritten);
     return folders.userData;

@@ -7,8 +7,8 @@
 namespace qarn {
 
 /// The default folder for game files: the person's setting; where there is none, or the file system
-/// cannot even look for it, the program's own folder. When the person may not write there, the
-/// person's data folder takes its place and is made.
+/// cannot even look for it, the program's own folder. When that is a build tree, or the person may
+/// not write there, the person's data folder takes its place and is made.
 std::string DefaultPath(const Ports& ports);
 
 /// The menu item Options > Default Filepath: asks for the folder and stores what was typed, unless

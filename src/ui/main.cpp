@@ -11,11 +11,14 @@
 
 namespace {
 
+// By this status ./play knows that the game is to be played in the terminal.
+constexpr int noDisplayStatus = 3;
+
 // Qt ends the program when it finds no display; this says why in a line of our own.
 void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type != QtFatalMsg) return;
     std::fputs("qarn: there is no display to open a window on\n", stderr);
-    std::_Exit(EXIT_FAILURE);
+    std::_Exit(noDisplayStatus);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "desktop/desktop_wastebasket.h"
 #include "desktop/help_program.h"
+#include "desktop/program_folders.h"
 #include "desktop/xdg_file_types.h"
 #include "shell/file_commands.h"
 #include "support/played_game.h"
@@ -113,6 +114,20 @@ TEST(HelpProgramTest, IsStartedWithFileAndTopic) {
     help.ShowHelp("");
     EXPECT_EQ(viewer.WaitForArguments(), "[" + (folder / "Help.chm") + "][]");
     EXPECT_EQ(dialogs.boxes.size(), 1u);
+}
+
+TEST(ProgramFoldersTest, TellABuildTree) {
+    const TempFolder folder;
+    const std::string path = folder.Path().string();
+    EXPECT_FALSE(IsBuildTree(path));
+    WriteFile(folder / "CMakeCache.txt", "");
+    EXPECT_TRUE(IsBuildTree(path));
+    EXPECT_FALSE(IsBuildTree(folder / "missing"));
+
+    const ProgramFolders found = FindProgramFolders();
+    EXPECT_TRUE(fs::exists(found.program + "/qarn_desktop_tests"));
+    EXPECT_EQ(found.isBuildTree, IsBuildTree(found.program));
+    EXPECT_EQ(found.userData, DataFolder() / "qarn");
 }
 
 TEST(DesktopWastebasketTest, KeepsTheFile) {

@@ -26,6 +26,10 @@ TEST(DefaultPathTest, IsTheSettingOrAFolderThatCanBeWrittenTo) {
     ports.folders = {world.folder.Path().string(), data};
     EXPECT_EQ(DefaultPath(ports), world.folder.Path().string());
     EXPECT_FALSE(std::filesystem::exists(data));
+    ports.folders.isBuildTree = true;
+    EXPECT_EQ(DefaultPath(ports), data);
+    EXPECT_TRUE(std::filesystem::remove(data));  // it had been made
+    ports.folders.isBuildTree = false;
     ports.folders.program = world.folder / "missing";  // nobody can write there
     EXPECT_EQ(DefaultPath(ports), data);
     EXPECT_TRUE(std::filesystem::is_directory(data));
