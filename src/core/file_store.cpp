@@ -1,12 +1,14 @@
 #include "core/file_store.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 namespace qarn {
 namespace {
@@ -14,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t largestFile = 1 << 20;
+constexpr std::string_view saveName = ".qarn-save-";
 
 [[noreturn]] void Fail(const std::string& path) {
     throw std::system_error(errno, std::generic_category(), path);
@@ -25,12 +28,14 @@ public:
         : path_(path), descriptor_(open(path.c_str(), flags | O_CLOEXEC, mode)) {
         if (descriptor_ < 0) Fail(path);
     }
-    OpenFile(const OpenFile&) = delete;
+    OpenFile(OpenFile&& other) noexcept
+        : path_(std::move(other.path_)), descriptor_(std::exchange(other.descriptor_, -1)) {}
     OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile() {
         if (descriptor_ >= 0) close(descriptor_);
     }
 
+    const std::string& Path() const { return path_; }
     int Descriptor() const { return descriptor_; }
 
     struct stat Status() const {
@@ -62,15 +67,11 @@ public:
         }
     }
 
+    // Some file systems report a failed write only to a close. A copy is closed: the lock stays.
     void Flush() const {
         if (fsync(descriptor_) != 0) Fail(path_);
-    }
-
-    // Some file systems report a failed write only here.
-    void Close() {
-        const int descriptor = descriptor_;
-        descriptor_ = -1;
-        if (close(descriptor) != 0) Fail(path_);
+        const int copy = dup(descriptor_);
+        if (copy < 0 || close(copy) != 0) Fail(path_);
     }
 
 private:
@@ -102,11 +103,47 @@ void RequireWritable(const fs::path& path) {
     if (access(path.c_str(), W_OK) != 0) Fail(path.string());
 }
 
-fs::path UnusedNameBeside(const fs::path& path) {
+fs::path NameBeside(const fs::path& path, int n) {
+    return path.parent_path() /
+           (std::string(saveName) + std::to_string(getpid()) + "-" + std::to_string(n));
+}
+
+bool IsNameOfSave(const std::string& name) {
+    return name.starts_with(saveName) &&
+           name.find_first_not_of("0123456789-", saveName.size()) == std::string::npos;
+}
+
+// Makes a new file and locks it. Its lock tells that it has an owner, until that closes it or is
+// killed. Where the file system knows no locks, no file is ever taken for abandoned.
+OpenFile CreateBeside(const fs::path& path) {
     for (int n = 0;; ++n) {
-        const fs::path name = path.parent_path() /
-                              (".qarn-save-" + std::to_string(getpid()) + "-" + std::to_string(n));
-        if (!fs::exists(fs::symlink_status(name))) return name;
+        try {
+            OpenFile file(NameBeside(path, n).string(), O_WRONLY | O_CREAT | O_EXCL, 0666);
+            flock(file.Descriptor(), LOCK_EX);
+            const bool removedBeforeItWasLocked = file.Status().st_nlink == 0;
+            if (!removedBeforeItWasLocked) return file;
+        } catch (const std::system_error& error) {
+            if (error.code() != std::errc::file_exists) throw;
+        }
+    }
+}
+
+bool StandsAt(const std::string& path, const struct stat& file) {
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 && status.st_dev == file.st_dev &&
+           status.st_ino == file.st_ino;
+}
+
+void RemoveUnlessOwned(const std::string& path) {
+    try {
+        const OpenFile file(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+        const struct stat status = file.Status();
+        const bool abandoned =
+            S_ISREG(status.st_mode) && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0;
+        // The lock belongs to the file, and the name may be another file's by now.
+        if (abandoned && StandsAt(path, status)) unlink(path.c_str());
+    } catch (const std::system_error&) {
+        // It has just got its final name, or belongs to somebody who keeps it closed.
     }
 }
 
@@ -118,13 +155,11 @@ void KeepOwnerAndPermissions(const OpenFile& file, const struct stat& old) {
     }
 }
 
-void WriteNewFile(const fs::path& path, std::string_view contents,
+void WriteNewFile(const OpenFile& file, std::string_view contents,
                   const std::optional<struct stat>& old) {
-    OpenFile file(path.string(), O_WRONLY | O_CREAT | O_EXCL, 0666);
     if (old) KeepOwnerAndPermissions(file, *old);
     file.WriteAll(contents);
     file.Flush();
-    file.Close();
 }
 
 // Makes the rename itself survive a power cut. Some file systems do not offer it for folders.
@@ -149,19 +184,40 @@ std::string ReadWholeFile(const std::string& path) {
 }
 
 void ReplaceFile(const std::string& path, std::string_view contents) {
+    ReplaceFile(path, contents, [] { return true; });
+}
+
+bool ReplaceFile(const std::string& path, std::string_view contents,
+                 const std::function<bool()>& mayReplace) {
     const fs::path target = FollowLinks(fs::absolute(path));
     const std::optional<struct stat> old = StatusOf(target);
     if (old) RequireWritable(target);
+    RemoveAbandonedSaves(target.parent_path().string());
 
-    const fs::path fresh = UnusedNameBeside(target);
+    const OpenFile fresh = CreateBeside(target);
     try {
         WriteNewFile(fresh, contents, old);
-        if (rename(fresh.c_str(), target.c_str()) != 0) Fail(target.string());
-    } catch (const std::system_error&) {
-        unlink(fresh.c_str());
+        const bool replaced = mayReplace();
+        if (!replaced) {
+            unlink(fresh.Path().c_str());
+        } else if (rename(fresh.Path().c_str(), target.c_str()) != 0) {
+            Fail(target.string());
+        }
+        FlushFolder(target.parent_path());
+        return replaced;
+    } catch (...) {
+        unlink(fresh.Path().c_str());
         throw;
     }
-    FlushFolder(target.parent_path());
+}
+
+void RemoveAbandonedSaves(const std::string& folder) {
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string path = entry->path().string();
+        if (IsNameOfSave(entry->path().filename().string())) RemoveUnlessOwned(path);
+    }
 }
 
 void DeleteFile(const std::string& path) {

@@ -4,6 +4,7 @@
 
 #include "core/board_display.h"
 #include "core/code_page.h"
+#include "core/file_store.h"
 #include "core/game_file.h"
 #include "core/turn_cycle.h"
 #include "rules/terrain.h"
@@ -179,8 +180,10 @@ void DrawBoard(Game& game) {
 }  // namespace
 
 void Form_Load(Game& game, const std::string& strGamePath) {
+    const std::filesystem::path path = strGamePath;
+    RemoveAbandonedSaves(path.parent_path().string());
     game.record.strGamePath = strGamePath;
-    game.record.strGameName = std::filesystem::path(strGamePath).filename();
+    game.record.strGameName = path.filename();
     LoadGameOrEnd(game);
     DrawBoard(game);
     game.blnOpen = true;

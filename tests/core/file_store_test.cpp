@@ -122,7 +122,7 @@ TEST(FileStore, ReadsOnlyWholeOrdinaryFiles) {
 }
 
 // Whatever the instant at which the program is killed, the old file is there or the new one, whole;
-// and what was left lying about does not hinder the next save.
+// and what was left lying about goes with the next save.
 TEST(FileStore, KilledAtAnyInstant) {
     TempFolder folder;
     const std::string file = folder / "game";
@@ -131,7 +131,6 @@ TEST(FileStore, KilledAtAnyInstant) {
     std::mt19937 random;
     int killedWhileSaving = 0;
     for (int round = 0; round < 60; ++round) {
-        const std::size_t entries = EntriesIn(folder.Path());
         const pid_t child = fork();
         if (child == 0) {
             for (;;) {
@@ -144,13 +143,41 @@ TEST(FileStore, KilledAtAnyInstant) {
         int status = 0;
         waitpid(child, &status, 0);
         ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-        if (EntriesIn(folder.Path()) > entries) ++killedWhileSaving;
+        if (EntriesIn(folder.Path()) > 1) ++killedWhileSaving;
         const std::string found = ReadFile(file);
         ASSERT_TRUE(found == one || found == other) << found.size() << " bytes";
     }
     EXPECT_GT(killedWhileSaving, 0);
     ReplaceFile(file, "saved");
     EXPECT_EQ(ReadFile(file), "saved");
+    EXPECT_EQ(EntriesIn(folder.Path()), 1u);
+}
+
+TEST(FileStore, RemovesAbandonedSavesOnly) {
+    TempFolder folder;
+    WriteFile(folder / ".qarn-save-4711-0", "left by somebody who was killed");
+    WriteFile(folder / ".qarn-save-notes", "a person's own");
+    fs::create_directory(folder.Path() / ".qarn-save-1-0");
+    fs::create_symlink(".qarn-save-notes", folder / ".qarn-save-2-0");
+    ASSERT_EQ(mkfifo((folder / ".qarn-save-3-0").c_str(), 0600), 0);
+
+    std::size_t entriesMeanwhile = 0;
+    const auto otherProgramsCome = [&] {
+        EXPECT_EQ(ErrorInChild([&] { RemoveAbandonedSaves(folder.Path()); }), 0);
+        EXPECT_EQ(ErrorInChild([&] { ReplaceFile(folder / "other", "saved"); }), 0);
+        entriesMeanwhile = EntriesIn(folder.Path());
+        return true;
+    };
+    EXPECT_TRUE(ReplaceFile(folder / "game", "new", otherProgramsCome));
+    EXPECT_EQ(entriesMeanwhile, 6u) << "the four that are no saves, the other's, and ours";
+    EXPECT_EQ(ReadFile(folder / "game"), "new");
+    EXPECT_EQ(EntriesIn(folder.Path()), 6u);
+
+    EXPECT_FALSE(ReplaceFile(folder / "game", "newer", [] { return false; }));
+    const auto fail = []() -> bool { throw std::system_error(EIO, std::generic_category()); };
+    EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "game", "newer", fail); }), EIO);
+    EXPECT_EQ(ReadFile(folder / "game"), "new");
+    EXPECT_EQ(EntriesIn(folder.Path()), 6u);
 }
 
 }  // namespace
