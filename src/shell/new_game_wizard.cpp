@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <stdexcept>
@@ -7,6 +5,7 @@
 
 #include "core/file_store.h"
 #include "core/game_file.h"
+#include "core/player_error.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "shell/start_window.h"
@@ -74,6 +73,7 @@ void TakeFileName(StartWindow& window) {
         window.ports.dialogs.Tell(
             "You can not have a game containing the followin characters: \\ / : * ? \" < > |");
         SetText(window, "");
+        window.controls.SetFocus = StartControl::txtNewFilePath;
         return;
     }
     if (name.ends_with(extension)) name.resize(name.size() - extension.size());
@@ -95,6 +95,7 @@ void AskForPlayer(StartWindow& window, const char* instructions) {
     StartControls& controls = window.controls;
     controls.lblInstructions.Caption = instructions;
     controls.txtNewFilePath.Locked = false;
+    controls.txtNewFilePath.Storable = true;
     controls.lstScenarios.Enabled = false;
     SetText(window, "");
     controls.SetFocus = StartControl::txtNewFilePath;
@@ -108,11 +109,15 @@ void TakeScenario(StartWindow& window) {
 
 // ---- Steps 2 and 3, the players ----
 
+Player TypedPlayer(const StartControls& controls) {
+    return {controls.txtNewFilePath.Text, controls.chkComputer.Value};
+}
+
 void TakePlayer(StartWindow& window, std::size_t side) {
-    StartControls& controls = window.controls;
-    window.state.strNewPlayerName[side] = controls.txtNewFilePath.Text;
-    window.state.blnNewComputer[side] = controls.chkComputer.Value;
-    controls.chkComputer.Value = false;
+    const Player player = TypedPlayer(window.controls);
+    window.state.strNewPlayerName[side] = player.strPlayerName;
+    window.state.blnNewComputer[side] = player.blnComputer;
+    window.controls.chkComputer.Value = false;
 }
 
 void TakeGoodbeast(StartWindow& window) {
@@ -127,73 +132,51 @@ std::string TextOfNewGame(const StartWindow& window) {
     std::string code;
     ScenarioCode(window.controls.lstScenarios.ListIndex + 1, code);
     return NewGameText(code, {{{state.strNewPlayerName[1], state.blnNewComputer[1]},
-                               {state.strNewPlayerName[2], state.blnNewComputer[2]}}});
+                               TypedPlayer(window.controls)}});
+}
+
+bool AgreesToReplace(StartWindow& window, const std::string& path, const std::string& reason) {
+    const std::string text =
+        "A game of this name exists already and can not be moved to the wastebasket. " + reason +
+        "\n" + path + "\nDo you want to replace it for good?";
+    return window.ports.dialogs.Show(
+               {.Title = {}, .Text = text, .Offered = Buttons::YesNo, .DeclinedByDefault = true}) ==
+           Answer::Yes;
 }
 
 // Gives true when nothing hinders the new game at this path any longer.
 bool ClearsAway(StartWindow& window, const std::string& path) {
+    if (!fs::is_regular_file(path)) return true;
     try {
-        window.wastebasket.MoveThere(path);
+        window.wastebasket.MoveThere(fs::canonical(path).string());
         return true;
     } catch (const std::runtime_error& error) {
-        return window.ports.dialogs.Show(
-                   {.Title = {},
-                    .Text = "A game of this name exists already and can not be moved to the "
-                            "wastebasket. " +
-                            std::string(error.what()) + "\n" + path +
-                            "\nDo you want to replace it for good?",
-                    .Offered = Buttons::YesNo}) == Answer::Yes;
+        return AgreesToReplace(window, path, error.what());
     }
 }
 
 // The old game makes room only once the new one is on the disk, so that a failure leaves it where
 // it was. Gives false when it is to stay.
-bool WriteInPlaceOf(StartWindow& window, const std::string& path, const std::string& text) {
-    const fs::path written =
-        fs::path(path).parent_path() / (".qarn-new-" + std::to_string(getpid()));
-    ReplaceFile(written.string(), text);
-    const bool cleared = ClearsAway(window, path);
-    if (cleared) {
-        fs::rename(written, path);
-    } else {
-        DeleteFile(written.string());
-    }
-    return cleared;
-}
-
 bool WriteNewGame(StartWindow& window, const std::string& path) {
-    const std::string text = TextOfNewGame(window);
-    if (fs::is_regular_file(path)) return WriteInPlaceOf(window, path, text);
-    ReplaceFile(path, text);
-    return true;
-}
-
-bool TryWriteNewGame(StartWindow& window, const std::string& path) {
     std::string reason;
     try {
-        return WriteNewGame(window, path);
+        return ReplaceFile(path, TextOfNewGame(window), [&] { return ClearsAway(window, path); });
     } catch (const std::system_error& error) {
         reason = error.code().message() + ".";
     } catch (const SaveError& error) {
         reason = error.what();
     }
-    window.ports.dialogs.Tell("The new game can not be written. " + reason + "\n" + path);
-    return false;
+    throw PlayerError("The new game can not be written. " + reason + "\n" + path);
 }
 
 void StartGame(StartWindow& window) {
-    const StartControls controls = window.controls;
-    const StartState state = window.state;
+    const fs::path folder = window.controls.txtLocation.Text;
+    const std::string name = window.state.strNewGameName + std::string(extension);
+    const std::string path = (folder / name).string();
+    if (!WriteNewGame(window, path)) return;
     TakePlayer(window, 2);
-    const std::string name = state.strNewGameName + std::string(extension);
-    const std::string path = (fs::absolute(controls.txtLocation.Text) / name).string();
-    if (TryWriteNewGame(window, path)) {
-        window.strGamePath = path;
-        window.Next = NextWindow::Game;
-    } else {
-        window.controls = controls;
-        window.state = state;
-    }
+    window.strGamePath = fs::absolute(path).string();
+    window.Next = NextWindow::Game;
 }
 
 }  // namespace

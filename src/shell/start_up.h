@@ -39,9 +39,14 @@ struct StartUpWindow {
 /// its buttons. Ends the program with a box when no mode of the display is large enough.
 void Form_Load(StartUpWindow& window);
 
-/// Switches the display to 1024 x 768 and goes on. A failure is told in a box, with the help page.
+/// Switches the display to 1024 x 768 and goes on: for good, when that succeeds at once, after a
+/// question whether to restart the computer, or with a box and the help page when it fails.
 void cmdYes_Click(StartUpWindow& window);
+
+/// Goes on with the display as it is.
 void cmdNo_Click(StartUpWindow& window);
+
+/// Opens the help page on changing the display by hand. The window stays.
 void cmdHelp_Click(StartUpWindow& window);
 
 /// The width and the height of the screen in pixels, 0 when they cannot be told.

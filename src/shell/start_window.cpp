@@ -6,6 +6,7 @@
 
 #include "core/file_store.h"
 #include "core/game_file.h"
+#include "core/player_error.h"
 #include "scenarios/catalogue.h"
 #include "shell/default_path.h"
 #include "shell/game_files.h"
@@ -46,17 +47,15 @@ void AllowLoading(StartControls& controls, bool allowed) {
 bool ConfirmsDeletion(StartWindow& window, const std::string& name) {
     return window.ports.dialogs.Show({.Title = "Delete " + name,
                                       .Text = "Are you sure you would like to delete this file?",
-                                      .Offered = Buttons::YesNo}) == Answer::Yes;
+                                      .Offered = Buttons::YesNo,
+                                      .DeclinedByDefault = true}) == Answer::Yes;
 }
 
-bool Deletes(StartWindow& window, const std::string& path) {
+void DeleteGame(const std::string& path) {
     try {
         DeleteFile(path);
-        return true;
     } catch (const std::system_error& error) {
-        window.ports.dialogs.Tell("The file can not be deleted. " + error.code().message() + ".\n" +
-                                  path);
-        return false;
+        throw PlayerError("The file can not be deleted. " + error.code().message() + ".\n" + path);
     }
 }
 
@@ -154,7 +153,8 @@ void cmdLoad_Click(StartWindow& window) {
 void cmdDelete_Click(StartWindow& window) {
     const FileList& list = window.controls.fileLoad;
     const std::string name = SelectedFile(list);
-    if (!ConfirmsDeletion(window, name) || !Deletes(window, PathOf(list, name))) return;
+    if (!ConfirmsDeletion(window, name)) return;
+    DeleteGame(PathOf(list, name));
     AllowLoading(window.controls, false);
     RefreshFileList(window);
     window.controls.SetFocus = StartControl::fileLoad;

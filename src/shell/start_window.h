@@ -17,6 +17,7 @@ struct TextBox {
     bool Enabled = true;
     bool Visible = true;
     bool Locked = false;        ///< read-only
+    bool Storable = false;      ///< takes only characters that a game file can hold
     std::size_t MaxLength = 0;  ///< the most characters that a person can type; 0 = any number
 };
 
@@ -108,7 +109,10 @@ struct StartWindow {
     std::string strGamePath = {};  ///< absolute, once the game window is next
 };
 
-/// Shows the default folder and the games in it.
+// The handlers. Those that read or write files throw PlayerError with the reason when that fails;
+// run them through RunEvent.
+
+/// The window opens: shows the default folder and the games in it.
 void Form_Load(StartWindow& window);
 
 /// Makes the window ready for a person who comes from a game; `blnOpen` tells that a saved game is
@@ -119,26 +123,53 @@ void PrepareStartWindow(StartWindow& window, bool blnOpen);
 /// loaded or deleted. Also to be run whenever the folder changes.
 void RefreshFileList(StartWindow& window);
 
+/// A file was selected, by mouse or key, whether it was selected before or not: it can be loaded
+/// and deleted.
 void fileLoad_Click(StartWindow& window);
+/// The same as cmdLoad_Click.
 void fileLoad_DblClick(StartWindow& window);
+/// Enter loads while the list has the focus.
 void fileLoad_GotFocus(StartWindow& window);
 void fileLoad_LostFocus(StartWindow& window);
+
+/// Goes on with the selected game. Does nothing when none is selected or its name does not end like
+/// a game file's.
 void cmdLoad_Click(StartWindow& window);
+
+/// Deletes the selected file when the person says Yes. Afterwards none is selected. Throws
+/// PlayerError when it cannot be deleted.
 void cmdDelete_Click(StartWindow& window);
+
+/// Goes on with a game that the person picks in a dialog. Lists the folder again when that is
+/// cancelled.
 void cmdBrowse_Click(StartWindow& window);
+
+/// Shows the program's background in the place of the saved games, or puts these back; until a file
+/// is selected anew, none can be loaded or deleted then.
 void cmdBackGround_Click(StartWindow& window);
+
+/// Ends the program.
 void cmdExit_Click(StartWindow& window);
 
 // The wizard for a new game.
 
-/// Takes the step that the wizard is at. The last one writes the new game; when that cannot be done
-/// a box tells why, and the wizard stays there.
+/// Takes the step that the wizard is at. A file name with a forbidden character is told and
+/// emptied. The last step writes the new game and goes on with it; a game of the same name goes to
+/// the wastebasket, or is asked about when it cannot. Throws PlayerError when the new game cannot
+/// be written; any old one is then untouched.
 void cmdNew_Click(StartWindow& window);
+
+/// The text changed: "&New" is for a text that is not blank, and is then what Enter presses.
 void txtNewFilePath_Change(StartWindow& window);
+/// Enter presses "&New" while the text box has the focus.
 void txtNewFilePath_GotFocus(StartWindow& window);
 void txtNewFilePath_LostFocus(StartWindow& window);
+/// Enter presses "&New" from here on.
 void chkComputer_GotFocus(StartWindow& window);
+
+/// A scenario was selected, by mouse or key: shows its background and allows the next step.
 void lstScenarios_Click(StartWindow& window);
+/// The same as cmdNew_Click, when that is allowed.
 void lstScenarios_DblClick(StartWindow& window);
 
 }  // namespace qarn

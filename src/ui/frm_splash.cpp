@@ -1,13 +1,10 @@
 #include "ui/frm_splash.h"
 
 #include <QFile>
-#include <QHBoxLayout>
-#include <QSignalBlocker>
-#include <QVBoxLayout>
-#include <QValidator>
+#include <QKeyEvent>
 #include <utility>
 
-#include "core/code_page.h"
+#include "shell/run_start_event.h"
 #include "ui/scenario_picture.h"
 #include "ui/text.h"
 #include "ui/window_icon.h"
@@ -15,25 +12,7 @@
 namespace qarn {
 namespace {
 
-constexpr int gap = 12;
 constexpr int pictureSquare = 20;  // pixels
-
-// Takes only characters that a game file can hold.
-class StorableText : public QValidator {
-public:
-    using QValidator::QValidator;
-
-    State validate(QString& text, int&) const override {
-        return CanStore(text.toStdString()) ? Acceptable : Invalid;
-    }
-};
-
-void Enlarge(QWidget& widget, double factor) {
-    QFont font = widget.font();
-    font.setPointSizeF(font.pointSizeF() * factor);
-    font.setBold(true);
-    widget.setFont(font);
-}
 
 void Show(QPushButton& widget, const Button& button) {
     widget.setText(ToQt(button.Caption));
@@ -68,101 +47,24 @@ FrmSplash::FrmSplash(RandomNumbers& random, const DesktopPorts& desktop, Wasteba
           .wastebasket = wastebasket} {
     setWindowIcon(WindowIcon());
     setWindowFlag(Qt::WindowMinimizeButtonHint);
+    for (const NamedWidget& named : Widgets()) named.widget->setObjectName(named.name);
     Lay();
     Connect();
-    Form_Load(window_);
+    Run("Form_Load", [](StartWindow& window) { Form_Load(window); });
     folder_.addPath(FileNameToQt(window_.controls.fileLoad.Path));
-    BringUpToDate();
 }
 
 void FrmSplash::Prepare(bool blnOpen) {
-    PrepareStartWindow(window_, blnOpen);
-    BringUpToDate();
+    Run("PrepareStartWindow", [=](StartWindow& window) { PrepareStartWindow(window, blnOpen); });
 }
 
-void FrmSplash::reject() { Run(cmdExit_Click); }
-
-// ---- Layout ----
-
-void FrmSplash::Lay() {
-    Enlarge(lblProgramName_, 1.7);
-    lblProgramName_.setAlignment(Qt::AlignCenter);
-    auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
-    all->setSpacing(gap);
-    all->addWidget(&lblProgramName_);
-    all->addLayout(LayNewGame());
-    all->addLayout(LayScenarios(), 1);
-    all->addLayout(LaySavedGames(), 1);
-    all->addLayout(LayBottom());
-    resize(720, 520);
-}
-
-QLayout* FrmSplash::LayNewGame() {
-    lblInstructions_.setBuddy(&txtNewFilePath_);
-    txtNewFilePath_.setValidator(new StorableText(&txtNewFilePath_));
-    txtNewFilePath_.setMaxLength(static_cast<int>(window_.controls.txtNewFilePath.MaxLength));
-    auto* line = new QHBoxLayout;
-    line->addWidget(&txtNewFilePath_, 1);
-    line->addWidget(&chkComputer_);
-    line->addWidget(&cmdNew_);
-    auto* part = new QVBoxLayout;
-    part->addWidget(&lblInstructions_);
-    part->addLayout(line);
-    return part;
-}
-
-QLayout* FrmSplash::LayScenarios() {
-    for (const std::string& title : window_.controls.lstScenarios.List) {
-        lstScenarios_.addItem(ToQt(title));
-    }
-    lstScenarios_.setAccessibleName("Scenarios");
-    lblScenarioBackground_.setWordWrap(true);
-    lblScenarioBackground_.setAlignment(Qt::AlignTop);
-    auto* story = new QVBoxLayout;
-    story->addWidget(&picture_);
-    story->addWidget(&lblScenarioBackground_, 1);
-    auto* part = new QHBoxLayout;
-    part->addWidget(&lstScenarios_, 1);
-    part->addLayout(story);
-    return part;
-}
-
-QLayout* FrmSplash::LaySavedGames() {
-    fileLoad_.setAccessibleName("Saved games");
-    txtBackGround_.setReadOnly(true);
-    txtBackGround_.setAccessibleName("Program background");
-    auto* buttons = new QVBoxLayout;
-    buttons->addWidget(&cmdLoad_);
-    buttons->addWidget(&cmdDelete_);
-    buttons->addStretch();
-    auto* files = new QHBoxLayout;
-    files->addWidget(&fileLoad_, 1);
-    files->addWidget(&txtBackGround_, 1);  // in the place of the list
-    files->addLayout(buttons);
-    lblYouAre_.setBuddy(&txtLocation_);
-    auto* location = new QHBoxLayout;
-    location->addWidget(&lblYouAre_);
-    location->addWidget(&txtLocation_, 1);
-    location->addWidget(&cmdBrowse_);
-    auto* part = new QVBoxLayout;
-    part->addLayout(files, 1);
-    part->addLayout(location);
-    return part;
-}
-
-QLayout* FrmSplash::LayBottom() {
-    auto* part = new QHBoxLayout;
-    part->addWidget(&cmdBackGround_);
-    part->addStretch();
-    part->addWidget(&cmdExit_);
-    return part;
-}
+void FrmSplash::reject() { Run("cmdExit_Click", cmdExit_Click); }
 
 // ---- Events ----
 
-void FrmSplash::RunOnClick(QPushButton& button, Handler handler) {
-    connect(&button, &QPushButton::clicked, this, [this, handler] { Run(handler); });
+void FrmSplash::RunOnClick(QPushButton& button, const Handler& handler) {
+    const QString event = button.objectName() + "_Click";
+    connect(&button, &QPushButton::clicked, this, [=, this] { Run(event, handler); });
 }
 
 void FrmSplash::Connect() {
@@ -173,26 +75,35 @@ void FrmSplash::Connect() {
     RunOnClick(cmdBackGround_, cmdBackGround_Click);
     RunOnClick(cmdExit_, cmdExit_Click);
     connect(&txtNewFilePath_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        window_.controls.txtNewFilePath.Text = text.toStdString();
-        Run(txtNewFilePath_Change);
+        Run("txtNewFilePath_Change", [&](StartWindow& window) {
+            window.controls.txtNewFilePath.Text = text.toStdString();
+            txtNewFilePath_Change(window);
+        });
     });
-    connect(&chkComputer_, &QCheckBox::toggled, this,
-            [this](bool ticked) { window_.controls.chkComputer.Value = ticked; });
-    connect(&lstScenarios_, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (updating_) return;
-        window_.controls.lstScenarios.ListIndex = row;
-        Run(lstScenarios_Click);
+    connect(&chkComputer_, &QCheckBox::clicked, this, [this](bool ticked) {
+        Run("chkComputer_Click",
+            [=](StartWindow& window) { window.controls.chkComputer.Value = ticked; });
+    });
+    connect(&lstScenarios_, &ChoiceList::Chosen, this, [this](int row) {
+        Run("lstScenarios_Click", [=](StartWindow& window) {
+            window.controls.lstScenarios.ListIndex = row;
+            lstScenarios_Click(window);
+        });
     });
     connect(&lstScenarios_, &QListWidget::itemDoubleClicked, this,
-            [this] { Run(lstScenarios_DblClick); });
-    connect(&fileLoad_, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (updating_) return;
-        window_.controls.fileLoad.ListIndex = row;
-        if (row >= 0) Run(fileLoad_Click);
+            [this] { Run("lstScenarios_DblClick", lstScenarios_DblClick); });
+    connect(&fileLoad_, &ChoiceList::Chosen, this, [this](int row) {
+        Run("fileLoad_Click", [=](StartWindow& window) {
+            window.controls.fileLoad.ListIndex = row;
+            fileLoad_Click(window);
+        });
     });
-    connect(&fileLoad_, &QListWidget::itemDoubleClicked, this, [this] { Run(fileLoad_DblClick); });
-    connect(&folder_, &QFileSystemWatcher::directoryChanged, this,
-            [this] { Run(RefreshFileList); });
+    connect(&fileLoad_, &QListWidget::itemDoubleClicked, this,
+            [this] { Run("fileLoad_DblClick", fileLoad_DblClick); });
+    connect(&folder_, &QFileSystemWatcher::directoryChanged, this, [this] {
+        folderChanged_ = true;
+        FollowFolder();
+    });
     for (QWidget* widget :
          {static_cast<QWidget*>(&txtNewFilePath_), static_cast<QWidget*>(&chkComputer_),
           static_cast<QWidget*>(&fileLoad_)}) {
@@ -202,39 +113,59 @@ void FrmSplash::Connect() {
 
 bool FrmSplash::eventFilter(QObject* object, QEvent* event) {
     const bool got = event->type() == QEvent::FocusIn;
-    const bool lost = event->type() == QEvent::FocusOut;
-    if (!updating_ && (got || lost)) {
+    if (got || event->type() == QEvent::FocusOut) {
+        const QString name = object->objectName() + (got ? "_GotFocus" : "_LostFocus");
         if (object == &txtNewFilePath_) {
-            Run(got ? txtNewFilePath_GotFocus : txtNewFilePath_LostFocus);
+            Run(name, got ? txtNewFilePath_GotFocus : txtNewFilePath_LostFocus);
         } else if (object == &fileLoad_) {
-            Run(got ? fileLoad_GotFocus : fileLoad_LostFocus);
+            Run(name, got ? fileLoad_GotFocus : fileLoad_LostFocus);
         } else if (got) {
-            Run(chkComputer_GotFocus);
+            Run(name, chkComputer_GotFocus);
         }
     }
     return QDialog::eventFilter(object, event);
 }
 
-void FrmSplash::Run(Handler handler) {
-    handler(window_);
-    BringUpToDate();
+// Enter presses the button that has the focus, or else the default button, if there is one. Left to
+// itself, Qt finds a default button where the controls have none.
+void FrmSplash::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    QWidget* pressed = focusWidget();
+    if (qobject_cast<QPushButton*>(pressed) == nullptr) {
+        pressed = WidgetOf(window_.controls.DefaultButton);
+    }
+    if (pressed != nullptr) static_cast<QPushButton*>(pressed)->click();
+}
+
+// One event at a time: while a box is open, the focus goes to and fro.
+void FrmSplash::Run(const QString& event, const Handler& handler) {
+    if (running_) return;
+    running_ = true;
+    RunEvent(window_, event.toStdString(), handler);
+    ShowControls();
+    running_ = false;
+    MoveFocus();
+    FollowFolder();
+    if (window_.Next != NextWindow::Same) QDialog::reject();
+}
+
+void FrmSplash::FollowFolder() {
+    if (running_ || !std::exchange(folderChanged_, false)) return;
+    Run("fileLoad_Change", RefreshFileList);
 }
 
 // ---- Showing the controls ----
 
-void FrmSplash::BringUpToDate() {
-    ShowControls();
-    MoveFocus();
-    if (window_.Next != NextWindow::Same) QDialog::reject();
-}
-
 void FrmSplash::ShowControls() {
-    const bool before = std::exchange(updating_, true);
     const StartControls& controls = window_.controls;
     setWindowTitle(ToQt(controls.Caption));
     Show(lblProgramName_, controls.lblProgramName);
     Show(lblInstructions_, controls.lblInstructions);
     Show(txtNewFilePath_, controls.txtNewFilePath);
+    txtNewFilePath_.setValidator(controls.txtNewFilePath.Storable ? storableText_ : nullptr);
     Show(cmdNew_, controls.cmdNew);
     chkComputer_.setText(ToQt(controls.chkComputer.Caption));
     chkComputer_.setVisible(controls.chkComputer.Visible);
@@ -251,7 +182,6 @@ void FrmSplash::ShowControls() {
     txtBackGround_.setPlainText(ToQt(controls.txtBackGround.Text));
     Show(cmdExit_, controls.cmdExit);
     ShowDefaultButton();
-    updating_ = before;
 }
 
 void FrmSplash::ShowScenario() {
@@ -259,7 +189,7 @@ void FrmSplash::ShowScenario() {
     const ListBox& list = controls.lstScenarios;
     lstScenarios_.setVisible(list.Visible);
     lstScenarios_.setEnabled(list.Enabled);
-    lstScenarios_.setCurrentRow(list.ListIndex);
+    lstScenarios_.ShowChosen(list.ListIndex);
     Show(lblScenarioBackground_, controls.lblScenarioBackground);
     const bool chosen = list.Visible && list.ListIndex >= 0;
     picture_.setVisible(chosen);
@@ -278,7 +208,7 @@ void FrmSplash::ShowFiles() {
         fileLoad_.clear();
         fileLoad_.addItems(names);
     }
-    fileLoad_.setCurrentRow(list.ListIndex);
+    fileLoad_.ShowChosen(list.ListIndex);
     fileLoad_.setEnabled(list.Enabled);
     fileLoad_.setVisible(list.Visible);
 }
@@ -301,33 +231,27 @@ void FrmSplash::MoveFocus() {
     if (target != StartControl::None) WidgetOf(target)->setFocus();
 }
 
+std::array<FrmSplash::NamedWidget, 12> FrmSplash::Widgets() {
+    using enum StartControl;
+    return {{{txtNewFilePath, &txtNewFilePath_, "txtNewFilePath"},
+             {cmdNew, &cmdNew_, "cmdNew"},
+             {chkComputer, &chkComputer_, "chkComputer"},
+             {lstScenarios, &lstScenarios_, "lstScenarios"},
+             {fileLoad, &fileLoad_, "fileLoad"},
+             {cmdLoad, &cmdLoad_, "cmdLoad"},
+             {cmdDelete, &cmdDelete_, "cmdDelete"},
+             {txtLocation, &txtLocation_, "txtLocation"},
+             {cmdBrowse, &cmdBrowse_, "cmdBrowse"},
+             {cmdBackGround, &cmdBackGround_, "cmdBackGround"},
+             {txtBackGround, &txtBackGround_, "txtBackGround"},
+             {cmdExit, &cmdExit_, "cmdExit"}}};
+}
+
 QWidget* FrmSplash::WidgetOf(StartControl control) {
-    switch (control) {
-        case StartControl::txtNewFilePath:
-            return &txtNewFilePath_;
-        case StartControl::cmdNew:
-            return &cmdNew_;
-        case StartControl::chkComputer:
-            return &chkComputer_;
-        case StartControl::lstScenarios:
-            return &lstScenarios_;
-        case StartControl::fileLoad:
-            return &fileLoad_;
-        case StartControl::cmdLoad:
-            return &cmdLoad_;
-        case StartControl::cmdDelete:
-            return &cmdDelete_;
-        case StartControl::txtLocation:
-            return &txtLocation_;
-        case StartControl::cmdBrowse:
-            return &cmdBrowse_;
-        case StartControl::cmdBackGround:
-            return &cmdBackGround_;
-        case StartControl::txtBackGround:
-            return &txtBackGround_;
-        default:
-            return &cmdExit_;
+    for (const NamedWidget& named : Widgets()) {
+        if (named.control == control) return named.widget;
     }
+    return nullptr;
 }
 
 }  // namespace qarn

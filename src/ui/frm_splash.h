@@ -5,13 +5,14 @@
 #include <QFileSystemWatcher>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <array>
 #include <functional>
 
 #include "desktop/help_program.h"
 #include "shell/start_window.h"
+#include "ui/choice_list.h"
 #include "ui/qt_ports.h"
 
 namespace qarn {
@@ -33,9 +34,16 @@ public:
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    using Handler = void (*)(StartWindow&);
+    using Handler = std::function<void(StartWindow&)>;
+
+    struct NamedWidget {
+        StartControl control;
+        QWidget* widget;
+        const char* name;
+    };
 
     void Lay();
     QLayout* LayNewGame();
@@ -43,31 +51,34 @@ private:
     QLayout* LaySavedGames();
     QLayout* LayBottom();
     void Connect();
-    void RunOnClick(QPushButton& button, Handler handler);
+    void RunOnClick(QPushButton& button, const Handler& handler);
 
-    void Run(Handler handler);
-    void BringUpToDate();
+    void Run(const QString& event, const Handler& handler);
+    void FollowFolder();
     void ShowControls();
     void ShowFiles();
     void ShowScenario();
     void ShowDefaultButton();
     void MoveFocus();
+    std::array<NamedWidget, 12> Widgets();
     QWidget* WidgetOf(StartControl control);
 
     QtDialogs dialogs_;
     HelpProgram help_;
     StartWindow window_;
-    bool updating_ = false;  // what changes now was changed by a handler, not by a person
+    bool running_ = false;  // what changes now is changed by a handler, not by a person
+    bool folderChanged_ = false;
 
     QLabel lblProgramName_;
     QLabel lblInstructions_;
     QLineEdit txtNewFilePath_;
+    QValidator* storableText_ = nullptr;
     QPushButton cmdNew_;
     QCheckBox chkComputer_;
-    QListWidget lstScenarios_;
+    ChoiceList lstScenarios_;
     QLabel picture_;
     QLabel lblScenarioBackground_;
-    QListWidget fileLoad_;
+    ChoiceList fileLoad_;
     QPushButton cmdLoad_;
     QPushButton cmdDelete_;
     QLabel lblYouAre_;

@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "shell/run_start_event.h"
 #include "ui/text.h"
 #include "ui/window_icon.h"
 
@@ -34,7 +35,7 @@ FrmYesNoHelp::FrmYesNoHelp(const std::string& helpFolder, DisplaySettings& displ
               .screen = CurrentScreen()} {}
 
 bool FrmYesNoHelp::Asks() {
-    Form_Load(window_);
+    Run("Form_Load", Form_Load);
     if (window_.Visible) Lay();
     return window_.Visible;
 }
@@ -49,12 +50,15 @@ void FrmYesNoHelp::Lay() {
     prompt->addWidget(imgAlert);
     prompt->addWidget(new QLabel(ToQt(window_.lblPrompt.Caption)), 1);
 
+    cmdYes_.setObjectName("cmdYes");
+    cmdNo_.setObjectName("cmdNo");
+    cmdHelp_.setObjectName("cmdHelp");
     cmdYes_.setText(ToQt(window_.cmdYes.Caption));
     cmdNo_.setText(ToQt(window_.cmdNo.Caption));
     cmdHelp_.setText(ToQt(window_.cmdHelp.Caption));
-    connect(&cmdYes_, &QPushButton::clicked, this, [this] { Run(cmdYes_Click); });
-    connect(&cmdNo_, &QPushButton::clicked, this, [this] { Run(cmdNo_Click); });
-    connect(&cmdHelp_, &QPushButton::clicked, this, [this] { Run(cmdHelp_Click); });
+    connect(&cmdYes_, &QPushButton::clicked, this, [this] { Run("cmdYes_Click", cmdYes_Click); });
+    connect(&cmdNo_, &QPushButton::clicked, this, [this] { Run("cmdNo_Click", cmdNo_Click); });
+    connect(&cmdHelp_, &QPushButton::clicked, this, [this] { Run("cmdHelp_Click", cmdHelp_Click); });
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     for (QPushButton* button : {&cmdYes_, &cmdNo_, &cmdHelp_}) buttons->addWidget(button);
@@ -64,10 +68,10 @@ void FrmYesNoHelp::Lay() {
     all->addLayout(buttons);
 }
 
-void FrmYesNoHelp::reject() { Run(cmdNo_Click); }
+void FrmYesNoHelp::reject() { Run("cmdNo_Click", cmdNo_Click); }
 
-void FrmYesNoHelp::Run(void (*handler)(StartUpWindow&)) {
-    handler(window_);
+void FrmYesNoHelp::Run(const char* event, void (*handler)(StartUpWindow&)) {
+    RunEvent(window_, event, handler);
     if (window_.Next != NextWindow::Same) QDialog::reject();
 }
 

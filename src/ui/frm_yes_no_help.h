@@ -28,7 +28,7 @@ public:
 
 private:
     void Lay();
-    void Run(void (*handler)(StartUpWindow&));
+    void Run(const char* event, void (*handler)(StartUpWindow&));
 
     QtDialogs dialogs_;
     HelpProgram help_;

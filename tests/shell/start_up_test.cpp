@@ -1,4 +1,4 @@
-#include "shell/start_up.h"
+#include "shell/run_start_event.h"
 
 #include <gtest/gtest.h>
 
@@ -77,6 +77,22 @@ TEST(StartUpTest, NoGoesOnAndHelpWaits) {
     cmdNo_Click(program.window);
     EXPECT_EQ(OutcomeOf(program), "start|Troubleshooting.htm#ManualFix");
     EXPECT_EQ(program.display.changes, "");
+}
+
+TEST(StartUpTest, AnEventThatFailsLeavesTheWindowOrGoesOn) {
+    const auto fail = [](StartUpWindow& window) {
+        window.Visible = !window.Visible;
+        window.Next = NextWindow::Game;
+        throw std::out_of_range("vector");
+    };
+    for (const bool onScreen : {true, false}) {
+        Started program;
+        program.window.Visible = onScreen;
+        RunEvent(program.window, "cmdYes_Click", fail);
+        EXPECT_EQ(OutcomeOf(program),
+                  std::string(onScreen ? "this" : "start") + "||Internal error in cmdYes_Click.");
+        EXPECT_EQ(program.window.Visible, onScreen);
+    }
 }
 
 std::string AfterYes(DisplayChange result, Answer answer, const std::string& changes) {

@@ -1,10 +1,11 @@
-#include "shell/start_window.h"
+#include "shell/run_start_event.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
 
+#include "core/player_error.h"
 #include "scenarios/setup.h"
 #include "support/played_game.h"
 
@@ -39,13 +40,14 @@ protected:
         Form_Load(window);
     }
 
+    void Press(void (*handler)(StartWindow&)) { RunEvent(window, "Press", handler); }
     void Type(const std::string& text) {
         controls.txtNewFilePath.Text = text;
         txtNewFilePath_Change(window);
     }
     void TypeAndPressNew(const std::string& text) {
         Type(text);
-        cmdNew_Click(window);
+        Press(cmdNew_Click);
     }
     void SelectScenario(int scenario) {
         controls.lstScenarios.ListIndex = scenario - 1;
@@ -58,7 +60,7 @@ protected:
     void ComeToLastStep(const std::string& name) {
         TypeAndPressNew(name);
         SelectScenario(7);
-        cmdNew_Click(window);
+        Press(cmdNew_Click);
         TypeAndPressNew("Red");
         Type("Blue");
     }
@@ -100,7 +102,7 @@ TEST_F(StartWindowTest, TheWizardMakesANewGame) {
     Type("  Game One.tgf  ");
     EXPECT_EQ(Shown(), firstStep + "'  Game One.tgf  ' &New files (&Load) (&Delete Game) " +
                            savedGames + "new");
-    cmdNew_Click(window);
+    Press(cmdNew_Click);
     txtNewFilePath_LostFocus(window);
     EXPECT_EQ(Shown(),
               "Select the scenario you would like to play. | 'Game One' locked (&Next) "
@@ -136,6 +138,7 @@ TEST_F(StartWindowTest, AFileNameRefusesCharacters) {
             dialogs.boxes.back().Text,
             "You can not have a game containing the followin characters: \\ / : * ? \" < > |");
         EXPECT_EQ(Shown().find(firstStep + "'' (&New)"), 0u) << character;
+        EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
     }
     EXPECT_EQ(dialogs.boxes.size(), 9u);
     TypeAndPressNew("Upper.TGF");  // only the small letters are an ending
@@ -148,7 +151,7 @@ TEST_F(StartWindowTest, ANewGameThatCanNotBeWrittenStaysAtItsStep) {
     ComeToLastStep("Game");
     controls.chkComputer.Value = true;
     const std::string before = Shown();
-    cmdNew_Click(window);
+    Press(cmdNew_Click);
     const std::string reason = "No such file or directory.\n" + (folder / "later/Game.tgf");
     EXPECT_EQ(dialogs.boxes.back().Text, "The new game can not be written. " + reason);
     EXPECT_EQ(Shown(), before);
@@ -166,22 +169,31 @@ TEST_F(StartWindowTest, AGameThatIsReplacedGoesToTheWastebasket) {
     ComeToLastStep("Game.tgf");
     wastebasket.refusal = "There is none.";
     dialogs.queued = {Answer::No, Answer::Yes};
-    cmdNew_Click(window);
+    Press(cmdNew_Click);
     const std::string question = (folder / "Game.tgf") + "\nDo you want to replace it for good?";
     EXPECT_EQ(dialogs.boxes.back().Text,
               "A game of this name exists already and can not be moved "
               "to the wastebasket. There is none.\n" +
                   question);
+    EXPECT_TRUE(dialogs.boxes.back().DeclinedByDefault);
     EXPECT_EQ(ReadFile(folder / "Game.tgf"), "old");
     EXPECT_EQ(window.Next, NextWindow::Same);
-    cmdNew_Click(window);
+    Press(cmdNew_Click);
     const std::string made = ReadFile(folder / "Game.tgf");
     EXPECT_EQ(made.find("HM\r\nRed "), 0u);
 
     wastebasket.refusal.clear();
-    cmdNew_Click(window);
+    Press(cmdNew_Click);
     EXPECT_EQ(wastebasket.thrownAway, Texts{made});
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1);
+
+    fs::create_directory(folder / "elsewhere");  // a link stays one, and no game is lost behind it
+    fs::rename(folder / "Game.tgf", folder / "elsewhere/Game.tgf");
+    fs::create_symlink("elsewhere/Game.tgf", folder / "Game.tgf");
+    Press(cmdNew_Click);
+    EXPECT_EQ(wastebasket.thrownAway.size(), 2u);
+    EXPECT_TRUE(fs::is_symlink(folder / "Game.tgf"));
+    EXPECT_EQ(ReadFile(folder / "elsewhere/Game.tgf"), made);
 }
 
 TEST_F(StartWindowTest, SavedGamesAreListedDeletedAndLoaded) {
@@ -199,17 +211,18 @@ TEST_F(StartWindowTest, SavedGamesAreListedDeletedAndLoaded) {
     RefreshFileList(window);
     EXPECT_EQ(controls.fileLoad.ListIndex, 1);
     dialogs.queued = {Answer::No, Answer::Yes, Answer::Yes};
-    cmdDelete_Click(window);
+    Press(cmdDelete_Click);
     EXPECT_EQ(dialogs.boxes[0].Title, "Delete c.tgf");
+    EXPECT_TRUE(dialogs.boxes[0].DeclinedByDefault);
     EXPECT_EQ(dialogs.boxes[0].Text, "Are you sure you would like to delete this file?");
     EXPECT_TRUE(controls.cmdLoad.Enabled);
     fs::remove(folder / "c.tgf");
     fs::create_directory(folder / "c.tgf");
-    cmdDelete_Click(window);
+    Press(cmdDelete_Click);
     EXPECT_EQ(dialogs.boxes.back().Text,
               "The file can not be deleted. Is a directory.\n" + (folder / "c.tgf"));
     fs::remove(folder / "c.tgf");
-    cmdDelete_Click(window);  // it is gone already
+    Press(cmdDelete_Click);  // it is gone already
     EXPECT_EQ(Shown(), firstStep + "'' (&New) files (&Load) (&Delete Game) " + savedGames + "none");
     EXPECT_EQ(controls.fileLoad.List, Texts{"A.TGF"});
     cmdLoad_Click(window);    // nothing is selected
@@ -241,6 +254,28 @@ TEST_F(StartWindowTest, TheProgramBackgroundComesAndGoes) {
     EXPECT_EQ(Shown(),
               firstStep + "'Game' &New files (&Load) (&Delete Game) " + savedGames + "new");
     EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
+}
+
+TEST_F(StartWindowTest, AnEventThatFailsLeavesTheWindowAsItWas) {
+    Type("Game");
+    const std::string before = Shown();
+    const std::vector<std::pair<std::function<void()>, std::string>> rows{
+        {[] { throw PlayerError("The disk is full."); }, "The disk is full."},
+        {[] { Texts().at(1); }, "Internal error in cmdNew_Click."},
+        {[] { throw 1; }, "Internal error in cmdNew_Click."}};
+    for (const auto& [fail, told] : rows) {
+        RunEvent(window, "cmdNew_Click", [&](StartWindow& changed) {
+            cmdNew_Click(changed);
+            changed.strGamePath = "/game.tgf";
+            changed.Next = NextWindow::Game;
+            fail();
+        });
+        EXPECT_EQ(dialogs.boxes.back().Text, told);
+        EXPECT_EQ(Shown(), before);
+        EXPECT_EQ(window.state.bytWizardStep, 0);
+        EXPECT_EQ(window.strGamePath, "");
+        EXPECT_EQ(window.Next, NextWindow::Same);
+    }
 }
 
 }  // namespace
