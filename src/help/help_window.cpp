@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
+#include <QTabBar>
 #include <QToolBar>
 #include <stdexcept>
 
@@ -48,6 +49,7 @@ HelpWindow::HelpWindow(const HelpFile& file, SettingsStore& settings)
     AddGoMenu();
     AddViewMenu();
     AddSearchMenu();
+    FollowTabs();
     connect(contents_, &ContentsTree::TopicChosen, browser_, &HelpBrowser::ShowTopic);
     connect(search_, &SearchPane::PageChosen, this,
             [this](const QString& name, const QStringList& words) {
@@ -124,12 +126,24 @@ void HelpWindow::AddSearchMenu() {
     QAction* search = AddAction(menu, "&Search All Pages", QKeySequence("Ctrl+F"));
     QAction* next = AddAction(menu, "&Next Place", QKeySequence("F3"));
     QAction* previous = AddAction(menu, "&Previous Place", QKeySequence("Shift+F3"));
-    connect(search, &QAction::triggered, this, [this] {
-        tabs_->setCurrentWidget(search_);
-        search_->FocusField();
-    });
+    connect(search, &QAction::triggered, this, &HelpWindow::ShowSearch);
     connect(next, &QAction::triggered, browser_, [this] { browser_->GoToMark(true); });
     connect(previous, &QAction::triggered, browser_, [this] { browser_->GoToMark(false); });
+}
+
+// Whoever opens the search wants to type, unless the arrow keys walk along the tabs.
+void HelpWindow::FollowTabs() {
+    connect(tabs_, &QTabWidget::tabBarClicked, this, [this](int tab) {
+        if (tabs_->widget(tab) == search_) ShowSearch();
+    });
+    connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        if (tabs_->currentWidget() == search_ && !tabs_->tabBar()->hasFocus()) ShowSearch();
+    });
+}
+
+void HelpWindow::ShowSearch() {
+    tabs_->setCurrentWidget(search_);
+    search_->FocusField();
 }
 
 void HelpWindow::FollowPage() {

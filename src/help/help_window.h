@@ -35,6 +35,8 @@ private:
     void AddGoMenu();
     void AddViewMenu();
     void AddSearchMenu();
+    void FollowTabs();
+    void ShowSearch();
     void FollowPage();
     void RestorePlace();
     void StorePlace();

@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTest>
 #include <QTimer>
 
@@ -134,6 +135,24 @@ TEST_F(Viewer, SearchesAllPagesAndMarksThePlaces) {
     EXPECT_GT(browser->extraSelections().size(), 3);
     window.ShowTopic("Movement.htm");
     EXPECT_EQ(browser->extraSelections().size(), 0);
+}
+
+TEST_F(Viewer, PutsTheCursorIntoTheBoxOfTheSearchTab) {
+    auto* box = window.findChild<QLineEdit*>();
+    auto* bar = window.findChild<QTabBar*>();
+    const auto type = [&] {
+        box->clear();
+        QTest::keyClicks(QApplication::focusWidget(), "abbey");
+        return box->text().toStdString();
+    };
+    for (int times = 1; times <= 2; ++times) {  // also when it is open already
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
+        EXPECT_EQ(type(), "abbey");
+        browser->setFocus();
+    }
+    Key(Qt::Key_C, Qt::AltModifier);
+    Key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(type(), "abbey");
 }
 
 TEST_F(Viewer, RemembersItsSize) {
