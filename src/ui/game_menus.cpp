@@ -9,11 +9,6 @@ QString ToQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-bool IsCheckable(const MenuCommand& command) {
-    return command.State == &Controls::mnuPeopleDetails || command.State == &Controls::mnuSummary ||
-           command.State == &Controls::mnuTGF;
-}
-
 bool IsVisible(const Controls& controls, const MenuCommand& command) {
     return command.State == nullptr || (controls.*command.State).Visible;
 }
@@ -51,7 +46,7 @@ QAction* GameMenus::MakeAction(QMenu* menu, const MenuCommand& command) {
     QAction* action = menu->addAction(ToQt(command.Caption));
     action->setObjectName(ToQt(command.Name));
     if (!command.Shortcut.empty()) action->setShortcut(QKeySequence(ToQt(command.Shortcut)));
-    action->setCheckable(IsCheckable(command));
+    action->setCheckable(command.Checkable);
     QObject::connect(action, &QAction::triggered, [this, &command] { choose_(command); });
     return action;
 }

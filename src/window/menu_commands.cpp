@@ -23,6 +23,8 @@ constexpr std::string_view toolsMenu = "&Tools";
 constexpr std::string_view optionsMenu = "&Options";
 constexpr std::string_view helpMenu = "&Help";
 
+constexpr bool checkable = true;
+
 constexpr std::array menuCommands{
     MenuCommand{fileMenu, "New", "&New...", "Ctrl+N", New_Click},
     MenuCommand{fileMenu, "Open", "&Open...", "Ctrl+O", Open_Click},
@@ -31,7 +33,7 @@ constexpr std::array menuCommands{
     MenuCommand{fileMenu, "", "", "", nullptr},
     MenuCommand{fileMenu, "mnuExit", "E&xit", "Ctrl+X", mnuExit_Click},
     MenuCommand{detailsMenu, "mnuPeopleDetails", "&Details", "Ctrl+D", mnuPeopleDetails_Click,
-                &Controls::mnuPeopleDetails},
+                &Controls::mnuPeopleDetails, checkable},
     MenuCommand{detailsMenu, "mnuItemDetails", "&Item Details", "Ctrl+I", mnuItemDetails_Click},
     MenuCommand{detailsMenu, "mnuSummaryTerrain", "Summary &Terrain Details", "Ctrl+T",
                 mnuSummaryTerrain_Click},
@@ -39,11 +41,11 @@ constexpr std::array menuCommands{
     MenuCommand{toolsMenu, "mnuConvertFile", "&Convert File", "", mnuConvertFile_Click,
                 &Controls::mnuConvertFile},
     MenuCommand{optionsMenu, "mnuSummary", "&Display Summary", "", mnuSummary_Click,
-                &Controls::mnuSummary},
+                &Controls::mnuSummary, checkable},
     MenuCommand{optionsMenu, "mnuDefaultFilepath", "Default &Filepath", "",
                 mnuDefaultFilepath_Click},
     MenuCommand{optionsMenu, "mnuTGF", "Add and Remove the &TGF Filetype", "", mnuTGF_Click,
-                &Controls::mnuTGF},
+                &Controls::mnuTGF, checkable},
     MenuCommand{helpMenu, "mnuGetStarted", "&Getting Started", "", mnuGetStarted_Click},
     MenuCommand{helpMenu, "mnuHelp", "&Help", "F1", mnuHelp_Click},
     MenuCommand{helpMenu, "", "", "", nullptr},

@@ -7,17 +7,43 @@
 
 namespace qarn {
 
+/// File > New and File > Open: asks whether to leave the game and, on Yes, closes the window as
+/// Form_Unload does, so that the start window follows; Open has it choose a saved game. On No, and
+/// when the game cannot be saved and the person stays, the game goes on.
 void New_Click(Game& game);
 void Open_Click(Game& game);
+
+/// File > Save: saves the game under its name. A failure is told in a box.
 void mnuSave_Click(Game& game);
+
+/// File > Save As: asks for a file, saves the game there and goes on under that name, which the
+/// caption then tells. Changes nothing when no file is named or the game cannot be saved there.
 void mnuSaveAs_Click(Game& game);
+
+/// File > Exit: closes the window, see Form_Unload.
 void mnuExit_Click(Game& game);
+
+/// Details > Item Details: opens the help page of the scenario's groups.
 void mnuItemDetails_Click(Game& game);
+
+/// Details > Summary Terrain Details: opens the help page of the terrain.
 void mnuSummaryTerrain_Click(Game& game);
+
+/// Tools > Replay: does nothing.
 void mnuReplay_Click(Game& game);
+
+/// Tools > Convert File: saves the game as one of the next scenario, the first after the last,
+/// loads it again and asks whether this is the right one, until the answer is Yes. Stops, with the
+/// scenario that the file holds, when it cannot be saved.
 void mnuConvertFile_Click(Game& game);
+
+/// Options > Display Summary: turns square summaries on or off, and stores which.
 void mnuSummary_Click(Game& game);
+
+/// Help > Getting Started: opens that help page.
 void mnuGetStarted_Click(Game& game);
+
+/// Help > Help: opens the help at its start.
 void mnuHelp_Click(Game& game);
 
 /// One item of the menu bar. The menus, their shortcut keys and the text front end are all made
@@ -26,10 +52,12 @@ struct MenuCommand {
     std::string_view Menu;  ///< the caption of the menu that holds it
     std::string_view Name;  ///< empty: a separator line
     std::string_view Caption;
-    std::string_view Shortcut;  ///< as "Ctrl+S"; empty: none
-    void (*Click)(Game&) = nullptr;
-    /// Where the item's state stands in the controls; null: always enabled, never checked.
+    std::string_view Shortcut;       ///< as "Ctrl+S"; empty: none
+    void (*Click)(Game&) = nullptr;  ///< its handler; null for a separator line
+    /// Where the item's state stands in the controls; null: always visible, and enabled while its
+    /// menu is.
     MenuState Controls::*State = nullptr;
+    bool Checkable = false;  ///< shows a check mark while its state is checked
 };
 
 /// All items, menu by menu, in their order.
