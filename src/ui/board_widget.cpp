@@ -10,9 +10,10 @@
 #include <cmath>
 #include <utility>
 
+#include "core/board_geometry.h"
 #include "ui/board_accessible.h"
 #include "ui/code_layout.h"
-#include "ui/design.h"
+#include "ui/paint_square_role.h"
 #include "ui/square_text.h"
 #include "ui/text.h"
 
@@ -82,7 +83,16 @@ void BoardWidget::BringUpToDate() {
         UpdateSquare(square);
         TellChangedSquare(this, square);
     });
+    ShowRoles();
     ShowHighlight();
+}
+
+void BoardWidget::ShowRoles() {
+    std::vector<MarkedSquare> roles = MarkedSquares(game_);
+    if (roles == roles_) return;
+    roles_.swap(roles);
+    for (const MarkedSquare& mark : roles) UpdateSquare({mark.X, mark.Y});
+    for (const MarkedSquare& mark : roles_) UpdateSquare({mark.X, mark.Y});
 }
 
 // The mark comes with a place in twips; it always stands over a whole square.
@@ -90,8 +100,8 @@ void BoardWidget::ShowHighlight() {
     const Marker& mark = game_.controls.shpHighlight;
     QPoint square = nowhere;
     if (mark.Visible) {
-        square = QPoint((mark.Left + squareTwips.width() / 2 - boardTwips.x()) / columnTwips + 1,
-                        (mark.Top + squareTwips.height() / 2 - boardTwips.y()) / rowTwips + 1);
+        square = QPoint((mark.Left + squareWidthTwips / 2 - boardLeftTwips) / columnTwips + 1,
+                        (mark.Top + squareHeightTwips / 2 - boardTopTwips) / rowTwips + 1);
     }
     if (square == highlight_) return;
     UpdateSquare(highlight_);
@@ -142,7 +152,7 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
     ForEachSquare([&](QPoint square) {
         if (event->region().intersects(PlaceOfSquare(square))) PaintSquare(painter, square);
     });
-    PaintMarks(painter);
+    PaintOutlines(painter);
 }
 
 void BoardWidget::PaintLines(QPainter& painter) const {
@@ -158,6 +168,7 @@ void BoardWidget::PaintSquare(QPainter& painter, QPoint square) const {
     const SquareLabel& label = SquareOf(shown_, square);
     const QRectF inner = InnerSquare(square);
     painter.fillRect(inner, ToQt(label.BackColor));
+    PaintRole(painter, square);
     if (label.Caption.empty()) return;
     painter.setPen(ToQt(label.ForeColor));
     PaintCodes(painter, QString::fromStdString(label.Caption), inner);
@@ -173,8 +184,20 @@ void BoardWidget::PaintCodes(QPainter& painter, const QString& caption, const QR
     }
 }
 
-void BoardWidget::PaintMarks(QPainter& painter) const {
-    const double thick = std::max(1.0, std::round(width() / 430.0));
+// Below the codes, which stay readable, and within the outline that the square may have.
+void BoardWidget::PaintRole(QPainter& painter, QPoint square) const {
+    const bool outlined = square == highlight_ || (square == cursor_ && hasFocus());
+    const double inset = outlined ? 2 * Thick() : 0;
+    const QRectF room = InnerSquare(square).adjusted(inset, inset, -inset, -inset);
+    for (const MarkedSquare& mark : roles_) {
+        if (QPoint(mark.X, mark.Y) == square) PaintSquareRole(painter, room, mark.Role);
+    }
+}
+
+double BoardWidget::Thick() const { return std::max(1.0, std::round(width() / 430.0)); }
+
+void BoardWidget::PaintOutlines(QPainter& painter) const {
+    const double thick = Thick();
     if (hovered_ != nowhere) {
         PaintOutline(painter, InnerSquare(hovered_), lineWidth_,
                      ToQt(SquareOf(shown_, hovered_).ForeColor));

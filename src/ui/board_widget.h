@@ -2,13 +2,16 @@
 
 #include <QWidget>
 #include <array>
+#include <vector>
 
 #include "core/game.h"
+#include "ui/square_marks.h"
 
 namespace qarn {
 
 /// The board: all 180 squares painted as one widget. Has a cursor of its own, so that the keyboard
-/// can click squares too. Squares are told by column and row, from 1.
+/// can click squares too, and marks the squares of the move or attack under way. Squares are told
+/// by column and row, from 1.
 class BoardWidget : public QWidget {
     Q_OBJECT
 
@@ -21,19 +24,22 @@ public:
 
     /// The square that the keyboard clicks.
     QPoint Cursor() const { return cursor_; }
+    /// Moves it to a square, or to the nearest one where that is off the board.
     void MoveCursor(QPoint square);
 
-    /// Clicks a square as a mouse does.
+    /// Clicks a square as a mouse does: the cursor goes there too.
     void Click(QPoint square);
 
     /// The place of a square on the widget, its lines included.
     QRect PlaceOfSquare(QPoint square) const;
-    /// The square at a place on the widget.
+    /// The square at a place on the widget; the nearest one where the place is off it.
     QPoint SquareAt(QPointF place) const;
 
+    /// The game whose squares it shows.
     const Game& ShownGame() const { return game_; }
 
 signals:
+    /// A square was clicked, with the mouse, a key or by a screen reader.
     void SquareClicked(int X, int Y);
 
 protected:
@@ -54,7 +60,10 @@ private:
     void PaintLines(QPainter& painter) const;
     void PaintSquare(QPainter& painter, QPoint square) const;
     void PaintCodes(QPainter& painter, const QString& caption, const QRectF& inner) const;
-    void PaintMarks(QPainter& painter) const;
+    double Thick() const;  // half an outline
+    void PaintRole(QPainter& painter, QPoint square) const;
+    void PaintOutlines(QPainter& painter) const;
+    void ShowRoles();
     void ShowHighlight();
     void Hover(QPoint square);
     void TellCursor();
@@ -65,7 +74,8 @@ private:
     double lineWidth_ = 1;
     std::array<double, columnCount + 1> columnLines_{};  // from the left
     std::array<double, rowCount + 1> rowLines_{};        // from the top
-    QPoint highlight_;                                   // (0, 0): none
+    std::vector<MarkedSquare> roles_;
+    QPoint highlight_;  // (0, 0): none
     QPoint cursor_{columnCount / 2, rowCount / 2};
     QPoint hovered_;  // (0, 0): none
     QPoint pressed_;  // (0, 0): none

@@ -28,6 +28,16 @@ void ShowButton(QPushButton* widget, const Button& button) {
     widget->setVisible(button.Visible);
 }
 
+// Names go out to screen readers, and tips to the desktop: only what is new.
+void Name(QWidget* widget, const QString& name) {
+    if (widget->accessibleName() != name) widget->setAccessibleName(name);
+}
+
+void NameWithTip(QWidget* widget, const QString& name) {
+    Name(widget, name);
+    if (widget->toolTip() != name) widget->setToolTip(name);
+}
+
 QFont Bold(QFont font) {
     font.setBold(true);
     return font;
@@ -49,8 +59,9 @@ QPalette TerrainPalette(std::uint8_t code) {
     return palette;
 }
 
-// The look of a note that lies over the board.
+// A note that lies over the board. The mouse reaches the squares beneath it.
 void MakeNote(QFrame* widget) {
+    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
     widget->setFrameShape(QFrame::Box);
     widget->setAutoFillBackground(true);
     widget->setBackgroundRole(QPalette::ToolTipBase);
@@ -77,6 +88,7 @@ QPushButton* ControlPanel::MakeButton(QWidget* parent, const char* name, void (*
 
 void ControlPanel::MakeCheckBoxes() {
     fraCheckBoxes_ = new QFrame(area_);
+    fraCheckBoxes_->setObjectName("fraCheckBoxes");
     fraCheckBoxes_->setFrameShape(QFrame::StyledPanel);
     area_->Place(fraCheckBoxes_, fraCheckBoxesTwips);
     for (std::size_t i = 1; i <= checkBoxCount; ++i) {
@@ -129,7 +141,7 @@ void ControlPanel::MakeLabels() {
     lblDetailMore_ = new FittedLabel(area_);
     lblDetailMore_->setObjectName("lblDetailMore");
     area_->Place(lblDetailMore_, lblDetailMoreTwips);
-    lblStatus_ = new FittedLabel(area_);
+    lblStatus_ = new StatusLine(area_);
     lblStatus_->setObjectName("lblStatus");
     area_->Place(lblStatus_, lblStatusTwips);
 }
@@ -168,7 +180,7 @@ void ControlPanel::Show(const Game& game) {
     ShowButton(cmdSquareDetails_, controls.cmdSquareDetails);
     ShowTerrainKey(controls);
     lblDetailMore_->ShowText(ToLabelText(controls.lblDetailMore.Caption));
-    lblStatus_->ShowText(ToLabelText(controls.lblStatus.Caption));
+    lblStatus_->Tell(ToLabelText(controls.lblStatus.Caption));
     ShowFloatingFrames(controls);
 }
 
@@ -181,9 +193,7 @@ void ControlPanel::ShowCheckBoxes(const Game& game) {
         box->setVisible(chkItem.Visible);
         box->setChecked(chkItem.Value);
         if (!chkItem.Visible) continue;
-        const QString name = ToQt(game.record.People.at(game.record.bytListedPeople[i]).Name);
-        box->setToolTip(name);
-        box->setAccessibleName(name);
+        NameWithTip(box, ToQt(game.record.People.at(game.record.bytListedPeople[i]).Name));
     }
 }
 
@@ -196,7 +206,7 @@ void ControlPanel::ShowTerrainKey(const Controls& controls) {
 
         const Button& button = controls.cmdSeeTerDet[i];
         ShowButton(cmdSeeTerDet_[i], button);
-        cmdSeeTerDet_[i]->setAccessibleName("About " + ToQt(key.Caption));
+        Name(cmdSeeTerDet_[i], "About " + ToQt(key.Caption));
         area_->Place(cmdSeeTerDet_[i], CmdSeeTerDetTwips(button.Top));
     }
 }

@@ -10,6 +10,7 @@
 #include "ui/check_box_style.h"
 #include "ui/fitted_label.h"
 #include "ui/scaled_area.h"
+#include "ui/status_line.h"
 
 namespace qarn {
 
@@ -58,7 +59,7 @@ private:
     std::array<FittedLabel*, terrainKindCount> lblTerrKey_{};
     std::array<QPushButton*, terrainKindCount> cmdSeeTerDet_{};
     FittedLabel* lblDetailMore_ = nullptr;
-    FittedLabel* lblStatus_ = nullptr;
+    StatusLine* lblStatus_ = nullptr;
     FittedLabel* lblTerrainDescription_ = nullptr;
     QFrame* fraQuickDetails_ = nullptr;
     FittedLabel* lblSummary_ = nullptr;

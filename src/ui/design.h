@@ -2,6 +2,7 @@
 
 #include <QRect>
 
+#include "core/board_geometry.h"
 #include "core/game_record.h"
 
 namespace qarn {
@@ -11,12 +12,9 @@ namespace qarn {
 
 inline constexpr QSize designTwips(15240, 10440);
 
-inline constexpr int columnTwips = 720;
-inline constexpr int rowTwips = 960;
-/// A square's size; its lines are those of its neighbours too.
-inline constexpr QSize squareTwips(735, 975);
-inline constexpr QRect boardTwips(120, 120, columnTwips*(columnCount - 1) + squareTwips.width(),
-                                  rowTwips*(rowCount - 1) + squareTwips.height());
+inline constexpr QRect boardTwips(boardLeftTwips, boardTopTwips,
+                                  LeftOfColumn(columnCount) + squareWidthTwips - boardLeftTwips,
+                                  TopOfRow(rowCount) + squareHeightTwips - boardTopTwips);
 
 inline constexpr QRect cmdSquareDetailsTwips(13320, 3360, 1695, 375);
 inline constexpr QRect lblDetailMoreTwips(13200, 3840, 1815, 1335);
@@ -30,15 +28,18 @@ inline constexpr QRect lblSummaryTwips(90, 315, 1395, 855);
 
 /// Check box 1 to 11: two columns of five, and the last below them.
 constexpr QRect ChkItemsTwips(int i) {
-    constexpr int width = 840;
+    constexpr int width = 732;
     constexpr int height = 312;
     if (i == checkBoxCount) return QRect(600, 2400, width, height);
     return QRect(i <= 5 ? 120 : 1080, 120 + 480 * ((i - 1) % 5), width, height);
 }
 
+/// What belongs to one kind of terrain stands as far down as the controls say.
 constexpr QRect LblTerrKeyTwips(int top) { return QRect(13320, top, 1335, 255); }
 constexpr QRect CmdSeeTerDetTwips(int top) { return QRect(14760, top - 30, 375, 315); }
 constexpr QRect LblTerrainDescriptionTwips(int top) { return QRect(10320, top, 2895, 1575); }
+
+/// The quick information stands where the controls say.
 constexpr QRect FraQuickDetailsTwips(int left, int top) { return QRect(left, top, 1575, 1215); }
 
 }  // namespace qarn

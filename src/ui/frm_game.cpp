@@ -46,6 +46,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
             [this](int X, int Y) { Run([=](Game& game) { lblX_Click(game, X, Y); }); });
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
 
+    tmrAI_.setObjectName("tmrAI");
     tmrAI_.setInterval(tmrAIInterval);
     tmrAI_.setSingleShot(true);
     tmrAI_.callOnTimeout(this, [this] { Run(tmrAI_Timer); });
@@ -122,6 +123,14 @@ void FrmGame::Choose(const MenuCommand& command) {
 }
 
 // ---- Events of the window itself ----
+
+// By the time the window becomes active it has its frame.
+void FrmGame::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || fitsScreen_) return;
+    fitsScreen_ = true;
+    FitOnScreen(*this);
+}
 
 void FrmGame::closeEvent(QCloseEvent* event) {
     event->ignore();

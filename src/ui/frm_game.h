@@ -27,9 +27,11 @@ public:
     /// Opens a game file and shows the window. The game has ended when it could not be opened.
     void Open(const std::string& strGamePath);
 
+    /// The game, which has ended, or was left, once it is no longer open.
     const Game& ShownGame() const { return game_; }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -44,13 +46,14 @@ private:
     QtDialogs dialogs_;
     HelpProgram help_;
     Game game_;
-    bool running_ = false;  // a handler runs, perhaps with a box open
+    bool running_ = false;     // a handler runs, perhaps with a box open
+    bool fitsScreen_ = false;  // with the frame that it has been given
 
     ScaledArea* area_;
     BoardWidget* board_;
     ControlPanel panel_;
     GameMenus menus_;
-    QTimer tmrAI_;
+    QTimer tmrAI_{this};
     QPointer<QDialog> about_;
 };
 

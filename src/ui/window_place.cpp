@@ -1,6 +1,9 @@
 #include "ui/window_place.h"
 
 #include <QScreen>
+#include <QStyle>
+#include <QWindow>
+#include <algorithm>
 #include <stdexcept>
 
 namespace qarn {
@@ -10,12 +13,42 @@ const std::string application = "QARN";
 const std::string section = "Window";
 const std::string key = "frmGame";
 
+QMargins FrameOf(const QWidget& window) {
+    const QWindow* shown = window.windowHandle();
+    if (shown != nullptr && !shown->frameMargins().isNull()) return shown->frameMargins();
+    return QMargins(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
+}
+
+QRect PlaceOnScreen(const QWidget& window, const QRect& place) {
+    return PlaceWithin(window.screen()->availableGeometry(), place, FrameOf(window));
+}
+
 }  // namespace
 
 void RestoreWindowPlace(QWidget& window, SettingsStore& settings) {
     const std::string stored = settings.Read(application, section, key, "");
-    if (window.restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)))) return;
-    window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
+    if (window.restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)))) {
+        FitOnScreen(window);
+    } else {
+        // The desktop chooses where.
+        window.resize(PlaceOnScreen(window, QRect(QPoint(), window.sizeHint())).size());
+    }
+}
+
+void FitOnScreen(QWidget& window) {
+    if (window.isMaximized() || window.isFullScreen()) return;
+    const QRect place = PlaceOnScreen(window, window.geometry());
+    if (place != window.geometry()) window.setGeometry(place);
+}
+
+QRect PlaceWithin(const QRect& room, const QRect& place, const QMargins& frame) {
+    const QRect most = room.marginsRemoved(frame);
+    QRect within(place.topLeft(), place.size().boundedTo(most.size()));
+    within.moveRight(std::min(within.right(), most.right()));
+    within.moveBottom(std::min(within.bottom(), most.bottom()));
+    within.moveLeft(std::max(within.left(), most.left()));
+    within.moveTop(std::max(within.top(), most.top()));
+    return within;
 }
 
 void StoreWindowPlace(const QWidget& window, SettingsStore& settings) {

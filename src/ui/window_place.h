@@ -7,8 +7,17 @@
 namespace qarn {
 
 /// Gives the window the size and place that it had when it was last closed; at the first start the
-/// size of its design, or what the screen has room for.
+/// size of its design. What the screen has no room for is taken off, see FitOnScreen.
 void RestoreWindowPlace(QWidget& window, SettingsStore& settings);
+
+/// Makes the window no larger than its screen, with frame and title bar, and moves all of it onto
+/// the screen. The frame is known once the window has come up; until then the style's is taken for
+/// it. A window that fills its screen anyway stays as it is.
+void FitOnScreen(QWidget& window);
+
+/// The place, without its frame, nearest to `place` at which a window with such a frame lies within
+/// `room`. It keeps its size where it can. All in pixels of one coordinate system.
+QRect PlaceWithin(const QRect& room, const QRect& place, const QMargins& frame);
 
 /// Stores the size and place of the window. Settings that cannot be written stay as they were.
 void StoreWindowPlace(const QWidget& window, SettingsStore& settings);

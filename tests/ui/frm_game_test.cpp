@@ -1,85 +1,12 @@
 #include "ui/frm_game.h"
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QAccessible>
-#include <QApplication>
-#include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QTest>
 
-#include "support/fake_ports.h"
-#include "support/played_game.h"
-#include "support/temp_folder.h"
+#include "support/game_window.h"
 
 namespace qarn {
 namespace {
-
-// A window on a game in which Red, side 1, is to move.
-class GameWindow : public testing::Test {
-protected:
-    void Open(const std::string& position) { OpenFile(SavedGame(position)); }
-    void OpenFile(const std::string& contents) {
-        WriteFile(path, contents);
-        window->Open(path);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        board = window->findChild<BoardWidget*>();
-    }
-
-    // A window that has ended has ended the application; the next test needs it again.
-    void TearDown() override {
-        window.reset();
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-        QApplication::exec();
-    }
-
-    QAbstractButton* Button(const char* name) { return window->findChild<QAbstractButton*>(name); }
-    QAction* MenuItem(const char* name) { return window->findChild<QAction*>(name); }
-    std::string Text(const char* label) {
-        return window->findChild<QLabel*>(label)->text().toStdString();
-    }
-    std::string Focus() {
-        const QWidget* widget = QApplication::focusWidget();
-        return widget == board ? "board" : widget->objectName().toStdString();
-    }
-    void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
-    }
-    void ClickSquare(int X, int Y) {
-        QTest::mouseClick(board, Qt::LeftButton, {}, board->PlaceOfSquare({X, Y}).center());
-    }
-
-    // Answers the boxes and dialogs that come up next, each with a key.
-    void AnswerBoxes(std::deque<Qt::Key> keys) {
-        if (keys.empty()) return;
-        QTimer::singleShot(0, qApp, [this, keys]() mutable {
-            QWidget* dialog = QApplication::activeModalWidget();
-            if (dialog == nullptr) return AnswerBoxes(keys);
-            if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
-                boxes.push_back(box->text().toStdString());
-                statuses.push_back(Text("lblStatus"));
-            }
-            const Qt::Key key = keys.front();
-            keys.pop_front();
-            AnswerBoxes(keys);
-            QTest::keyClick(dialog, key);
-        });
-    }
-
-    TempFolder folder;
-    std::string path = folder / "game.tgf";
-    FakeRandomNumbers random;
-    FakeSettings settings;
-    FakeFileTypes fileTypes;
-    DesktopPorts desktop{settings, fileTypes, {folder / "program", folder / "data"}};
-    std::unique_ptr<FrmGame> window = std::make_unique<FrmGame>(random, desktop);
-    BoardWidget* board = nullptr;
-    std::vector<std::string> boxes;     // that were answered
-    std::vector<std::string> statuses;  // under each of them
-};
 
 TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
     Open("Q@9,5 WS@9,5 WA@17,2");
@@ -160,62 +87,6 @@ TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
     EXPECT_TRUE(MenuItem("mnuSummary")->isChecked());
 }
 
-TEST_F(GameWindow, OpensTheDetailsOfOneTerrainAtATime) {
-    Open("Q@9,5 WA@17,2");
-    QTest::mouseClick(Button("cmdSeeTerDet(1)"), Qt::LeftButton);
-    EXPECT_EQ(Text("lblTerrainDescription").substr(0, 21), "Mountain\nMobility: 5\n");
-    EXPECT_FALSE(Button("cmdSeeTerDet(0)")->isEnabled());
-    Key(Qt::Key_X, Qt::AltModifier);
-    EXPECT_FALSE(window->findChild<QLabel*>("lblTerrainDescription")->isVisible());
-    EXPECT_TRUE(Button("cmdSeeTerDet(0)")->isEnabled());
-    EXPECT_FALSE(Button("cmdSeeTerDet(8)")->isVisible());
-}
-
-TEST_F(GameWindow, TellsScreenReadersEverySquare) {
-    Open("Q@9,5 BT@9,5 WA@17,2");
-    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(board);
-    ASSERT_EQ(accessible->childCount(), columnCount * rowCount);
-    QAccessibleInterface* square = accessible->child(4 * columnCount + 8);
-    EXPECT_EQ(square->text(QAccessible::Name), "(9, 5) Mountain: Hero, Boat");
-    EXPECT_EQ(accessible->child(0)->text(QAccessible::Name), "(1, 1) Forest");
-    EXPECT_EQ(accessible->indexOfChild(square), 4 * columnCount + 8);
-    EXPECT_EQ(accessible->childAt(square->rect().center().x(), square->rect().center().y()),
-              square);
-    EXPECT_EQ(accessible->focusChild(), square);
-    Key(Qt::Key_Right);
-    EXPECT_EQ(accessible->focusChild()->text(QAccessible::Name), "(10, 5) Mountain");
-
-    Key(Qt::Key_M, Qt::AltModifier);
-    square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QApplication::processEvents();
-    EXPECT_EQ(Text("lblStatus"), "Choose the item(s) you would like to move.");
-    EXPECT_EQ(Button("chkItems(1)")->accessibleName(), "Hero");
-}
-
-TEST_F(GameWindow, KeepsItsDesignAtEverySize) {
-    Open("Q@9,5 WA@17,2");
-    const int menu = window->menuBar()->height();
-    for (const QSize size : {QSize(1016, 696), QSize(2032, 1392), QSize(1500, 696)}) {
-        window->resize(size + QSize(0, menu));
-        QApplication::processEvents();
-        const double scale = size.height() / 696.0;
-        const int left = qRound((size.width() - 1016 * scale) / 2);
-        EXPECT_EQ(board->geometry(), QRect(left + qRound(8 * scale), qRound(8 * scale),
-                                           qRound(865 * scale), qRound(641 * scale)));
-        EXPECT_EQ(Button("cmdMove")->geometry(),
-                  QRect(left + qRound(888 * scale), qRound(624 * scale), qRound(113 * scale),
-                        qRound(25 * scale)));
-        for (int X = 1; X <= columnCount; ++X) {
-            for (int Y = 1; Y <= rowCount; ++Y) {
-                const QRect place = board->PlaceOfSquare({X, Y});
-                EXPECT_EQ(board->SquareAt(place.center()), QPoint(X, Y));
-                EXPECT_NEAR(place.left(), 48 * (X - 1) * scale, 1);
-                EXPECT_NEAR(place.top(), 64 * (Y - 1) * scale, 1);
-            }
-        }
-    }
-}
-
 TEST_F(GameWindow, SavesWhenItCloses) {
     Open("Q@9,5 WA@17,2");
     std::filesystem::remove(path);
@@ -234,14 +105,6 @@ TEST_F(GameWindow, StaysOpenWhenItCanNotSaveAndThePersonWantsIt) {
     EXPECT_FALSE(window->ShownGame().blnEnded);
     ClickSquare(9, 5);
     EXPECT_EQ(Text("lblStatus"), "It is Red's turn.");
-}
-
-TEST_F(GameWindow, RemembersItsPlace) {
-    Open("Q@9,5 WA@17,2");
-    window->setGeometry(40, 50, 900, 650);
-    window->close();
-    FrmGame next(random, desktop);
-    EXPECT_EQ(next.geometry(), QRect(40, 50, 900, 650));
 }
 
 TEST_F(GameWindow, IsLeftForTheStartWindowWhenConfirmed) {
@@ -268,16 +131,130 @@ TEST_F(GameWindow, ShowsOneAboutWindow) {
     EXPECT_TRUE(MenuItem("mnuAbout")->isEnabled());
 }
 
+TEST_F(GameWindow, OpensTheDetailsOfOneTerrainAtATime) {
+    Open("Q@9,5 WA@17,2");
+    QTest::mouseClick(Button("cmdSeeTerDet(1)"), Qt::LeftButton);
+    EXPECT_EQ(Text("lblTerrainDescription").substr(0, 21), "Mountain\nMobility: 5\n");
+    EXPECT_FALSE(Button("cmdSeeTerDet(0)")->isEnabled());
+    Key(Qt::Key_X, Qt::AltModifier);
+    EXPECT_FALSE(Find("lblTerrainDescription")->isVisible());
+    EXPECT_TRUE(Button("cmdSeeTerDet(0)")->isEnabled());
+    EXPECT_FALSE(Button("cmdSeeTerDet(8)")->isVisible());
+}
+
+TEST_F(GameWindow, LetsTheMouseThroughItsNotesOverTheBoard) {
+    Open("Q@9,5 WS@16,3 WA@17,2");
+    QTest::mouseClick(Button("cmdSeeTerDet(3)"), Qt::LeftButton);
+    Key(Qt::Key_D, Qt::ControlModifier);
+    struct Row {
+        const char* note;
+        int X, Y;
+    };
+    for (const Row& row : {Row{"lblTerrainDescription", 16, 3}, Row{"fraQuickDetails", 17, 4},
+                           Row{"fraQuickDetails", 16, 5}}) {
+        const QRect note(Find(row.note)->mapTo(window.get(), QPoint()), Find(row.note)->size());
+        const QPoint place = PlaceOfSquare(row.X, row.Y).center();
+        ASSERT_TRUE(note.contains(place)) << row.X << "," << row.Y;
+        EXPECT_EQ(window->childAt(place), board) << "for its tool tip and its frame";
+        ClickSquare(row.X, row.Y);
+        EXPECT_EQ(Text("lblSummary").substr(0, 18),
+                  "Location: (" + std::to_string(row.X) + ", " + std::to_string(row.Y) + ")\n");
+    }
+}
+
+TEST_F(GameWindow, IsWalkedThroughWithTheTabKey) {
+    Open("Q@9,5 WS@9,5 WA@17,2");
+    const auto walk = [&] {
+        std::string names;
+        do {
+            names += Focus() + " ";
+            Key(Qt::Key_Tab);
+        } while (Focus() != "board" && names.size() < 999);
+        return names;
+    };
+    const std::string key =
+        "cmdSquareDetails cmdSeeTerDet(0) cmdSeeTerDet(1) cmdSeeTerDet(2) cmdSeeTerDet(3) "
+        "cmdSeeTerDet(4) cmdSeeTerDet(5) cmdSeeTerDet(6) cmdSeeTerDet(7) ";
+    EXPECT_EQ(walk(), "board cmdAttack cmdMove " + key);
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(9, 5);
+    board->setFocus();
+    EXPECT_EQ(walk(), "board chkItems(1) chkItems(2) cmdDoneSel " + key);
+}
+
+TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
+    Open("Q@9,5 WA@17,2");
+    struct Row {
+        Qt::Key key;
+        const char* status;
+    };
+    for (const Row& row :
+         {Row{Qt::Key_A, "You are currently in attack mode\nSelect the attacker(s)'s square."},
+          Row{Qt::Key_R, "It is Red's turn."},
+          Row{Qt::Key_I, "Click on the Square Information button to resume playing."},
+          Row{Qt::Key_I, "It is Red's turn."},
+          Row{Qt::Key_M,
+              "You are currently in move mode.\nSelect the square you will be starting "
+              "your move from."}}) {
+        Key(row.key, Qt::AltModifier);
+        EXPECT_EQ(Text("lblStatus"), row.status);
+        Key(Qt::Key_Escape);
+        EXPECT_EQ(Text("lblStatus"), row.status);
+        EXPECT_TRUE(window->isVisible());
+    }
+}
+
+TEST_F(GameWindow, ShowsCheckMarksInItsMenus) {
+    Open("Q@9,5 WA@17,2");
+    const std::vector<const char*> items{"mnuPeopleDetails", "mnuSummary", "mnuTGF"};
+    const auto marks = [&] {
+        std::string text;
+        for (const char* item : items) text += MenuItem(item)->isChecked() ? 'x' : '-';
+        return text;
+    };
+    EXPECT_EQ(marks(), "-x-");
+    std::string after;
+    AnswerBoxes({Qt::Key_Return});
+    for (const char* item : items) {
+        MenuItem(item)->trigger();
+        after += marks() + " ";
+    }
+    EXPECT_EQ(after, "xx- x-- x-x ");
+    for (const QAction* action : window->findChildren<QAction*>()) {
+        const bool checkable =
+            std::find(items.begin(), items.end(), action->objectName()) != items.end();
+        EXPECT_EQ(action->isCheckable(), checkable) << action->text().toStdString();
+    }
+}
+
 TEST_F(GameWindow, LetsTheComputerPlayButNotUnderABox) {
-    OpenFile("HM\r\nRed" + std::string(51, ' ') + "True\r\nBlue" + std::string(50, ' ') +
-             "False\r\n1\r\n");
-    QTimer::singleShot(1500, qApp, [this] {
+    OpenFile(Replaced(SavedGame(""), "Red" + std::string(51, ' ') + "False",
+                      "Red" + std::string(51, ' ') + "True"));
+    auto* timer = Find<QTimer>("tmrAI");
+    EXPECT_EQ(timer->interval(), 1000);
+    EXPECT_TRUE(timer->isActive());
+    const auto tick = [&] { QMetaObject::invokeMethod(timer, "timeout"); };
+    QTimer::singleShot(0, qApp, [&] {
+        tick();
         boxes.push_back(Text("lblStatus"));
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     });
     Key(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(boxes, std::vector<std::string>{"It is Red's turn."});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->ShownGame().record.Action.blnAIBusy; }, 3000));
+
+    // Each of its clicks is marked on the screen, until its action is over.
+    constexpr QRgb highlight = 0xFF00C8;
+    const Marker& marker = window->ShownGame().controls.shpHighlight;
+    std::string marked;
+    for (; timer->isActive(); tick()) {
+        if (!marker.Visible) continue;
+        marked = std::to_string((marker.Left - 115) / 720 + 1) + "," +
+                 std::to_string((marker.Top - 115) / 960 + 1) + " ";
+        EXPECT_EQ(SquaresWith(highlight), marked);
+    }
+    EXPECT_NE(marked, "");
+    EXPECT_EQ(window->ShownGame().record.bytTurn, 2);
+    EXPECT_EQ(SquaresWith(highlight), "");
 }
 
 }  // namespace

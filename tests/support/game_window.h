@@ -1,0 +1,116 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTest>
+#include <QWindow>
+
+#include "support/fake_ports.h"
+#include "support/played_game.h"
+#include "support/temp_folder.h"
+#include "ui/frm_game.h"
+
+namespace qarn {
+
+/// A window on a game in which Red, side 1, is to move.
+class GameWindow : public testing::Test {
+protected:
+    void Open(const std::string& position) { OpenFile(SavedGame(position)); }
+    void OpenFile(const std::string& contents) {
+        WriteFile(path, contents);
+        window->Open(path);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        board = window->findChild<BoardWidget*>();
+    }
+
+    // A window that has ended has ended the application; the next test needs it again.
+    void TearDown() override {
+        window.reset();
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+    }
+
+    template <typename Widget = QWidget>
+    Widget* Find(const std::string& name) {
+        return window->findChild<Widget*>(QString::fromStdString(name));
+    }
+    QAbstractButton* Button(const std::string& name) { return Find<QAbstractButton>(name); }
+    QAction* MenuItem(const char* name) { return Find<QAction>(name); }
+    std::string Text(const char* label) { return Find<QLabel>(label)->text().toStdString(); }
+    std::string Focus() {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget == board ? "board" : widget->objectName().toStdString();
+    }
+    void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    }
+
+    // A square on the window, its lines included.
+    QRect PlaceOfSquare(int X, int Y) {
+        const QRect place = board->PlaceOfSquare({X, Y});
+        return QRect(board->mapTo(window.get(), place.topLeft()), place.size());
+    }
+    // As a mouse does it: whatever lies on top there gets the click.
+    void ClickSquare(int X, int Y) {
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, PlaceOfSquare(X, Y).center());
+    }
+
+    // What is on the screen.
+    QImage Picture() {
+        QApplication::processEvents();
+        return window->screen()->grabWindow(window->winId()).toImage();
+    }
+    // The squares on which much of what is on the screen has this colour, row by row.
+    std::string SquaresWith(QRgb color) {
+        const QImage picture = Picture();
+        std::string squares;
+        for (int square = 0; square < columnCount * rowCount; ++square) {
+            const int X = square % columnCount + 1, Y = square / columnCount + 1;
+            const QRect place = PlaceOfSquare(X, Y);
+            int count = 0;
+            for (int x = place.left(); x <= place.right(); ++x) {
+                for (int y = place.top(); y <= place.bottom(); ++y) {
+                    if ((picture.pixel(x, y) & RGB_MASK) == color) ++count;
+                }
+            }
+            if (count > 40) squares += std::to_string(X) + "," + std::to_string(Y) + " ";
+        }
+        return squares;
+    }
+
+    // Answers the boxes and dialogs that come up next, each with a key.
+    void AnswerBoxes(std::deque<Qt::Key> keys) {
+        if (keys.empty()) return;
+        QTimer::singleShot(0, qApp, [this, keys]() mutable {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr) return AnswerBoxes(keys);
+            if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+                boxes.push_back(box->text().toStdString());
+                statuses.push_back(Text("lblStatus"));
+            }
+            const Qt::Key key = keys.front();
+            keys.pop_front();
+            AnswerBoxes(keys);
+            QTest::keyClick(dialog, key);
+        });
+    }
+
+    TempFolder folder;
+    std::string path = folder / "game.tgf";
+    FakeRandomNumbers random;
+    FakeSettings settings;
+    FakeFileTypes fileTypes;
+    DesktopPorts desktop{settings, fileTypes, {folder / "program", folder / "data"}};
+    std::unique_ptr<FrmGame> window = std::make_unique<FrmGame>(random, desktop);
+    BoardWidget* board = nullptr;
+    std::vector<std::string> boxes;     // that were answered
+    std::vector<std::string> statuses;  // under each of them
+};
+
+}  // namespace qarn

@@ -1,0 +1,104 @@
+#include "ui/square_marks.h"
+
+#include "support/game_window.h"
+
+namespace qarn {
+namespace {
+
+std::string MarksOf(const Game& game) {
+    const char* names[] = {"start", "acting", "target"};
+    std::string text;
+    for (const MarkedSquare& mark : MarkedSquares(game)) {
+        text += std::string(text.empty() ? "" : "; ") + names[static_cast<int>(mark.Role)] + " " +
+                std::to_string(mark.X) + "," + std::to_string(mark.Y);
+    }
+    return text;
+}
+
+struct Row {
+    const char* commands;
+    const char* marks;
+};
+
+// Plays the commands and compares the marks after each row of them.
+void ExpectMarks(const std::string& position, const std::vector<Row>& rows) {
+    PlayedGame played(position);
+    std::string underBoxes;
+    played.dialogs.whileShown = [&] { underBoxes = MarksOf(played.game); };
+    for (const Row& row : rows) {
+        underBoxes = "nothing was asked";
+        std::istringstream commands(row.commands);
+        for (std::string command; std::getline(commands >> std::ws, command, ';');) {
+            ASSERT_TRUE(command == "box" || played.Do(command)) << command;
+        }
+        const bool box = std::string_view(row.commands).ends_with("box");
+        EXPECT_EQ(box ? underBoxes : MarksOf(played.game), row.marks) << row.commands;
+    }
+}
+
+TEST(SquareMarks, TellWhereTheMoveBeganAndWhereTheGroupStands) {
+    ExpectMarks("Q@9,5 WS@9,5 WA@17,2",
+                {{"press cmdMove", ""},
+                 {"click 3 3", ""},
+                 {"click 9 5", "acting 9,5"},
+                 {"press cmdDoneSel", "acting 9,5"},
+                 {"click 9 9", "acting 9,5"},
+                 {"click 9 6", "acting 9,6; start 9,5"},
+                 {"press cmdSquareDetails; click 1 1", "acting 9,6; start 9,5"},
+                 {"press cmdSquareDetails; press cmdMove", ""}});
+}
+
+TEST(SquareMarks, TellTheAttackersAndTheirTarget) {
+    const char* position = "Q@9,5 WS@1,1 WA@9,6 Z@17,2";
+    ExpectMarks(position, {{"press cmdAttack", ""},
+                           {"click 9 5", "acting 9,5"},
+                           {"click 12 5", "acting 9,5"},
+                           {"roll 5; answer yes; click 9 6; box", "acting 9,5; target 9,6"},
+                           {"tick 1", "acting 9,5; target 9,6"},
+                           {"press cmdDoneSel", ""},
+                           {"press cmdAttack", ""}});
+    // Into a fight: the group stands where it was, or on the square that it has won.
+    const char* fight = "press cmdMove; click 9 5; press cmdDoneSel; answer yes yes; ";
+    ExpectMarks(position, {{fight, "acting 9,5"},
+                           {"roll 5; click 9 6; box", "acting 9,5; target 9,6"},
+                           {"", "acting 9,5; target 9,6"},
+                           {"tick 1; press cmdDoneSel", ""}});
+    ExpectMarks("9,6=0 Q@9,5 WS@9,5 ZA1@9,6 Z@17,2",
+                {{fight, "acting 9,5"}, {"roll 1 3; click 9 6", "acting 9,6; start 9,5"}});
+}
+
+// Whatever has the focus. The cursor of the keyboard is another mark.
+TEST_F(GameWindow, MarksTheSquaresOfAMoveAndAnAttack) {
+    constexpr QRgb gold = 0xFFA000, red = 0xE00000;
+    Open("9,5=0 8,5=0 8,6=0 9,6=0 Q@9,5 WS@9,5 WA@9,6 Z@17,2");
+    window->resize(1016, 718);
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(9, 5);
+    EXPECT_EQ(Focus(), "chkItems(1)");
+    EXPECT_EQ(SquaresWith(gold), "9,5 ");
+    Key(Qt::Key_S, Qt::AltModifier);
+    ClickSquare(8, 5);
+    ClickSquare(8, 6);
+    EXPECT_EQ(SquaresWith(gold), "9,5 8,6 ");
+    const QImage picture = Picture();
+    const auto inCorner = [&](int X, int Y) {
+        return picture.pixel(PlaceOfSquare(X, Y).topLeft() + QPoint(5, 5)) & RGB_MASK;
+    };
+    EXPECT_EQ(inCorner(8, 6), gold);
+    EXPECT_NE(inCorner(9, 5), gold) << "the start is marked by another shape";
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(SquaresWith(gold), "");
+
+    Key(Qt::Key_A, Qt::AltModifier);
+    ClickSquare(9, 6);
+    random.QueueRoll(5);
+    AnswerBoxes({Qt::Key_Return, Qt::Key_Return});
+    ClickSquare(8, 6);
+    EXPECT_EQ(Text("lblStatus"), "Select the character which died in the attack.");
+    EXPECT_EQ(SquaresWith(gold), "9,6 ");
+    EXPECT_EQ(SquaresWith(red), "8,6 ");
+    EXPECT_EQ(board->Cursor(), QPoint(8, 6));
+}
+
+}  // namespace
+}  // namespace qarn
