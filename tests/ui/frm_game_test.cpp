@@ -31,12 +31,14 @@ TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
 
 TEST_F(GameWindow, IsPlayedWithTheMouse) {
     Open("Q@9,5 WS@9,5 WA@17,2");
+    EXPECT_EQ(window->windowTitle(), "Hollowmere Tactical Game - game.tgf (Red vs. Blue)");
     QTest::mouseClick(Button("cmdMove"), Qt::LeftButton);
     ClickSquare(9, 5);
     EXPECT_TRUE(Button("chkItems(2)")->isVisible());
     EXPECT_FALSE(Button("chkItems(3)")->isVisible());
     QTest::mouseClick(Button("chkItems(1)"), Qt::LeftButton, {}, {8, 8});
     QTest::mouseClick(Button("cmdDoneSel"), Qt::LeftButton);
+    EXPECT_TRUE(Button("chkItems(2)")->isVisible() && !Button("chkItems(2)")->isEnabled());
     ClickSquare(9, 6);
     EXPECT_EQ(Text("lblStatus"), "You have 2 mobility units left.");
     EXPECT_EQ(Focus(), "cmdMove") << "a click on the board leaves the focus where it is";
@@ -140,6 +142,7 @@ TEST_F(GameWindow, OpensTheDetailsOfOneTerrainAtATime) {
     EXPECT_FALSE(Find("lblTerrainDescription")->isVisible());
     EXPECT_TRUE(Button("cmdSeeTerDet(0)")->isEnabled());
     EXPECT_FALSE(Button("cmdSeeTerDet(8)")->isVisible());
+    EXPECT_FALSE(Find("lblTerrKey(8)")->isVisible());
 }
 
 TEST_F(GameWindow, LetsTheMouseThroughItsNotesOverTheBoard) {
@@ -198,9 +201,11 @@ TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
               "your move from."}}) {
         Key(row.key, Qt::AltModifier);
         EXPECT_EQ(Text("lblStatus"), row.status);
-        Key(Qt::Key_Escape);
-        EXPECT_EQ(Text("lblStatus"), row.status);
-        EXPECT_TRUE(window->isVisible());
+        for (QWidget* focused : {static_cast<QWidget*>(board), Find("cmdSquareDetails")}) {
+            QTest::keyClick(focused, Qt::Key_Escape);
+            EXPECT_EQ(Text("lblStatus"), row.status);
+            EXPECT_TRUE(window->isVisible());
+        }
     }
 }
 

@@ -174,7 +174,8 @@ TEST_F(Places, ShowTheirTerrainInItsColours) {
         const QImage square = picture.copy(PlaceOfSquare(code + 1, 1));
         EXPECT_EQ(square.pixel(3, 3) & RGB_MASK, color.back) << code;
         EXPECT_TRUE(has(square, color.text)) << code;
-        const QImage key = Find("lblTerrKey(" + std::to_string(code) + ")")->grab().toImage();
+        const QWidget* label = Find("lblTerrKey(" + std::to_string(code) + ")");
+        const QImage key = picture.copy(QRect(label->mapTo(window.get(), QPoint()), label->size()));
         EXPECT_EQ(key.pixel(1, 1) & RGB_MASK, color.back) << code;
         EXPECT_TRUE(has(key, color.text)) << code;
     }

@@ -37,6 +37,7 @@ TEST_F(GameWindow, TellsScreenReadersEverySquare) {
     QApplication::processEvents();
     EXPECT_EQ(Text("lblStatus"), "Choose the item(s) you would like to move.");
     EXPECT_EQ(Button("chkItems(1)")->accessibleName(), "Hero");
+    EXPECT_EQ(Button("chkItems(1)")->toolTip(), "Hero");
 }
 
 TEST_F(GameWindow, TellsScreenReadersWhatChangesAndNothingElse) {

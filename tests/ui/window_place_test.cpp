@@ -29,6 +29,8 @@ TEST_F(GameWindow, OpensWithItsFrameOnTheScreenWhateverWasStored) {
         EXPECT_EQ(Find("lblStatus")->visibleRegion().boundingRect().size(),
                   Find("lblStatus")->size());
     };
+    EXPECT_LE(window->width(), room.width());
+    EXPECT_LT(window->height(), room.height());
     Open("Q@9,5 WA@17,2");
     expectOnScreen();
     for (const QRect& place : {QRect(1000, 50, 770, 780), QRect(0, 0, 5000, 5000)}) {

@@ -1,0 +1,49 @@
+#include "ui/board_widget.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
+
+#include "support/game_window.h"
+
+namespace qarn {
+namespace {
+
+// The navy frame of the square under the pointer, and the black and white one of the keyboard.
+TEST_F(GameWindow, ShowsThePointerAndTheCursorOnTheBoard) {
+    Open("9,5=0 10,5=0 11,5=0 Q@17,5 WA@17,2");
+    const auto edge = [&](int X) {
+        return Picture().pixel(PlaceOfSquare(X, 5).topLeft() + QPoint(1, 20)) & RGB_MASK;
+    };
+    EXPECT_EQ(edge(9), 0x000000u);
+    EXPECT_EQ(edge(10), 0xFFFFFFu);
+    Key(Qt::Key_Right);
+    EXPECT_EQ(edge(9), 0xFFFFFFu);
+    EXPECT_EQ(edge(10), 0x000000u);
+    Button("cmdMove")->setFocus();
+    EXPECT_EQ(edge(10), 0xFFFFFFu);
+    QTest::mouseMove(window->windowHandle(), PlaceOfSquare(11, 5).center());
+    EXPECT_EQ(edge(11), 0x000080u);
+    QTest::mouseMove(window->windowHandle(), PlaceOfSquare(9, 5).center());
+    EXPECT_EQ(edge(11), 0xFFFFFFu);
+
+    QHelpEvent rests(QEvent::ToolTip, board->PlaceOfSquare({17, 5}).center(), QPoint());
+    QApplication::sendEvent(board, &rests);
+    EXPECT_EQ(QToolTip::text(), "(17, 5) Stream\nHero: mobility 3, attack 5, defense 5");
+    QToolTip::hideText();
+}
+
+TEST_F(GameWindow, TakesOnlyWholeClicksWithTheLeftButton) {
+    Open("Q@9,5 WA@17,2");
+    Key(Qt::Key_M, Qt::AltModifier);
+    const std::string before = Text("lblStatus");
+    const QPoint here = PlaceOfSquare(9, 5).center(), there = PlaceOfSquare(9, 6).center();
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, here);
+    QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, here);
+    QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, there);
+    QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, there);
+    QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, here);
+    EXPECT_EQ(Text("lblStatus"), before);
+}
+
+}  // namespace
+}  // namespace qarn
