@@ -37,7 +37,7 @@ void TimeChoicesOfGame(int scenario, std::uint64_t seed, std::vector<double>& ti
     Game& game = played.CurrentGame();
     while (game.controls.tmrAI.Enabled && !game.blnEnded) {
         if (!game.record.Action.blnAIBusy) times.push_back(TimeOfChoice(game));
-        tmrAI_Timer(game);
+        Tick(game);
     }
 }
 

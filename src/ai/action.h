@@ -1,19 +1,21 @@
 #pragma once
 
-#include <cstdint>
-
 #include "core/game.h"
+#include "core/plan.h"
 
 namespace qarn {
 
-/// Begins the replay of an action: the stack on square (bytX, bytY) goes along the direction codes
-/// bytSteps, indexes 1 to bytLength (at least 1). Presses the move button and enables the timer for
-/// the first stage.
-void StartAction(Game& game, std::uint8_t bytX, std::uint8_t bytY, const PathSteps& bytSteps,
-                 std::uint8_t bytLength);
+/// Begins the replay of a plan through the window's own buttons, boxes and squares. Presses the
+/// move button or, for an attack, the attack button, and enables the timer for the first stage. To
+/// pass is to confirm a stack and end its move where it stands. Throws std::length_error for a
+/// path of more than longestMarch squares.
+void StartAction(Game& game, const Plan& plan);
 
 /// Replays the next stage of the action, and enables the timer while there is one after it.
 void StepAction(Game& game);
+
+/// Forgets the action that is being replayed.
+void DropAction(Game& game);
 
 /// Puts the highlight on the square in column X (1 to 18), row Y (1 to 10) and clicks it as a
 /// person does.

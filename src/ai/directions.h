@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <stdexcept>
+
+#include "core/square.h"
 
 namespace qarn {
 
@@ -26,6 +29,16 @@ constexpr void MoveOneSquare(std::uint8_t direction, Coordinate& X, Coordinate& 
         default:
             break;
     }
+}
+
+/// The direction from a square to its neighbour. Throws std::invalid_argument for any other square.
+constexpr Direction DirectionBetween(Square from, Square to) {
+    for (const Direction direction : {Up, Right, Down, Left}) {
+        Square next = from;
+        MoveOneSquare(direction, next.X, next.Y);
+        if (next == to) return direction;
+    }
+    throw std::invalid_argument("The squares of a path are no neighbours.");
 }
 
 }  // namespace qarn

@@ -51,7 +51,7 @@ Outcome SelfPlayedGame::PlayToEnd() {
     while (game_.controls.tmrAI.Enabled) {
         const bool choosing = !record.Action.blnAIBusy;
         if (choosing && turns_ == mostTurns) return Outcome::Endless;
-        tmrAI_Timer(game_);
+        Tick(game_);
         if (game_.blnEnded) return record.bytPeopleLeft[1] > 0 ? Outcome::Won1 : Outcome::Won2;
         if (choosing && record.Action.blnAIBusy) ++turns_;
     }

@@ -5,11 +5,32 @@
 #include "window/run_event.h"
 
 namespace qarn {
+namespace {
+
+bool IsOwnMoveUnderWay(const ActionRecord& action) { return action.blnAIBusy && action.blnOwnMove; }
+
+// A direct attack that burns passes the turn before its move has ended.
+bool IsPersonsMoveWaiting(const GameRecord& record) {
+    return record.blnMoveUnderWay && record.blnMoveFinished && !record.blnCasualtyPending &&
+           !IsOwnMoveUnderWay(record.Action);
+}
+
+}  // namespace
 
 void tmrAI_Timer(Game& game) {
-    if (!IsComputersTurn(game.record)) return;
+    const GameRecord& record = game.record;
+    if (!IsComputersTurn(record) || IsPersonsMoveWaiting(record)) return;
     game.controls.tmrAI.Enabled = false;
-    RunEvent(game, game.record.Action.blnAIBusy ? StepAction : ChooseMove);
+    if (IsOwnMoveUnderWay(record.Action)) {
+        StepAction(game);
+    } else {
+        DropAction(game);
+        ChooseMove(game);
+    }
+}
+
+void Tick(Game& game) {
+    if (!RunEvent(game, "tmrAI_Timer", tmrAI_Timer)) game.controls.tmrAI.Enabled = false;
 }
 
 }  // namespace qarn

@@ -94,6 +94,7 @@ int RunForProgram(std::istream& in, std::ostream& out, const DesktopPorts& deskt
     if (!file.empty()) {
         Execute(session, {"open", file});
         session.Dialogs().TakeShown();
+        session.TakeHappenings();
     }
     std::string line;
     while (std::getline(in, line) && !IsQuit(line)) {
@@ -102,6 +103,7 @@ int RunForProgram(std::istream& in, std::ostream& out, const DesktopPorts& deskt
         outcome.error = ExecuteLine(session, line);
         outcome.boxes = session.Dialogs().TakeShown();
         outcome.help = session.Help().TakeTopics();
+        outcome.happenings = session.TakeHappenings();
         out << OneLine(StateJson(outcome, session.CurrentGame())) << std::endl;
     }
     return session.CurrentGame().exitStatus;

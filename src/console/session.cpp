@@ -10,13 +10,13 @@
 
 #include "ai/turn_driver.h"
 #include "console/words.h"
+#include "core/failure_text.h"
 #include "core/file_store.h"
 #include "core/game_file.h"
-#include "rules/attack_mode.h"
-#include "rules/movement.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 #include "window/board_clicks.h"
+#include "window/buttons.h"
 #include "window/load_game.h"
 #include "window/menu_commands.h"
 #include "window/run_event.h"
@@ -29,7 +29,10 @@ constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
 std::string AbsolutePath(const std::string& path) {
     if (path.empty()) throw Refusal("The path is empty.");
-    return std::filesystem::absolute(path).string();
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    if (error) throw Refusal("The working folder can not be found: " + error.message() + ".");
+    return absolute.string();
 }
 
 double ParseUniform(const std::string& word) {
@@ -70,19 +73,6 @@ void RequireOpened(const Game& game, const std::string& path) {
     if (game.blnEnded || (game.blnOpen && game.record.strGamePath == path)) return;
     throw Refusal("The game could not be opened.");
 }
-
-struct PressedButton {
-    std::string_view name;
-    Button Controls::*button;
-    void (*click)(Game&);
-};
-
-constexpr std::array<PressedButton, 4> pressedButtons{{
-    {"cmdMove", &Controls::cmdMove, cmdMove_Click},
-    {"cmdAttack", &Controls::cmdAttack, cmdAttack_Click},
-    {"cmdDoneSel", &Controls::cmdDoneSel, cmdDoneSel_Click},
-    {"cmdSquareDetails", &Controls::cmdSquareDetails, cmdSquareDetails_Click},
-}};
 
 void RequireUsable(bool enabled, bool visible, std::string_view name) {
     if (!visible) throw Refusal(std::string(name) + " is hidden.");
@@ -136,6 +126,16 @@ const Session::Command* Session::FindCommand(std::string_view name) {
 }
 
 void Session::Execute(const Words& words) {
+    try {
+        ExecuteOrThrow(words);
+    } catch (const Refusal&) {
+        throw;
+    } catch (...) {
+        throw Refusal(FailureText(std::current_exception(), words.front()));
+    }
+}
+
+void Session::ExecuteOrThrow(const Words& words) {
     const Command* command = FindCommand(words.front());
     if (command == nullptr) throw Refusal("There is no command \"" + words.front() + "\".");
     const std::size_t count = words.size() - 1;
@@ -157,7 +157,7 @@ void Session::New(const Words& words) {
     const std::string path = AbsolutePath(words[1]);
     const std::string text =
         TextOfNewGame(words[2], {ParsePlayer(words[3], words[4]), ParsePlayer(words[5], words[6])});
-    RunEvent(game_, [&](Game& game) {
+    Run("Form_Load", [&](Game& game) {
         if (!LeaveGame(game)) return;
         try {
             ReplaceFile(path, text);
@@ -173,7 +173,7 @@ void Session::New(const Words& words) {
 void Session::Open(const Words& words) {
     RequireRunning();
     const std::string path = AbsolutePath(words[1]);
-    RunEvent(game_, [&](Game& game) {
+    Run("Form_Load", [&](Game& game) {
         if (LeaveGame(game)) Form_Load(game, path);
     });
     RequireOpened(game_, path);
@@ -182,21 +182,19 @@ void Session::Open(const Words& words) {
 void Session::Click(const Words& words) {
     const int X = ParseNumber<int>(words[1], 1, columnCount);
     const int Y = ParseNumber<int>(words[2], 1, rowCount);
-    RunEvent(game_, [&](Game& game) { lblX_Click(game, X, Y); });
+    Run("lblX_Click", [&](Game& game) { lblX_Click(game, X, Y); });
 }
 
 void Session::Press(const Words& words) {
     const std::string& name = words[1];
-    const auto* found =
-        std::find_if(pressedButtons.begin(), pressedButtons.end(),
-                     [&](const PressedButton& pressed) { return pressed.name == name; });
-    if (found == pressedButtons.end()) {
+    const WindowButton* found = FindButton(name);
+    if (found == nullptr) {
         PressTerrainDetails(name);
         return;
     }
-    const Button& button = game_.controls.*found->button;
+    const Button& button = game_.controls.*found->State;
     RequireUsable(button.Enabled, button.Visible, name);
-    RunEvent(game_, found->click);
+    Run(std::string(found->Name) + "_Click", found->Click);
 }
 
 void Session::PressTerrainDetails(std::string_view name) {
@@ -204,7 +202,7 @@ void Session::PressTerrainDetails(std::string_view name) {
     if (!code) throw Refusal("There is no button \"" + std::string(name) + "\".");
     const Button& button = game_.controls.cmdSeeTerDet[static_cast<std::size_t>(*code)];
     RequireUsable(button.Enabled, button.Visible, name);
-    RunEvent(game_, [&](Game& game) { cmdSeeTerDet_Click(game, *code); });
+    Run("cmdSeeTerDet_Click", [&](Game& game) { cmdSeeTerDet_Click(game, *code); });
 }
 
 void Session::Tick(const Words& words) { SetTick(words[1], true); }
@@ -212,20 +210,23 @@ void Session::Tick(const Words& words) { SetTick(words[1], true); }
 void Session::Untick(const Words& words) { SetTick(words[1], false); }
 
 void Session::SetTick(const std::string& word, bool ticked) {
-    CheckBox& box = game_.controls.chkItems[ParseNumber<std::size_t>(word, 1, checkBoxCount)];
+    const auto i = ParseNumber<std::size_t>(word, 1, checkBoxCount);
+    const CheckBox& box = game_.controls.chkItems[i];
     RequireUsable(box.Enabled, box.Visible, "chkItems(" + word + ")");
-    box.Value = ticked;
+    Run("chkItems_Click", [=](Game& game) { game.controls.chkItems[i].Value = ticked; });
 }
 
 void Session::ChooseMenu(const Words& words) {
-    RunEvent(game_, RequireChoosable(game_.controls, words[1]).Click);
+    const MenuCommand& command = RequireChoosable(game_.controls, words[1]);
+    Run(std::string(command.Name) + "_Click", command.Click);
 }
 
 void Session::PassTime(const Words& words) {
     const long times =
         words.size() > 1 ? ParseNumber<long>(words[1], 1, std::numeric_limits<long>::max()) : 1;
     for (long time = 0; time < times && game_.blnOpen && game_.controls.tmrAI.Enabled; ++time) {
-        tmrAI_Timer(game_);
+        qarn::Tick(game_);
+        NoteHappenings();
     }
 }
 
@@ -256,12 +257,23 @@ void Session::SaveAs(const Words& words) {
     const std::string path = AbsolutePath(words[1]);
     const MenuCommand& mnuSaveAs = RequireChoosable(game_.controls, "mnuSaveAs");
     dialogs_.SetSaveFileName(path);
-    RunEvent(game_, mnuSaveAs.Click);
+    Run("mnuSaveAs_Click", mnuSaveAs.Click);
 }
 
 // The front end shows the state after every command.
 void Session::ShowState(const Words&) {}
 
-void Session::Close(const Words&) { RunEvent(game_, Form_Unload); }
+void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
+
+// ---- Events ----
+
+void Session::Run(std::string_view name, const std::function<void(Game&)>& handler) {
+    RunEvent(game_, name, handler);
+    NoteHappenings();
+}
+
+void Session::NoteHappenings() {
+    happenings_.insert(happenings_.end(), game_.happenings.begin(), game_.happenings.end());
+}
 
 }  // namespace qarn

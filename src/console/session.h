@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "console/console_ports.h"
@@ -15,13 +17,16 @@ class Session {
 public:
     explicit Session(const DesktopPorts& desktop);
 
-    /// Carries out one command, taken apart into words (at least one). Throws Refusal, and changes
-    /// nothing, for what a person could not do.
+    /// Carries out one command, taken apart into words (at least one). Throws Refusal, and nothing
+    /// else, for what a person could not do and for a fault of the program; nothing has changed
+    /// then.
     void Execute(const std::vector<std::string>& words);
 
     const Game& CurrentGame() const { return game_; }
     ConsoleDialogs& Dialogs() { return dialogs_; }
     ConsoleHelp& Help() { return help_; }
+    /// What has happened in the game since the last call, in order.
+    Happenings TakeHappenings() { return std::exchange(happenings_, {}); }
 
 private:
     using Words = std::vector<std::string>;
@@ -49,6 +54,9 @@ private:
     void ShowState(const Words& words);
     void Close(const Words& words);
 
+    void ExecuteOrThrow(const Words& words);
+    void Run(std::string_view name, const std::function<void(Game&)>& handler);
+    void NoteHappenings();
     void PressTerrainDetails(std::string_view name);
     void SetTick(const std::string& word, bool ticked);
     void RequireRunning() const;
@@ -57,6 +65,7 @@ private:
     ConsoleRandomNumbers random_;
     ConsoleHelp help_;
     Game game_;
+    Happenings happenings_;
 };
 
 }  // namespace qarn

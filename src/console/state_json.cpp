@@ -1,5 +1,8 @@
 #include "console/state_json.h"
 
+#include "console/happenings_json.h"
+#include "core/board_display.h"
+
 namespace qarn {
 namespace {
 
@@ -85,11 +88,12 @@ Json RecordJson(const GameRecord& record) {
             {"People", PeopleJson(record)}};
 }
 
-Json SquaresJson(const Controls& controls) {
+Json SquaresJson(const Game& game) {
     Json squares = Json::object();
     for (std::size_t X = 1; X <= columnCount; ++X) {
         for (std::size_t Y = 1; Y <= rowCount; ++Y) {
-            const std::string& caption = controls.lbl[X][Y].Caption;
+            const std::string caption =
+                CaptionOfSquare(game, static_cast<int>(X), static_cast<int>(Y));
             if (!caption.empty()) squares[std::to_string(X) + "," + std::to_string(Y)] = caption;
         }
     }
@@ -103,7 +107,7 @@ Json ButtonJson(const Button& button) {
 Json TerrainKeyJson(const Controls& controls) {
     Json list = Json::array();
     for (std::size_t code = 0; code < terrainKindCount; ++code) {
-        const Label& label = controls.lblTerrKey[code];
+        const KeyLabel& label = controls.lblTerrKey[code];
         const Button& button = controls.cmdSeeTerDet[code];
         list.push_back({{"caption", label.Caption},
                         {"visible", label.Visible},
@@ -138,7 +142,7 @@ void AddGame(Json& object, const Game& game) {
     const Controls& controls = game.controls;
     object["caption"] = controls.Caption;
     object["record"] = RecordJson(game.record);
-    object["squares"] = SquaresJson(controls);
+    object["squares"] = SquaresJson(game);
     object["buttons"] = {{"cmdMove", ButtonJson(controls.cmdMove)},
                          {"cmdAttack", ButtonJson(controls.cmdAttack)},
                          {"cmdDoneSel", ButtonJson(controls.cmdDoneSel)},
@@ -171,6 +175,7 @@ nlohmann::ordered_json StateJson(const CommandOutcome& outcome, const Game& game
                 {"ended", game.blnEnded},
                 {"open", game.blnOpen}};
     if (game.blnOpen) AddGame(object, game);
+    object["happenings"] = HappeningsJson(outcome.happenings);
     return object;
 }
 

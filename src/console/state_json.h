@@ -15,6 +15,7 @@ struct CommandOutcome {
     std::string error;  ///< empty when the command was carried out
     std::vector<ShownBox> boxes;
     std::vector<std::string> help;
+    Happenings happenings;
 };
 
 /// The object that tells a program what a command did and how the game now stands.

@@ -3,7 +3,9 @@
 #include <array>
 #include <ostream>
 
+#include "core/captions.h"
 #include "rules/terrain.h"
+#include "window/buttons.h"
 
 namespace qarn {
 namespace {
@@ -27,7 +29,7 @@ std::string LineOfSquare(const Game& game, int X, int Y, int line) {
     const SquareList list = LocationOfPeople(game.record, X, Y);
     const auto codes = GetPeopleCodes(game.record, list.People());
     const std::size_t shown = static_cast<std::size_t>(line);
-    const std::string code = shown < codes.size() ? codes[shown] : "   ";
+    const std::string code(shown < codes.size() ? codes[shown] : "   ");
     const std::uint8_t T =
         game.record.bytTerrain[static_cast<std::size_t>(X)][static_cast<std::size_t>(Y)];
     if (line == 0) return terrainSigns[T] + code;
@@ -62,15 +64,11 @@ void PrintCheckBoxes(std::ostream& out, const Controls& controls) {
 }
 
 void PrintButtons(std::ostream& out, const Controls& controls) {
-    const std::array<std::pair<const char*, const Button*>, 3> buttons{{
-        {"cmdMove", &controls.cmdMove},
-        {"cmdAttack", &controls.cmdAttack},
-        {"cmdDoneSel", &controls.cmdDoneSel},
-    }};
     out << "Buttons:";
-    for (const auto& [name, button] : buttons) {
-        if (!button->Visible || !button->Enabled) continue;
-        out << "  " << name << " (" << WithoutAccessKey(button->Caption) << ")";
+    for (const WindowButton& one : WindowButtons()) {
+        const Button& button = controls.*one.State;
+        if (!button.Visible || !button.Enabled) continue;
+        out << "  " << one.Name << " (" << PlainCaption(button.Caption) << ")";
     }
     out << '\n';
 }
@@ -96,7 +94,7 @@ void PrintStatus(std::ostream& out, const Game& game) {
     }
     PrintCheckBoxes(out, controls);
     PrintButtons(out, controls);
-    out << WithoutAccessKey(controls.lblStatus.Caption) << '\n';
+    out << PlainText(controls.lblStatus.Caption) << '\n';
 }
 
 void PrintHelp(std::ostream& out) {
@@ -117,14 +115,6 @@ An attack: press cmdAttack, click your square, click the enemy's square.
 Terrain:   . plain  ^ mountain  ~ ocean  = stream  : sand  % swamp  * forest  # fortress  + abbey
            A + before the second code of a square: more groups stand there.
 )";
-}
-
-std::string WithoutAccessKey(const std::string& caption) {
-    std::string text;
-    for (const char character : caption) {
-        if (character != '&') text += character;
-    }
-    return text;
 }
 
 }  // namespace qarn

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <iosfwd>
-#include <string>
 
 #include "core/game.h"
 
@@ -17,8 +16,5 @@ void PrintStatus(std::ostream& out, const Game& game);
 
 /// Prints the commands, and what the signs on the board mean.
 void PrintHelp(std::ostream& out);
-
-/// A caption without the marks of its access key.
-std::string WithoutAccessKey(const std::string& caption);
 
 }  // namespace qarn

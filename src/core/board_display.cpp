@@ -1,18 +1,32 @@
 #include "core/board_display.h"
 
 namespace qarn {
+namespace {
+
+template <typename Controls>
+auto& LabelOf(Controls& controls, int X, int Y) {
+    return controls.lbl.at(static_cast<std::size_t>(X)).at(static_cast<std::size_t>(Y));
+}
+
+}  // namespace
+
+std::string CaptionOfSquare(const Game& game, int X, int Y) {
+    std::string caption;
+    for (const std::uint8_t i : LabelOf(game.controls, X, Y).Shown) {
+        caption += game.record.People[i].Code;
+        caption += "  ";
+    }
+    return caption;
+}
 
 void PlacePeople(Game& game, int i) {
     const PeopleRecord& people = game.record.People.at(static_cast<std::size_t>(i));
     if (!OnBoard(people)) return;
-    game.controls.lbl.at(people.LocationX).at(people.LocationY).Caption += people.Code + "  ";
+    LabelOf(game.controls, people.LocationX, people.LocationY)
+        .Shown.Add(static_cast<std::uint8_t>(i));
 }
 
-void ClearSquareCaption(Game& game, int X, int Y) {
-    game.controls.lbl.at(static_cast<std::size_t>(X))
-        .at(static_cast<std::size_t>(Y))
-        .Caption.clear();
-}
+void ClearSquareCaption(Game& game, int X, int Y) { LabelOf(game.controls, X, Y).Shown = {}; }
 
 void RedrawSquare(Game& game, int X, int Y) {
     ClearSquareCaption(game, X, Y);

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <string>
+
 #include "core/game.h"
 
 namespace qarn {
+
+/// The caption of one square: the codes of the groups that it shows, in roster order, each with its
+/// padding and two blanks behind it.
+std::string CaptionOfSquare(const Game& game, int X, int Y);
 
 /// Adds the code of roster entry i (1 to 24) to the caption of its square. Does nothing for an
 /// entry off the board.

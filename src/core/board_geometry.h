@@ -17,6 +17,10 @@ inline constexpr int rowTwips = 960;
 inline constexpr int squareWidthTwips = 735;
 inline constexpr int squareHeightTwips = 975;
 
+/// The size of the quick information, which stands beside a square.
+inline constexpr int quickInfoWidthTwips = 1575;
+inline constexpr int quickInfoHeightTwips = 1215;
+
 /// The left edge of column X, from 1.
 constexpr int LeftOfColumn(int X) { return boardLeftTwips + columnTwips * (X - 1); }
 

@@ -1,15 +1,16 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "core/player_error.h"
 
 namespace qarn {
 
 /// A text holds a character that the game file's code page does not have.
-class CodePageError : public std::runtime_error {
+class CodePageError : public PlayerError {
 public:
-    using std::runtime_error::runtime_error;
+    using PlayerError::PlayerError;
 };
 
 /// Turns UTF-8 into Windows code page 1252, one byte a character. Throws CodePageError, naming the

@@ -10,7 +10,7 @@ Controls::Controls() {
         const auto i = static_cast<std::size_t>(code);
         lblTerrKey[i] = {
             .Caption = keyCaptions[i], .Visible = code < Fortress, .Top = TerrKeyTop(code)};
-        cmdSeeTerDet[i] = {.Caption = "...", .Top = TerrKeyTop(code)};
+        cmdSeeTerDet[i] = {.Caption = "...", .Visible = code < Fortress, .Top = TerrKeyTop(code)};
     }
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "core/game_record.h"
 
@@ -19,7 +20,7 @@ struct Color {
 };
 
 struct SquareLabel {
-    std::string Caption;  ///< the codes of the groups on the square
+    PeopleSet Shown;  ///< whose codes make up its caption, see CaptionOfSquare
     Color BackColor{0xFFFFFF};
     Color ForeColor{0x000080};
 };
@@ -30,15 +31,22 @@ struct Label {
     int Top = 0;
 };
 
+/// A label whose caption is one of the program's own texts.
+struct KeyLabel {
+    std::string_view Caption;
+    bool Visible = true;
+    int Top = 0;
+};
+
 struct Button {
-    std::string Caption;
+    std::string_view Caption;  ///< one of the program's own texts
     bool Enabled = true;
     bool Visible = true;
     int Top = 0;
 };
 
 struct CheckBox {
-    std::string Caption;
+    std::string_view Caption;  ///< one of the program's own texts
     bool Enabled = true;
     bool Visible = false;
     bool Value = false;  ///< ticked
@@ -70,7 +78,7 @@ struct Controls {
     std::string Caption = "Thornmere Series Tactical Game";
 
     std::array<std::array<SquareLabel, rowCount + 1>, columnCount + 1> lbl;  ///< lbl[X][Y]
-    std::array<Label, terrainKindCount> lblTerrKey;
+    std::array<KeyLabel, terrainKindCount> lblTerrKey;
     std::array<Button, terrainKindCount> cmdSeeTerDet;
     Label lblTerrainDescription{.Caption = {}, .Visible = false};
 

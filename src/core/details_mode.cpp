@@ -32,12 +32,6 @@ void LeaveDetailsMode(Game& game) {
     controls.cmdAttack.Enabled = record.blnRememberedAttack;
     controls.cmdDoneSel.Enabled = record.blnRememberedDoneSel;
     controls.fraQuickDetails.Visible = false;
-
-    // The computer's last press may have confirmed what a person was selecting.
-    const bool stepping = record.blnMoveUnderWay && !record.blnChoosing;
-    if (stepping && !record.blnCasualtyPending && !record.Action.blnAIBusy) {
-        controls.cmdMove.Enabled = true;
-    }
 }
 
 }  // namespace qarn

@@ -1,15 +1,16 @@
 #pragma once
 
 #include <cstdint>
-#include <stdexcept>
 #include <string_view>
+
+#include "core/player_error.h"
 
 namespace qarn {
 
 /// A count, coordinate or sum of strengths did not fit its unsigned eight bits. what() says which.
-class EightBitOverflow : public std::overflow_error {
+class EightBitOverflow : public PlayerError {
 public:
-    using std::overflow_error::overflow_error;
+    using PlayerError::PlayerError;
 };
 
 /// Gives `value` as an unsigned 8-bit number. Throws EightBitOverflow, naming `what`, when it lies

@@ -2,9 +2,17 @@
 
 #include "core/controls.h"
 #include "core/game_record.h"
+#include "core/happenings.h"
 #include "core/ports.h"
 
 namespace qarn {
+
+/// What an event that fails puts back.
+struct GameState {
+    GameRecord record;
+    Controls controls;
+    bool blnOpen = false;
+};
 
 /// The game window without its widgets: what is being played, the controls it shows itself with,
 /// and the ports it talks through. Handlers take it, read it and change it.
@@ -12,11 +20,15 @@ struct Game {
     GameRecord record;
     Controls controls;
     Ports ports;
+    Happenings happenings =
+        {};  ///< what the event that is under way, or the last one, brought about
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have
     bool blnLeftByOpen = false;  ///< it was closed last for a saved game to be chosen
     int exitStatus = 0;          ///< the program's, once blnEnded
+
+    GameState beforeEvent = {};  ///< kept by RunEvent, which needs no new memory so
 };
 
 }  // namespace qarn

@@ -2,9 +2,10 @@
 
 #include <array>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "core/player_error.h"
 
 namespace qarn {
 
@@ -18,10 +19,10 @@ enum class LoadErrorNumber {
 };
 
 /// A game file could not be read. what() says, for people, where and why.
-class GameFileError : public std::runtime_error {
+class GameFileError : public PlayerError {
 public:
     GameFileError(LoadErrorNumber number, const std::string& description)
-        : std::runtime_error(description), number_(number) {}
+        : PlayerError(description), number_(number) {}
 
     int Number() const { return static_cast<int>(number_); }
 
@@ -30,9 +31,9 @@ private:
 };
 
 /// A game could not be put into the form of a game file. what() gives the reason.
-class SaveError : public std::runtime_error {
+class SaveError : public PlayerError {
 public:
-    using std::runtime_error::runtime_error;
+    using PlayerError::PlayerError;
 };
 
 /// Walks through the text of a game file, line by line and item by item. Every reading throws

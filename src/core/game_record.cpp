@@ -1,7 +1,5 @@
 #include "core/game_record.h"
 
-#include "core/eight_bit.h"
-
 namespace qarn {
 
 SquareList LocationOfPeople(const GameRecord& record, int LocationX, int LocationY) {
@@ -21,25 +19,20 @@ std::span<const std::uint8_t> Selection(const GameRecord& record) {
 
 void SumStrength(const GameRecord& record, std::span<const std::uint8_t> people, Strength& totals) {
     Strength sums = totals;
-    for (const std::uint8_t i : people) {
-        const PeopleRecord& one = record.People.at(i);
-        sums.Mobility = EightBit(sums.Mobility + one.Mobility, "sum of the mobility units");
-        sums.Attack = EightBit(sums.Attack + one.Attack, "sum of the attack units");
-        sums.Defense = EightBit(sums.Defense + one.Defense, "sum of the defense units");
-    }
+    for (const std::uint8_t i : people) AddStrength(sums, record.People.at(i));
     totals = sums;
 }
 
-std::vector<std::string> GetPeopleCodes(const GameRecord& record,
-                                        std::span<const std::uint8_t> people) {
-    std::vector<std::string> codes;
+std::vector<std::string_view> GetPeopleCodes(const GameRecord& record,
+                                             std::span<const std::uint8_t> people) {
+    std::vector<std::string_view> codes;
     for (const std::uint8_t i : people) codes.push_back(record.People.at(i).Code);
     return codes;
 }
 
-std::vector<std::string> GetPeopleNames(const GameRecord& record,
-                                        std::span<const std::uint8_t> people) {
-    std::vector<std::string> names;
+std::vector<std::string_view> GetPeopleNames(const GameRecord& record,
+                                             std::span<const std::uint8_t> people) {
+    std::vector<std::string_view> names;
     for (const std::uint8_t i : people) names.push_back(record.People.at(i).Name);
     return names;
 }

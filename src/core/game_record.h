@@ -4,71 +4,45 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "core/group.h"
+#include "core/people_set.h"
+#include "core/square.h"
 
 namespace qarn {
 
-/// The board: columns 1 to 18 and rows 1 to 10, as a player counts them. Column 0 and row 0 exist
-/// in every per-square array and are never used.
-inline constexpr int columnCount = 18;
-inline constexpr int rowCount = 10;
-inline constexpr int peopleCount = 24;
 inline constexpr int checkBoxCount = 11;
-inline constexpr int terrainKindCount = 9;
 
-/// Terrain codes, the index into TerrainKinds.
-enum Terrain : std::uint8_t {
-    Plain,
-    Mountain,
-    Ocean,
-    Stream,
-    Sand,
-    Swamp,
-    Forest,
-    Fortress,
-    Abbey,
-};
-
-/// One group: a character, a band, or a transport piece.
-struct PeopleRecord {
-    std::string Name;
-    std::string Code = "   ";    ///< exactly 3 characters, padded with blanks
-    std::uint8_t Side = 0;       ///< 1 or 2; 0 for a transport piece
-    std::uint8_t LocationX = 0;  ///< 1 to 18; 0 = no longer on the board
-    std::uint8_t LocationY = 0;
-    std::uint8_t Mobility = 0;
-    std::uint8_t Attack = 0;
-    std::uint8_t Defense = 0;
-    std::int16_t Ability1 = 0;  ///< three digits, read one by one; 0 = none
-    std::int16_t Ability2 = 0;
+/// One group: a character, a band, or a transport piece. Its texts are the scenario's, which are
+/// constant.
+struct PeopleRecord : Group {
+    std::string_view Name;
+    std::string_view Code = "   ";  ///< exactly 3 characters, padded with blanks
 };
 
 /// What one kind of terrain costs and gives.
-struct TerrainKindRecord {
-    std::uint8_t Mobility = 0;  ///< mobility units of a step onto it
-    std::uint8_t Attack = 0;
-    std::uint8_t Defense = 0;     ///< defense units it adds to a group defending on it
-    bool DirectAttack = false;    ///< may be attacked by stepping into it
-    bool IndirectAttack = false;  ///< may be attacked with the Attack command (shown only)
-    bool NeedsBoat = false;
-    std::string Comments;
+struct TerrainKindRecord : TerrainValues {
+    std::string_view Comments;
 };
 
-/// The most steps that a path without detours has: from one corner of the board to the opposite
-/// one.
-inline constexpr int longestPath = columnCount - 1 + rowCount - 1;
-
-/// The steps of one path, used from index 1.
-using PathSteps = std::array<std::uint8_t, longestPath + 1>;
+/// The most steps of a path that the computer replays.
+inline constexpr std::size_t longestMarch = 64;
 
 /// The action that the computer is replaying through the window's controls.
 struct ActionRecord {
     bool blnAIBusy = false;
+    bool blnAttacks = false;  ///< with the Attack command: the path leads to the target
+    bool blnOwnMove = false;  ///< the move or attack that the action began is still under way
     std::uint8_t bytAIStartX = 0, bytAIStartY = 0;
-    PathSteps bytAIPath{};  ///< direction codes, used at indexes 1 to bytAIPathLength
+    PeopleSet goes = {};        ///< who moves; none: everybody on the starting square
+    std::uint8_t casualty = 0;  ///< who is to die if someone must; 0: the weakest
+    /// Direction codes, used at indexes 1 to bytAIPathLength.
+    std::array<std::uint8_t, longestMarch + 1> bytAIPath{};
     std::uint8_t bytAIPathLength = 0;
     std::uint8_t bytAICurrentX = 0, bytAICurrentY = 0;
-    std::uint8_t bytAIStep = 0;       ///< stage of the replay, 1 to 8
+    std::uint8_t bytAIStep = 0;       ///< the next stage of the replay
     std::uint8_t bytAIPathIndex = 0;  ///< the next path step, from 1
     std::uint8_t bytAIDeadChoice = 0;
 };
@@ -83,12 +57,15 @@ struct GameRecord {
 
     std::array<std::string, 3> strPlayerName;
     std::array<bool, 3> blnComputer{};
-    std::array<std::string, 3> strVictoryText;
+    std::array<std::string_view, 3> strVictoryText;  ///< in the scenario's data
     std::array<std::uint8_t, 3> bytPeopleLeft{};
     std::uint8_t bytTurn = 0;  ///< 1 or 2; 0 until the first side of a new game has been drawn
 
     std::array<std::array<std::uint8_t, rowCount + 1>, columnCount + 1> bytTerrain{};
     std::array<TerrainKindRecord, terrainKindCount> TerrainKinds;
+    /// The fortress, terrain code 7, is Gallowrock, which can be burned down. It is until the
+    /// scenario's setup names another one.
+    bool blnFortressBurns = true;
     std::array<PeopleRecord, peopleCount + 1> People;
 
     std::uint8_t bytCurrentX = 0, bytCurrentY = 0;  ///< the square last clicked
@@ -151,13 +128,6 @@ struct SquareList {
     std::span<const std::uint8_t> People() const&& = delete;  // it would outlive the list
 };
 
-/// Mobility, attack and defense added up.
-struct Strength {
-    std::uint8_t Mobility = 0;
-    std::uint8_t Attack = 0;
-    std::uint8_t Defense = 0;
-};
-
 /// Lists, in roster order, every entry that stands on the square.
 SquareList LocationOfPeople(const GameRecord& record, int LocationX, int LocationY);
 
@@ -169,20 +139,12 @@ std::span<const std::uint8_t> Selection(const GameRecord& record);
 void SumStrength(const GameRecord& record, std::span<const std::uint8_t> people, Strength& totals);
 
 /// The three-character codes of the numbered people, padding included.
-std::vector<std::string> GetPeopleCodes(const GameRecord& record,
-                                        std::span<const std::uint8_t> people);
+std::vector<std::string_view> GetPeopleCodes(const GameRecord& record,
+                                             std::span<const std::uint8_t> people);
 
 /// The names of the numbered people.
-std::vector<std::string> GetPeopleNames(const GameRecord& record,
-                                        std::span<const std::uint8_t> people);
-
-/// True when the entry stands on the board.
-inline bool OnBoard(const PeopleRecord& people) { return people.LocationX != 0; }
-
-inline bool IsTransport(const PeopleRecord& people) { return people.Side == 0; }
-
-/// The other side: 2 for 1, and 1 for anything else.
-inline std::uint8_t OtherSide(std::uint8_t side) { return side == 1 ? 2 : 1; }
+std::vector<std::string_view> GetPeopleNames(const GameRecord& record,
+                                             std::span<const std::uint8_t> people);
 
 /// True when the computer plays the side to move.
 bool IsComputersTurn(const GameRecord& record);

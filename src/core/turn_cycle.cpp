@@ -16,13 +16,17 @@ std::uint8_t DrawFirstSide(RandomNumbers& random) {
 void StartTurns(Game& game) {
     GameRecord& record = game.record;
     if (record.bytTurn == 0) record.bytTurn = DrawFirstSide(game.ports.random);
+    game.happenings.emplace_back(TurnCame{record.bytTurn});
     game.controls.lblStatus.Caption = "It is " + record.strPlayerName[record.bytTurn] + "'s turn.";
     StartComputer(game);
 }
 
 void ShowTurn(Game& game, bool switchSide) {
     GameRecord& record = game.record;
-    if (switchSide) record.bytTurn = OtherSide(record.bytTurn);
+    if (switchSide) {
+        record.bytTurn = OtherSide(record.bytTurn);
+        game.happenings.emplace_back(TurnCame{record.bytTurn});
+    }
 
     std::string text = "It is " + record.strPlayerName[record.bytTurn == 2 ? 2 : 1];
     const bool endsInS = text.ends_with('s') || text.ends_with('S');

@@ -1,6 +1,6 @@
 #include "rules/casualties.h"
 
-#include <algorithm>
+#include <array>
 
 #include "core/board_display.h"
 #include "core/file_store.h"
@@ -8,6 +8,7 @@
 #include "rules/attack_mode.h"
 #include "rules/check_boxes.h"
 #include "rules/end_move.h"
+#include "rules/questions/casualties.h"
 
 namespace qarn {
 namespace {
@@ -54,7 +55,7 @@ void ConfirmCasualty(Game& game) {
         return;
     }
 
-    Eliminate(game, ticked.front());
+    EliminateAll(game, {ticked.front()});
     game.record.blnCasualtyPending = false;
     EndMove(game.record);
     cmdAttack_Click(game);
@@ -65,44 +66,35 @@ void ConfirmCasualty(Game& game) {
     CountPeople(game);
 }
 
-std::uint8_t ChooseDeadAnimal(const GameRecord& record, int X, int Y) {
-    const SquareList list = LocationOfPeople(record, X, Y);
-    return ChooseDeadAnimal(record, list.People());
-}
-
-std::uint8_t ChooseDeadAnimal(const GameRecord& record, std::span<const std::uint8_t> list) {
-    std::size_t choice = 1;
-    int lowest = 100;
-    for (std::size_t place = 1; place <= list.size(); ++place) {
-        const PeopleRecord& people = record.People.at(list[place - 1]);
-        if (IsTransport(people) || people.Attack + people.Defense >= lowest) continue;
-        lowest = people.Attack + people.Defense;
-        choice = place;
+void EliminateAll(Game& game, PeopleSet people) {
+    GameRecord& record = game.record;
+    std::array<Lost, 3> lost{};  // of the sides
+    Square at;
+    for (const std::uint8_t i : people) {
+        PeopleRecord& one = record.People.at(i);
+        at = {one.LocationX, one.LocationY};
+        lost.at(one.Side).people.Add(i);
+        one.LocationX = 0;
+        one.LocationY = 0;
     }
-    return static_cast<std::uint8_t>(choice);
-}
-
-void Eliminate(Game& game, std::uint8_t i) {
-    PeopleRecord& people = game.record.People.at(i);
-    const std::uint8_t X = people.LocationX;
-    const std::uint8_t Y = people.LocationY;
-    people.LocationX = 0;
-    people.LocationY = 0;
-    if (X != 0) RedrawSquare(game, X, Y);
+    for (std::uint8_t side = 1; side <= 2; ++side) {
+        if (lost[side].people.Empty()) continue;
+        game.happenings.emplace_back(Lost{lost[side].people, side, at});
+    }
+    if (at.X != 0) RedrawSquare(game, at.X, at.Y);
 }
 
 void CountPeople(Game& game) {
     GameRecord& record = game.record;
-    record.bytPeopleLeft = {};
-    for (std::size_t i = 1; i <= peopleCount && !IsTransport(record.People[i]); ++i) {
-        if (OnBoard(record.People[i])) ++record.bytPeopleLeft.at(record.People[i].Side);
-    }
+    record.bytPeopleLeft = PeopleLeft(PositionOf(record));
     if (record.bytPeopleLeft[1] == 0 || record.bytPeopleLeft[2] == 0) EndGame(game);
 }
 
 void EndGame(Game& game) {
     const GameRecord& record = game.record;
-    game.ports.dialogs.Tell(record.strVictoryText[record.bytPeopleLeft[1] > 0 ? 1 : 2]);
+    const std::uint8_t winner = record.bytPeopleLeft[1] > 0 ? 1 : 2;
+    game.happenings.emplace_back(Ended{winner});
+    game.ports.dialogs.Tell(std::string(record.strVictoryText[winner]));
     try {
         DeleteFile(record.strGamePath);
     } catch (const std::system_error& error) {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <span>
-
 #include "core/game.h"
 
 namespace qarn {
@@ -15,15 +12,8 @@ bool StartCasualtyChoice(Game& game);
 /// attack and the move that led to it, and passes the turn.
 void ConfirmCasualty(Game& game);
 
-/// The computer's casualty: the place, counted from 1 among the people of the square, of the
-/// character with the smallest attack and defense together; 1 when there is none below 100.
-std::uint8_t ChooseDeadAnimal(const GameRecord& record, int X, int Y);
-
-/// The same among the people of a list, of which each entry is one place.
-std::uint8_t ChooseDeadAnimal(const GameRecord& record, std::span<const std::uint8_t> list);
-
-/// Takes roster entry i off the board and shows the square where it stood again.
-void Eliminate(Game& game, std::uint8_t i);
+/// Takes people of one square off the board and shows the square again.
+void EliminateAll(Game& game, PeopleSet people);
 
 /// Recounts the groups left of both sides and ends the game when a side has none.
 void CountPeople(Game& game);

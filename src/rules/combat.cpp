@@ -1,74 +1,59 @@
 #include "rules/combat.h"
 
-#include <cstdlib>
+#include <string>
+#include <variant>
 
-#include "core/eight_bit.h"
 #include "core/turn_cycle.h"
 #include "rules/attack_mode.h"
 #include "rules/casualties.h"
 #include "rules/check_boxes.h"
 #include "rules/end_move.h"
+#include "rules/questions/attack.h"
+#include "rules/questions/odds.h"
 #include "rules/terrain.h"
+#include "rules/texts.h"
 
 namespace qarn {
 namespace {
 
-// The square that was clicked, as the steps of the attack see it.
-struct ClickedSquare {
-    std::uint8_t X;
-    std::uint8_t Y;
-    std::uint8_t terrain;
-    bool landmarkTarget;
-    SquareList people;
-    Strength strength;
-};
-
-void Status(Game& game, const std::string& text) { game.controls.lblStatus.Caption = text; }
-
-ClickedSquare LookAt(const GameRecord& record, std::uint8_t X, std::uint8_t Y) {
-    ClickedSquare S{.X = X,
-                    .Y = Y,
-                    .terrain = record.bytTerrain.at(X).at(Y),
-                    .landmarkTarget = false,
-                    .people = LocationOfPeople(record, X, Y),
-                    .strength = {}};
-    const bool targetClick = record.blnAttackerChosen && record.blnTargetPhase;
-    S.landmarkTarget = targetClick && (S.terrain == Fortress || S.terrain == Abbey);
-    SumStrength(record, S.people.People(), S.strength);
-    return S;
-}
-
-// Once the attacker is chosen the target must be its neighbour.
-bool IsInReach(Game& game, const ClickedSquare& S) {
-    const GameRecord& record = game.record;
-    if (!record.blnAttackerChosen) return true;
-    const int distance = std::abs(S.X - record.bytLastX) + std::abs(S.Y - record.bytLastY);
-    if (distance == 0) Status(game, "You can not attack yourself.");
-    if (distance > 1) Status(game, "You can only attack a square adjacent to your square.");
-    return distance == 1;
-}
-
-bool IsSomeoneThere(Game& game, const ClickedSquare& S) {
-    if (S.people.bytNumberofPeople > 0 || S.landmarkTarget) return true;
-    Status(game, "There is no one in the square you selected.");
-    return false;
-}
-
-bool IsAlive(Game& game, const ClickedSquare& S) {
-    if (S.strength.Attack > 0 || S.landmarkTarget) return true;
-    Status(game, game.record.blnAttackerChosen ? "You can not attack an inanimate thing."
-                                               : "Inanimate things can not attack another thing.");
-    return false;
+// Tells why the click counts for nothing.
+void Refuse(Game& game, AttackRefusal refusal) {
+    switch (refusal) {
+        case AttackRefusal::OnItself:
+            Status(game, "You can not attack yourself.");
+            break;
+        case AttackRefusal::NotAdjacent:
+            Status(game, "You can only attack a square adjacent to your square.");
+            break;
+        case AttackRefusal::NobodyThere:
+            Status(game, "There is no one in the square you selected.");
+            break;
+        case AttackRefusal::Inanimate:
+            Status(game, game.record.blnAttackerChosen
+                             ? "You can not attack an inanimate thing."
+                             : "Inanimate things can not attack another thing.");
+            break;
+        case AttackRefusal::Barred:
+            Status(game, "You can not attack that square due to geographical barriers.");
+            break;
+        case AttackRefusal::None:
+            break;
+    }
 }
 
 // The terrain under the attackers adds nothing to their units.
-void ChooseAttacker(Game& game, const ClickedSquare& S) {
+void ChooseAttacker(Game& game, Square S) {
     GameRecord& record = game.record;
+    const AttackAnswer attackers = AskAttackers(PositionOf(record), S);
+    if (attackers.refusal != AttackRefusal::None) {
+        Refuse(game, attackers.refusal);
+        return;
+    }
     record.blnAttackerChosen = true;
     record.blnTargetPhase = true;
     record.bytAnchorX = record.bytLastX = S.X;
     record.bytAnchorY = record.bytLastY = S.Y;
-    record.bytAttackUnits = S.strength.Attack;
+    record.bytAttackUnits = attackers.attackUnits;
     Status(game, "Select the square you would like to attack.");
 }
 
@@ -78,25 +63,27 @@ void ReturnToAnchor(GameRecord& record) {
     record.blnAttackWon = false;
 }
 
-bool AllowsTerrain(Game& game, bool blnDirect, const ClickedSquare& S, AttackResult& bytResult) {
+// Gives false when the target was refused.
+bool AcceptsTarget(Game& game, Square S, const AttackAnswer& target, AttackResult& bytResult) {
     GameRecord& record = game.record;
-    const TerrainEffect effect = TerrainModifiers(record, S.X, S.Y, true, record.bytAttackUnits,
-                                                  S.strength.Defense, blnDirect);
+    Refuse(game, target.refusal);
+    if (target.refusal != AttackRefusal::None && target.refusal != AttackRefusal::Barred) {
+        return false;
+    }
     record.bytLastX = S.X;
     record.bytLastY = S.Y;
-    record.bytAttackUnits = effect.bytAttackOut;
-    record.bytDefenseUnits = effect.bytDefenseOut;
-    if (effect.blnAllowed) return true;
+    record.bytAttackUnits = target.attackUnits;
+    record.bytDefenseUnits = target.defenseUnits;
+    if (target.refusal == AttackRefusal::None) return true;
 
     ReturnToAnchor(record);
-    Status(game, "You can not attack that square due to geographical barriers.");
     bytResult = AttackResult::NotPossible;
     return false;
 }
 
-bool ConfirmsBadOdds(Game& game, bool blnDirect, const ClickedSquare& S, AttackResult& bytResult) {
+bool ConfirmsBadOdds(Game& game, bool blnDirect, Square S, AttackResult& bytResult) {
     GameRecord& record = game.record;
-    if (record.bytAttackUnits > record.bytDefenseUnits + 2) return true;
+    if (!AreOddsBad(record.bytAttackUnits, record.bytDefenseUnits)) return true;
     const Answer answer =
         game.ports.dialogs.Show({.Title = "Not Enough Attack Units",
                                  .Text = "You will lose if you try to attack this group. Continue?",
@@ -105,7 +92,8 @@ bool ConfirmsBadOdds(Game& game, bool blnDirect, const ClickedSquare& S, AttackR
 
     ReturnToAnchor(record);
     if (blnDirect) {
-        bytResult = S.terrain == Abbey ? AttackResult::CancelledAtAbbey : AttackResult::NotPossible;
+        const bool abbeyTarget = record.bytTerrain[S.X][S.Y] == Abbey;
+        bytResult = abbeyTarget ? AttackResult::CancelledAtAbbey : AttackResult::NotPossible;
     }
     return false;
 }
@@ -127,35 +115,32 @@ void BeginAttack(Game& game) {
         record.bytDefenseUnits = record.bytAttackUnits;
     }
     record.bytThreshold =
-        static_cast<std::uint8_t>((record.bytAttackUnits - record.bytDefenseUnits) / 2);
+        static_cast<std::uint8_t>(ThresholdOf(record.bytAttackUnits, record.bytDefenseUnits));
 }
 
-bool IsGallowrock(const Game& game, const ClickedSquare& S) {
-    return game.controls.lblTerrKey[Fortress].Caption == "Gallowrock" && S.terrain == Fortress;
+Attacked DescribeAttack(const GameRecord& record, bool blnDirect, Square S) {
+    return {.side = record.bytTurn,
+            .from = {record.bytAnchorX, record.bytAnchorY},
+            .to = S,
+            .direct = blnDirect,
+            .attack = record.bytAttackUnits,
+            .defense = record.bytDefenseUnits,
+            .threshold = record.bytThreshold};
 }
 
-void BurnDown(Game& game, const ClickedSquare& S, Terrain ruins, const std::string& text,
-              AttackResult& bytResult) {
-    game.record.bytTerrain.at(S.X).at(S.Y) = ruins;
+void BurnDown(Game& game, bool blnDirect, Square S, Terrain ruins, AttackResult& bytResult) {
+    GameRecord& record = game.record;
+    const bool fortress = record.bytTerrain[S.X][S.Y] == Fortress;
+    record.bytTerrain[S.X][S.Y] = ruins;
     PaintSquare(game, S.X, S.Y);
-    game.ports.dialogs.Tell(text);
+    game.happenings.emplace_back(DescribeAttack(record, blnDirect, S));
+    game.happenings.emplace_back(Burned{S, ruins});
+    game.ports.dialogs.Tell(fortress ? "You have burned down Gallowrock."
+                                     : "You have burned down the Abbey.");
     cmdAttack_Click(game);
     bytResult = AttackResult::Won;
-    game.record.blnAttackWon = true;
+    record.blnAttackWon = true;
     ShowTurn(game, true);
-}
-
-// Gives true when the square was burned down, which ends the attack.
-bool BurnsDown(Game& game, bool blnDirect, const ClickedSquare& S, AttackResult& bytResult) {
-    if (IsGallowrock(game, S)) {
-        BurnDown(game, S, Sand, "You have burned down Gallowrock.", bytResult);
-        return true;
-    }
-    if (S.terrain == Abbey && !blnDirect) {
-        BurnDown(game, S, Plain, "You have burned down the Abbey.", bytResult);
-        return true;
-    }
-    return false;
 }
 
 void ShowOdds(Game& game) {
@@ -170,36 +155,44 @@ void ShowOdds(Game& game) {
                             " and up. Select OK to roll");
 }
 
-AttackResult Roll(Game& game) {
+std::string TextOf(AttackResult result) {
+    if (result == AttackResult::Won) return "and won the attack!";
+    if (result == AttackResult::Tie) return "and retreated without any losses.";
+    return "and lost the attack.";
+}
+
+AttackResult Roll(Game& game, bool blnDirect, Square S) {
     GameRecord& record = game.record;
     const int roll = RollDie(game.ports.random);
-    AttackResult result = AttackResult::Tie;
-    std::string text = "and retreated without any losses.";
-    record.blnAttackWon = false;
-    if (roll < record.bytThreshold) {
-        result = AttackResult::Won;
-        text = "and won the attack!";
-        record.blnAttackWon = true;
-    } else if (roll > record.bytThreshold) {
-        result = AttackResult::Lost;
-        text = "and lost the attack.";
-        CountPeople(game);
-    }
-    game.ports.dialogs.Tell("You rolled a " + std::to_string(roll) + " " + text);
+    const AttackResult result = ResultOfRoll(roll, record.bytThreshold);
+    record.blnAttackWon = result == AttackResult::Won;
+    Attacked attack = DescribeAttack(record, blnDirect, S);
+    attack.roll = roll;
+    attack.result = result;
+    game.happenings.emplace_back(attack);
+    if (result == AttackResult::Lost) CountPeople(game);
+    game.ports.dialogs.Tell("You rolled a " + std::to_string(roll) + " " + TextOf(result));
     return result;
 }
 
-void EliminateDefenders(Game& game, const ClickedSquare& S) {
-    for (const std::uint8_t i : S.people.People()) {
-        if (!IsTransport(game.record.People[i])) Eliminate(game, i);
-    }
+void EliminateDefenders(Game& game, Square S) {
+    const Position position = PositionOf(game.record);
+    EliminateAll(game, CharactersOf(position, PeopleOn(position, S)));
     CountPeople(game);
+}
+
+// The attack is the last one that this event tells of.
+void NoteSecondRoll(Game& game, int roll) {
+    for (Happening& happening : game.happenings) {
+        if (auto* attack = std::get_if<Attacked>(&happening)) attack->secondRoll = roll;
+    }
 }
 
 // Gives true when the winner pays for the victory with a character.
 bool RollsLossAfterWin(Game& game) {
     const int roll = RollDie(game.ports.random);
-    if (roll == 3) {
+    NoteSecondRoll(game, roll);
+    if (roll == rollThatCosts) {
         game.ports.dialogs.Tell("You rolled a three and lost one character.");
         CountPeople(game);
         return true;
@@ -216,9 +209,11 @@ void FinishAttack(Game& game, bool blnDirect) {
     ShowTurn(game, !blnDirect);
 }
 
-void AttackTarget(Game& game, bool blnDirect, const ClickedSquare& S, AttackResult& bytResult) {
+void AttackTarget(Game& game, bool blnDirect, Square S, AttackResult& bytResult) {
     const GameRecord& record = game.record;
-    if (!AllowsTerrain(game, blnDirect, S, bytResult)) return;
+    const AttackAnswer target = AskTarget(PositionOf(record), {record.bytLastX, record.bytLastY},
+                                          record.bytAttackUnits, S, blnDirect);
+    if (!AcceptsTarget(game, S, target, bytResult)) return;
     if (!ConfirmsBadOdds(game, blnDirect, S, bytResult)) return;
 
     if (!blnDirect) AbandonMove(game);
@@ -226,11 +221,14 @@ void AttackTarget(Game& game, bool blnDirect, const ClickedSquare& S, AttackResu
     if (record.bytAttackUnits == record.bytDefenseUnits) {
         Status(game, "Your attack units can not penetrate your enemy's defense.");
     } else {
-        if (BurnsDown(game, blnDirect, S, bytResult)) return;
+        if (target.burns) {
+            BurnDown(game, blnDirect, S, target.ruins, bytResult);
+            return;
+        }
         ShowOdds(game);
     }
 
-    bytResult = Roll(game);
+    bytResult = Roll(game, blnDirect, S);
     bool losesCharacter = bytResult == AttackResult::Lost;
     if (bytResult == AttackResult::Won) {
         EliminateDefenders(game, S);
@@ -244,16 +242,13 @@ void AttackTarget(Game& game, bool blnDirect, const ClickedSquare& S, AttackResu
 
 void AttackSquare(Game& game, bool blnDirect, std::uint8_t bytX, std::uint8_t bytY,
                   AttackResult& bytResult) {
-    const ClickedSquare S = LookAt(game.record, bytX, bytY);
-    if (!IsInReach(game, S) || !IsSomeoneThere(game, S) || !IsAlive(game, S)) return;
-
-    if (!game.record.blnAttackerChosen) {
-        ChooseAttacker(game, S);
+    if (game.record.blnAttackerChosen) {
+        AttackTarget(game, blnDirect, {bytX, bytY}, bytResult);
     } else {
-        AttackTarget(game, blnDirect, S, bytResult);
+        ChooseAttacker(game, {bytX, bytY});
     }
 }
 
-int RollDie(RandomNumbers& random) { return static_cast<int>(random.Next() * 5) + 1; }
+int RollDie(RandomNumbers& random) { return static_cast<int>(random.Next() * dieSides) + 1; }
 
 }  // namespace qarn

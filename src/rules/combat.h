@@ -6,15 +6,6 @@
 
 namespace qarn {
 
-/// How an attack that a move started came out.
-enum class AttackResult : std::uint8_t {
-    Won = 0,
-    Tie = 1,
-    Lost = 2,
-    NotPossible = 3,  ///< or cancelled
-    CancelledAtAbbey = 4,
-};
-
 /// One click on square (X, Y) in attack mode: the first accepted click names the attacking square,
 /// the next one the target, and the attack is carried out. A direct attack (`blnDirect`) comes from
 /// a move that steps into the target. Writes `bytResult` once the target has been accepted or

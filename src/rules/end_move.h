@@ -4,12 +4,13 @@
 
 namespace qarn {
 
-/// Clears the state of the move in progress: whatever it was, it is over.
+/// Clears the state of the move in progress: whatever it was, and whoever began it, it is over.
 inline void EndMove(GameRecord& record) {
     record.blnMoveMode = false;
     record.blnMoveUnderWay = false;
     record.blnChoosing = false;
     record.blnMoveFinished = false;
+    record.Action.blnOwnMove = false;
 }
 
 }  // namespace qarn

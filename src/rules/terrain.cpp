@@ -1,8 +1,7 @@
 #include "rules/terrain.h"
 
+#include <algorithm>
 #include <array>
-
-#include "core/eight_bit.h"
 
 namespace qarn {
 namespace {
@@ -19,10 +18,12 @@ constexpr std::array<TerrainColors, terrainKindCount> terrainColors{{
     {{0xC00000}, {0xFFFFFF}},
 }};
 
-std::string DescribeTerrainKind(const std::string& name, const TerrainKindRecord& kind) {
-    return name + "\nMobility: " + std::to_string(kind.Mobility) +
-           "\nAttack: " + std::to_string(kind.Attack) +
-           "\nDefense: " + std::to_string(kind.Defense) + "\nComments: " + kind.Comments;
+std::string DescribeTerrainKind(std::string_view name, const TerrainKindRecord& kind) {
+    std::string text(name);
+    text += "\nMobility: " + std::to_string(kind.Mobility);
+    text += "\nAttack: " + std::to_string(kind.Attack);
+    text += "\nDefense: " + std::to_string(kind.Defense) + "\nComments: ";
+    return text.append(kind.Comments);
 }
 
 void ShowDescription(Game& game, std::size_t code) {
@@ -47,21 +48,17 @@ void HideDescription(Controls& controls, std::size_t code) {
 }  // namespace
 
 void InitTerrainKinds(GameRecord& record) {
-    record.TerrainKinds[Plain] = {1, 0, 0, true, true, false, "1 To move"};
-    record.TerrainKinds[Mountain] = {
-        5,
-        3,
-        2,
-        true,
-        false,
-        false,
-        "5 to move, no indirect attack, +3 to attack down, 2 for defense, and no indirect attack"};
-    record.TerrainKinds[Ocean] = {
-        1, 0, 2, true, true, true, "1 to move, 2 for defense, and requires a boat"};
-    record.TerrainKinds[Stream] = {1, 0, 0, true, true, true, "1 to move and requires a boat"};
-    record.TerrainKinds[Sand] = {3, 0, 1, true, true, false, "3 to move and 1 for defense"};
-    record.TerrainKinds[Swamp] = {2, 0, 0, true, true, false, "2 to move"};
-    record.TerrainKinds[Forest] = {2, 0, 2, true, true, false, "2 to move and 2 for defense"};
+    constexpr std::array<TerrainKindRecord, Fortress> kinds{{
+        {{1, 0, 0, true, true, false}, "1 To move"},
+        {{5, 3, 2, true, false, false},
+         "5 to move, no indirect attack, +3 to attack down, 2 for defense, and no indirect attack"},
+        {{1, 0, 2, true, true, true}, "1 to move, 2 for defense, and requires a boat"},
+        {{1, 0, 0, true, true, true}, "1 to move and requires a boat"},
+        {{3, 0, 1, true, true, false}, "3 to move and 1 for defense"},
+        {{2, 0, 0, true, true, false}, "2 to move"},
+        {{2, 0, 2, true, true, false}, "2 to move and 2 for defense"},
+    }};
+    std::copy(kinds.begin(), kinds.end(), record.TerrainKinds.begin());
 }
 
 TerrainColors ColorsOfTerrain(std::uint8_t code) { return terrainColors.at(code); }
@@ -79,50 +76,6 @@ void ClearBoard(Game& game) {
     for (int X = 1; X <= columnCount; ++X) {
         for (int Y = 1; Y <= rowCount; ++Y) PaintSquare(game, X, Y);
     }
-}
-
-TerrainEffect TerrainModifiers(const GameRecord& record, int X, int Y, bool blnDefending,
-                               std::uint8_t bytAttack, std::uint8_t bytDefense, bool blnDirect) {
-    const std::uint8_t T =
-        record.bytTerrain.at(static_cast<std::size_t>(X)).at(static_cast<std::size_t>(Y));
-    const TerrainKindRecord& kind = record.TerrainKinds.at(T);
-    TerrainEffect effect{.bytAttackOut = bytAttack, .bytDefenseOut = bytDefense};
-    const auto addAttack = [&] {
-        effect.bytAttackOut = EightBit(bytAttack + kind.Attack, "sum of the attack units");
-    };
-    const auto addDefense = [&] {
-        effect.bytDefenseOut = EightBit(bytDefense + kind.Defense, "sum of the defense units");
-    };
-
-    switch (T) {
-        case Mountain:
-            if (!blnDirect && blnDefending) {
-                effect.blnAllowed = false;
-            } else if (blnDirect && !blnDefending) {
-                addAttack();
-            } else if (blnDefending) {
-                addDefense();
-            }
-            break;
-        case Ocean:
-            if (blnDirect && blnDefending) addDefense();
-            break;
-        case Sand:
-        case Forest:
-            if (blnDefending) addDefense();
-            break;
-        case Fortress:
-        case Abbey:
-            if (!kind.DirectAttack && blnDirect) {
-                effect.blnAllowed = false;
-            } else {
-                addDefense();
-            }
-            break;
-        default:
-            break;
-    }
-    return effect;
 }
 
 void cmdSeeTerDet_Click(Game& game, int code) {

@@ -10,11 +10,28 @@
 
 namespace qarn {
 
+/// A code on the board: exactly three characters, padded on the right with blanks.
+class BoardCode {
+public:
+    /// Takes one to three characters; anything else does not compile in constant data.
+    constexpr BoardCode(const char* code) {
+        const std::string_view text(code);
+        if (text.empty() || text.size() > characters_.size()) throw "A code has 1 to 3 characters.";
+        std::copy(text.begin(), text.end(), characters_.begin());
+    }
+
+    constexpr std::string_view Padded() const { return {characters_.data(), characters_.size()}; }
+    constexpr std::string_view Text() const { return Padded().substr(0, Padded().find(' ')); }
+
+private:
+    std::array<char, 3> characters_{' ', ' ', ' '};
+};
+
 /// One roster entry as the scenario's table gives it. Its place in the roster is part of the game
 /// file's form.
 struct RosterEntry {
     std::string_view Name;
-    std::string_view Code;  ///< one to three characters
+    BoardCode Code;
     std::uint8_t Side = 0;
     std::uint8_t LocationX = 0;
     std::uint8_t LocationY = 0;
@@ -25,7 +42,21 @@ struct RosterEntry {
     std::int16_t Ability2 = 0;
 };
 
-/// How a scenario sets up its landmark kinds and their rows of the terrain key.
+/// A landmark's kind of terrain, and the caption of its row of the terrain key.
+struct Landmark {
+    std::string_view Caption;
+    std::uint8_t Defense = 0;
+    std::string_view Comments;
+    bool BurnsDown = false;  ///< by whatever attack; the abbey only by the Attack command
+};
+
+inline constexpr Landmark gallowrock{"Gallowrock", 3, "1 to move and 3 defense", true};
+inline constexpr Landmark castleVennick{"Castle Vennick", 4, "1 to move and 4 defense units"};
+inline constexpr Landmark ostrelle{"Ostrelle", 4, "1 to move and 4 defense units"};
+inline constexpr Landmark stonemantleFortress{"Stonemantle", 4, "1 to move and 4 for defense"};
+inline constexpr Landmark abbey{"Thornmere", 4, "1 to move and 4 for defense"};
+
+/// The landmarks of a scenario.
 enum class LandmarkSteps {
     None,
     CastleVennick,
@@ -34,11 +65,6 @@ enum class LandmarkSteps {
     Gallowrock,
     StonemantleAndAbbey,
     OstrelleAndAbbey,
-};
-
-struct Square {
-    std::uint8_t X = 0;
-    std::uint8_t Y = 0;
 };
 
 /// Up to six squares in a fixed order.
@@ -69,10 +95,6 @@ struct ScenarioData {
     std::string_view Background;  ///< the situation at the start, in one to three sentences
 };
 
-constexpr bool IsOnBoard(int X, int Y) {
-    return X >= 1 && X <= columnCount && Y >= 1 && Y <= rowCount;
-}
-
 constexpr bool IsSoundBoard(const ScenarioData& data) {
     return std::all_of(data.Board.begin(), data.Board.end(), [](std::string_view row) {
         return row.size() == columnCount && row.find_first_not_of("012345678") == row.npos;
@@ -88,11 +110,10 @@ constexpr bool IsSoundGroup(const RosterEntry& entry) {
 }
 
 constexpr bool IsSoundEntry(const RosterEntry& entry) {
-    const bool sound = !entry.Name.empty() && !entry.Code.empty() && entry.Code.size() <= 3 &&
-                       IsOnBoard(entry.LocationX, entry.LocationY);
+    const bool sound = !entry.Name.empty() && IsOnBoard(entry.LocationX, entry.LocationY);
     if (entry.Side != 0) return sound && IsSoundGroup(entry);
-    return sound && ((entry.Name == "Boat" && entry.Code == "BT") ||
-                     (entry.Name == "Cart" && entry.Code == "CT"));
+    return sound && ((entry.Name == "Boat" && entry.Code.Text() == "BT") ||
+                     (entry.Name == "Cart" && entry.Code.Text() == "CT"));
 }
 
 /// Groups stand before transport pieces: the recount of the groups left stops at the first of
@@ -104,9 +125,9 @@ constexpr bool GroupsComeFirst(const ScenarioData& data) {
 
 constexpr bool CodesAreUnique(const ScenarioData& data) {
     for (const RosterEntry& entry : data.Roster) {
-        const auto same =
-            std::count_if(data.Roster.begin(), data.Roster.end(),
-                          [&](const RosterEntry& other) { return other.Code == entry.Code; });
+        const auto same = std::count_if(
+            data.Roster.begin(), data.Roster.end(),
+            [&](const RosterEntry& other) { return other.Code.Text() == entry.Code.Text(); });
         if (same > 1 && entry.Name != "Boat") return false;
     }
     return true;

@@ -21,25 +21,29 @@ constexpr std::array<const ScenarioData*, scenarioCount> scenarios{
     &saltbrook,  &songOfKestrelFord, &duskwater,   &quietMarches, &cinderfell, &wrensReturn,
     &hollowmere, &exilesRoad,        &jadeCirclet, &stonemantle,  &varrowdene, &ambermoor};
 
-std::string PaddedCode(std::string_view code) {
-    std::string padded(code);
-    padded.resize(3, ' ');
-    return padded;
+GroupKind KindOf(const RosterEntry& entry) {
+    if (entry.Name == "Boat") return GroupKind::Boat;
+    if (entry.Name == "Cart") return GroupKind::Cart;
+    if (entry.Code.Text() == "J") return GroupKind::LoneBird;
+    if (entry.Code.Text() == "SK") return GroupKind::LeadingBird;
+    return GroupKind::Ordinary;
 }
 
 void WriteRoster(const ScenarioData& data, GameRecord& record) {
     for (std::size_t i = 1; i <= peopleCount; ++i) {
         const RosterEntry& entry = data.Roster[i - 1];
-        record.People[i] = {.Name = std::string(entry.Name),
-                            .Code = PaddedCode(entry.Code),
-                            .Side = entry.Side,
-                            .LocationX = entry.LocationX,
-                            .LocationY = entry.LocationY,
-                            .Mobility = entry.Mobility,
-                            .Attack = entry.Attack,
-                            .Defense = entry.Defense,
-                            .Ability1 = entry.Ability1,
-                            .Ability2 = entry.Ability2};
+        PeopleRecord& people = record.People[i];
+        people.Name = entry.Name;
+        people.Code = entry.Code.Padded();
+        people.Side = entry.Side;
+        people.LocationX = entry.LocationX;
+        people.LocationY = entry.LocationY;
+        people.Mobility = entry.Mobility;
+        people.Attack = entry.Attack;
+        people.Defense = entry.Defense;
+        people.Ability1 = entry.Ability1;
+        people.Ability2 = entry.Ability2;
+        people.Kind = KindOf(entry);
     }
 }
 
@@ -51,14 +55,14 @@ void WriteTerrain(const ScenarioData& data, GameRecord& record) {
     }
 }
 
-TerrainKindRecord LandmarkKind(std::uint8_t defense, std::string_view comments) {
-    return {.Mobility = 1,
-            .Attack = 0,
-            .Defense = defense,
-            .DirectAttack = true,
-            .IndirectAttack = true,
-            .NeedsBoat = false,
-            .Comments = std::string(comments)};
+TerrainKindRecord KindOf(const Landmark& landmark) {
+    TerrainKindRecord kind;
+    kind.Mobility = 1;
+    kind.Defense = landmark.Defense;
+    kind.DirectAttack = true;
+    kind.IndirectAttack = true;
+    kind.Comments = landmark.Comments;
+    return kind;
 }
 
 void ShowKey(Controls& controls, Terrain code, bool visible) {
@@ -66,9 +70,10 @@ void ShowKey(Controls& controls, Terrain code, bool visible) {
     controls.cmdSeeTerDet[code].Visible = visible;
 }
 
-void SetFortress(Game& game, std::string_view name, const TerrainKindRecord& kind) {
-    game.record.TerrainKinds[Fortress] = kind;
-    game.controls.lblTerrKey[Fortress].Caption = name;
+void SetFortress(Game& game, const Landmark& landmark) {
+    game.record.TerrainKinds[Fortress] = KindOf(landmark);
+    game.record.blnFortressBurns = landmark.BurnsDown;
+    game.controls.lblTerrKey[Fortress].Caption = landmark.Caption;
     ShowKey(game.controls, Fortress, true);
 }
 
@@ -77,7 +82,7 @@ void SetLandmarks(Game& game, LandmarkSteps steps) {
         case LandmarkSteps::None:
             break;
         case LandmarkSteps::CastleVennick:
-            SetFortress(game, "Castle Vennick", LandmarkKind(4, "1 to move and 4 defense units"));
+            SetFortress(game, castleVennick);
             ShowKey(game.controls, Abbey, false);
             break;
         case LandmarkSteps::Abbey:
@@ -87,7 +92,7 @@ void SetLandmarks(Game& game, LandmarkSteps steps) {
             SetStonemantleTerrain(game, true);
             break;
         case LandmarkSteps::Gallowrock:
-            SetFortress(game, "Gallowrock", LandmarkKind(3, "1 to move and 3 defense"));
+            SetFortress(game, gallowrock);
             ShowKey(game.controls, Abbey, false);
             break;
         case LandmarkSteps::StonemantleAndAbbey:
@@ -96,7 +101,7 @@ void SetLandmarks(Game& game, LandmarkSteps steps) {
             break;
         case LandmarkSteps::OstrelleAndAbbey:
             SetAbbeyTerrain(game, false);
-            SetFortress(game, "Ostrelle", LandmarkKind(4, "1 to move and 4 defense units"));
+            SetFortress(game, ostrelle);
             break;
     }
 }
@@ -122,13 +127,13 @@ void SetupScenario(Game& game) {
 }
 
 void SetStonemantleTerrain(Game& game, bool blnOnly) {
-    SetFortress(game, "Stonemantle", LandmarkKind(4, "1 to move and 4 for defense"));
+    SetFortress(game, stonemantleFortress);
     ShowKey(game.controls, Abbey, !blnOnly);
 }
 
 void SetAbbeyTerrain(Game& game, bool blnOnly) {
     Controls& controls = game.controls;
-    game.record.TerrainKinds[Abbey] = LandmarkKind(4, "1 to move and 4 for defense");
+    game.record.TerrainKinds[Abbey] = KindOf(abbey);
     ShowKey(controls, Abbey, true);
     if (blnOnly) {
         controls.lblTerrKey[Abbey].Top = TerrKeyTop(Fortress);

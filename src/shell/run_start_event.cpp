@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/player_error.h"
+#include "core/failure_text.h"
 
 namespace qarn {
 namespace {
@@ -13,10 +13,8 @@ std::optional<std::string> FailureOf(const std::string& name,
     try {
         handler();
         return std::nullopt;
-    } catch (const PlayerError& error) {
-        return error.what();
     } catch (...) {
-        return "Internal error in " + name + ".";
+        return FailureText(std::current_exception(), name);
     }
 }
 

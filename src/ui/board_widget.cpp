@@ -10,6 +10,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/board_display.h"
 #include "core/board_geometry.h"
 #include "ui/board_accessible.h"
 #include "ui/code_layout.h"
@@ -32,10 +33,6 @@ QColor ToQt(Color color) { return QColor::fromRgb(color.rgb); }
 template <typename Squares>
 auto& SquareOf(Squares& squares, QPoint square) {
     return squares[static_cast<std::size_t>(square.x())][static_cast<std::size_t>(square.y())];
-}
-
-bool LookAlike(const SquareLabel& a, const SquareLabel& b) {
-    return a.Caption == b.Caption && a.BackColor == b.BackColor && a.ForeColor == b.ForeColor;
 }
 
 template <typename Function>
@@ -74,12 +71,18 @@ BoardWidget::BoardWidget(const Game& game, QWidget* parent) : QWidget(parent), g
     setAccessibleName("Board");
 }
 
+BoardWidget::ShownSquare BoardWidget::SquareOfGame(QPoint square) const {
+    const SquareLabel& label = SquareOf(game_.controls.lbl, square);
+    return {QString::fromStdString(CaptionOfSquare(game_, square.x(), square.y())), label.BackColor,
+            label.ForeColor};
+}
+
 void BoardWidget::BringUpToDate() {
     ForEachSquare([&](QPoint square) {
-        const SquareLabel& label = SquareOf(game_.controls.lbl, square);
-        SquareLabel& shown = SquareOf(shown_, square);
-        if (LookAlike(label, shown)) return;
-        shown = label;
+        const ShownSquare now = SquareOfGame(square);
+        ShownSquare& shown = SquareOf(shown_, square);
+        if (now == shown) return;
+        shown = now;
         UpdateSquare(square);
         TellChangedSquare(this, square);
     });
@@ -165,13 +168,13 @@ void BoardWidget::PaintLines(QPainter& painter) const {
 }
 
 void BoardWidget::PaintSquare(QPainter& painter, QPoint square) const {
-    const SquareLabel& label = SquareOf(shown_, square);
+    const ShownSquare& label = SquareOf(shown_, square);
     const QRectF inner = InnerSquare(square);
     painter.fillRect(inner, ToQt(label.BackColor));
     PaintRole(painter, square);
-    if (label.Caption.empty()) return;
+    if (label.caption.isEmpty()) return;
     painter.setPen(ToQt(label.ForeColor));
-    PaintCodes(painter, QString::fromStdString(label.Caption), inner);
+    PaintCodes(painter, label.caption, inner);
 }
 
 void BoardWidget::PaintCodes(QPainter& painter, const QString& caption, const QRectF& inner) const {

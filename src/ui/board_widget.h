@@ -55,6 +55,16 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    // What a square shows.
+    struct ShownSquare {
+        QString caption;
+        Color BackColor{0xFFFFFF};
+        Color ForeColor{0x000080};
+
+        friend bool operator==(const ShownSquare&, const ShownSquare&) = default;
+    };
+    ShownSquare SquareOfGame(QPoint square) const;
+
     void PlaceLines();
     QRectF InnerSquare(QPoint square) const;
     void PaintLines(QPainter& painter) const;
@@ -70,7 +80,7 @@ private:
     void UpdateSquare(QPoint square);
 
     const Game& game_;
-    decltype(Controls::lbl) shown_;
+    std::array<std::array<ShownSquare, rowCount + 1>, columnCount + 1> shown_;
     double lineWidth_ = 1;
     std::array<double, columnCount + 1> columnLines_{};  // from the left
     std::array<double, rowCount + 1> rowLines_{};        // from the top

@@ -4,12 +4,10 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
-#include "rules/attack_mode.h"
-#include "rules/movement.h"
 #include "rules/terrain.h"
 #include "ui/design.h"
 #include "ui/text.h"
-#include "window/board_clicks.h"
+#include "window/buttons.h"
 
 namespace qarn {
 namespace {
@@ -78,11 +76,13 @@ ControlPanel::ControlPanel(ScaledArea* area, EventRunner run) : area_(area), run
     MakeFloatingFrames();
 }
 
-QPushButton* ControlPanel::MakeButton(QWidget* parent, const char* name, void (*click)(Game&)) {
+QPushButton* ControlPanel::MakeButton(QWidget* parent, const char* name) {
     auto* button = new QPushButton(parent);
     button->setObjectName(name);
     button->setAutoDefault(true);  // Enter presses it while it has the focus
-    QObject::connect(button, &QPushButton::clicked, [this, click] { run_(click); });
+    QObject::connect(button, &QPushButton::clicked, [this, &known = *FindButton(name)] {
+        run_(std::string(known.Name) + "_Click", known.Click);
+    });
     return button;
 }
 
@@ -97,19 +97,19 @@ void ControlPanel::MakeCheckBoxes() {
         box->setStyle(&checkBoxStyle_);
         box->hide();
         QObject::connect(box, &QCheckBox::clicked, [this, i](bool ticked) {
-            run_([=](Game& game) { game.controls.chkItems[i].Value = ticked; });
+            run_("chkItems_Click", [=](Game& game) { game.controls.chkItems[i].Value = ticked; });
         });
         area_->Place(box, ChkItemsTwips(static_cast<int>(i)));
         chkItems_[i] = box;
     }
-    cmdDoneSel_ = MakeButton(fraCheckBoxes_, "cmdDoneSel", cmdDoneSel_Click);
+    cmdDoneSel_ = MakeButton(fraCheckBoxes_, "cmdDoneSel");
     area_->Place(cmdDoneSel_, cmdDoneSelTwips);
 }
 
 void ControlPanel::MakeButtons() {
-    cmdAttack_ = MakeButton(area_, "cmdAttack", cmdAttack_Click);
-    cmdMove_ = MakeButton(area_, "cmdMove", cmdMove_Click);
-    cmdSquareDetails_ = MakeButton(area_, "cmdSquareDetails", cmdSquareDetails_Click);
+    cmdAttack_ = MakeButton(area_, "cmdAttack");
+    cmdMove_ = MakeButton(area_, "cmdMove");
+    cmdSquareDetails_ = MakeButton(area_, "cmdSquareDetails");
     Tighten(cmdSquareDetails_);
     area_->Place(cmdAttack_, cmdAttackTwips);
     area_->Place(cmdMove_, cmdMoveTwips);
@@ -131,7 +131,7 @@ void ControlPanel::MakeTerrainKey() {
         button->setObjectName(QString("cmdSeeTerDet(%1)").arg(code));
         button->setAutoDefault(true);
         QObject::connect(button, &QPushButton::clicked, [this, code] {
-            run_([code](Game& game) { cmdSeeTerDet_Click(game, code); });
+            run_("cmdSeeTerDet_Click", [code](Game& game) { cmdSeeTerDet_Click(game, code); });
         });
         cmdSeeTerDet_[code] = button;
     }
@@ -199,7 +199,7 @@ void ControlPanel::ShowCheckBoxes(const Game& game) {
 
 void ControlPanel::ShowTerrainKey(const Controls& controls) {
     for (std::size_t i = 0; i < terrainKindCount; ++i) {
-        const Label& key = controls.lblTerrKey[i];
+        const KeyLabel& key = controls.lblTerrKey[i];
         lblTerrKey_[i]->ShowText(ToLabelText(key.Caption));
         lblTerrKey_[i]->setVisible(key.Visible);
         area_->Place(lblTerrKey_[i], LblTerrKeyTwips(key.Top));

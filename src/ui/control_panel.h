@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <array>
 #include <functional>
+#include <string>
 
 #include "core/game.h"
 #include "ui/check_box_style.h"
@@ -14,8 +15,8 @@
 
 namespace qarn {
 
-/// Runs the handler of an event of the game window.
-using EventRunner = std::function<void(const std::function<void(Game&)>&)>;
+/// Runs the handler of an event of the game window, called by the handler's name.
+using EventRunner = std::function<void(const std::string&, const std::function<void(Game&)>&)>;
 
 /// Everything on the game window but the board and the menus: the terrain key, buttons, check
 /// boxes, the status line and the frames that float over the board.
@@ -40,7 +41,7 @@ private:
     void MakeTerrainKey();
     void MakeLabels();
     void MakeFloatingFrames();
-    QPushButton* MakeButton(QWidget* parent, const char* name, void (*click)(Game&));
+    QPushButton* MakeButton(QWidget* parent, const char* name);
 
     void ShowCheckBoxes(const Game& game);
     void ShowTerrainKey(const Controls& controls);

@@ -40,6 +40,8 @@ constexpr QRect CmdSeeTerDetTwips(int top) { return QRect(14760, top - 30, 375, 
 constexpr QRect LblTerrainDescriptionTwips(int top) { return QRect(10320, top, 2895, 1575); }
 
 /// The quick information stands where the controls say.
-constexpr QRect FraQuickDetailsTwips(int left, int top) { return QRect(left, top, 1575, 1215); }
+constexpr QRect FraQuickDetailsTwips(int left, int top) {
+    return QRect(left, top, quickInfoWidthTwips, quickInfoHeightTwips);
+}
 
 }  // namespace qarn

@@ -35,33 +35,38 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
           .ports = {dialogs_, random, help_, desktop.settings, desktop.fileTypes, desktop.folders}},
       area_(new ScaledArea(designTwips, DesignFontSize(font()))),
       board_(new BoardWidget(game_, area_)),
-      panel_(area_, [this](const auto& handler) { Run(handler); }),
+      panel_(area_, [this](const auto& name, const auto& handler) { Run(name, handler); }),
       menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }) {
     setWindowIcon(WindowIcon());
     setAttribute(Qt::WA_KeyboardFocusChange);  // shows where the focus is from the start
     setCentralWidget(area_);
     area_->Place(board_, boardTwips);
     board_->setFocus();
-    connect(board_, &BoardWidget::SquareClicked, this,
-            [this](int X, int Y) { Run([=](Game& game) { lblX_Click(game, X, Y); }); });
+    connect(board_, &BoardWidget::SquareClicked, this, [this](int X, int Y) {
+        Run("lblX_Click", [=](Game& game) { lblX_Click(game, X, Y); });
+    });
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
 
     tmrAI_.setObjectName("tmrAI");
     tmrAI_.setInterval(tmrAIInterval);
     tmrAI_.setSingleShot(true);
-    tmrAI_.callOnTimeout(this, [this] { Run(tmrAI_Timer); });
+    tmrAI_.callOnTimeout(this, [this] { RunAlone([this] { Tick(game_); }); });
     RestoreWindowPlace(*this, desktop.settings);
 }
 
 void FrmGame::Open(const std::string& strGamePath) {
-    Run([&](Game& game) { Form_Load(game, strGamePath); });
+    Run("Form_Load", [&](Game& game) { Form_Load(game, strGamePath); });
+}
+
+void FrmGame::Run(const std::string& name, const std::function<void(Game&)>& handler) {
+    RunAlone([&] { RunEvent(game_, name, handler); });
 }
 
 // One event at a time: what comes in while a box is open, as the timer does, is passed over.
-void FrmGame::Run(const std::function<void(Game&)>& handler) {
+void FrmGame::RunAlone(const std::function<void()>& event) {
     if (running_) return;
     running_ = true;
-    RunEvent(game_, handler);
+    event();
     running_ = false;
     BringUpToDate();
 }
@@ -106,7 +111,7 @@ void FrmGame::ShowAbout() {
     about_ = new FrmAbout(this);
     connect(about_, &QDialog::finished, this, [this] {
         about_ = nullptr;
-        Run(frmAbout_Unload);
+        Run("frmAbout_Unload", frmAbout_Unload);
     });
     about_->show();
 }
@@ -119,7 +124,8 @@ void FrmGame::End() {
 }
 
 void FrmGame::Choose(const MenuCommand& command) {
-    if (CanChoose(game_.controls, command)) Run(command.Click);
+    if (!CanChoose(game_.controls, command)) return;
+    Run(std::string(command.Name) + "_Click", command.Click);
 }
 
 // ---- Events of the window itself ----
@@ -134,7 +140,7 @@ void FrmGame::changeEvent(QEvent* event) {
 
 void FrmGame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    Run(Form_Unload);
+    Run("Form_Unload", Form_Unload);
 }
 
 // Buttons act at once on their access keys, where Qt waits a while, and leave the arrow keys to the

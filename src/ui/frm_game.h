@@ -36,7 +36,8 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void Run(const std::function<void(Game&)>& handler);
+    void Run(const std::string& name, const std::function<void(Game&)>& handler);
+    void RunAlone(const std::function<void()>& event);
     void BringUpToDate();
     void ShowWidgets();
     void Choose(const MenuCommand& command);

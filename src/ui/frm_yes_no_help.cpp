@@ -58,7 +58,8 @@ void FrmYesNoHelp::Lay() {
     cmdHelp_.setText(ToQt(window_.cmdHelp.Caption));
     connect(&cmdYes_, &QPushButton::clicked, this, [this] { Run("cmdYes_Click", cmdYes_Click); });
     connect(&cmdNo_, &QPushButton::clicked, this, [this] { Run("cmdNo_Click", cmdNo_Click); });
-    connect(&cmdHelp_, &QPushButton::clicked, this, [this] { Run("cmdHelp_Click", cmdHelp_Click); });
+    connect(&cmdHelp_, &QPushButton::clicked, this,
+            [this] { Run("cmdHelp_Click", cmdHelp_Click); });
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     for (QPushButton* button : {&cmdYes_, &cmdNo_, &cmdHelp_}) buttons->addWidget(button);

@@ -2,12 +2,10 @@
 
 #include <QMenu>
 
+#include "ui/text.h"
+
 namespace qarn {
 namespace {
-
-QString ToQt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 bool IsVisible(const Controls& controls, const MenuCommand& command) {
     return command.State == nullptr || (controls.*command.State).Visible;

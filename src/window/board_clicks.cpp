@@ -1,5 +1,6 @@
 #include "window/board_clicks.h"
 
+#include "core/board_geometry.h"
 #include "core/details_mode.h"
 #include "core/eight_bit.h"
 #include "rules/combat.h"
@@ -9,7 +10,7 @@ namespace qarn {
 namespace {
 
 // Consecutive equal names are told once, with their number.
-std::string Enumerate(const std::vector<std::string>& names) {
+std::string Enumerate(const std::vector<std::string_view>& names) {
     std::string text;
     for (std::size_t first = 0; first < names.size();) {
         std::size_t next = first + 1;
@@ -73,8 +74,11 @@ void PositionQuickInfo(Game& game) {
     const int X = game.record.bytCurrentX;
     const int Y = game.record.bytCurrentY;
     Marker& frame = game.controls.fraQuickDetails;
-    frame.Left = X >= 17 ? 720 * X - 2180 : 720 * X + 130;
-    frame.Top = Y == 10 ? 960 * Y - 2060 : 960 * Y + 130;
+    constexpr int shift = 5;  // twips to the left and upwards
+    frame.Left =
+        LeftOfColumn(X) + (X >= columnCount - 1 ? -quickInfoWidthTwips : squareWidthTwips) - shift;
+    frame.Top =
+        TopOfRow(Y) + (Y == rowCount ? -quickInfoHeightTwips : squareHeightTwips) - shift;
     frame.Visible = true;
 }
 

@@ -1,25 +1,40 @@
 #include "window/run_event.h"
 
-#include <exception>
+#include "core/failure_text.h"
 
 namespace qarn {
+namespace {
 
-void RunEvent(Game& game, const std::function<void(Game&)>& handler) {
-    const GameRecord record = game.record;
-    const Controls controls = game.controls;
-    const bool open = game.blnOpen;
+void Remember(Game& game) {
+    game.beforeEvent.record = game.record;
+    game.beforeEvent.controls = game.controls;
+    game.beforeEvent.blnOpen = game.blnOpen;
+}
+
+void RollBack(Game& game) {
+    game.record = game.beforeEvent.record;
+    game.controls = game.beforeEvent.controls;
+    game.blnOpen = game.beforeEvent.blnOpen;
+    game.happenings.clear();
+}
+
+}  // namespace
+
+bool RunEvent(Game& game, std::string_view name, const std::function<void(Game&)>& handler) {
+    Remember(game);
+    game.happenings.clear();
     try {
         handler(game);
     } catch (const ProgramEnd& end) {
         game.blnOpen = false;
         game.blnEnded = true;
         game.exitStatus = end.exitStatus;
-    } catch (const std::exception& error) {
-        game.record = record;
-        game.controls = controls;
-        game.blnOpen = open;
-        game.ports.dialogs.Tell(error.what());
+    } catch (...) {
+        RollBack(game);
+        game.ports.dialogs.Tell(FailureText(std::current_exception(), name));
+        return false;
     }
+    return true;
 }
 
 }  // namespace qarn

@@ -1,4 +1,4 @@
-#include "ai/search_library.h"
+#include "ai/classic/search_library.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "ai/paths.h"
+#include "ai/classic/paths.h"
 
 namespace qarn {
 namespace {
@@ -82,16 +82,14 @@ TEST(SortDescending, OrdersEqualKeysByItsPartition) {
 }
 
 TEST(Occupancy, CountsTransportPiecesAsGroupsButNotAsEnemies) {
-    Roster People;
-    People[1].Side = 2;
-    People[1].LocationX = 3;
-    People[1].LocationY = 4;
-    People[24].LocationX = 5;
-    People[24].LocationY = 6;
-    EXPECT_TRUE(IsAnyGroupAt(People, 3, 4) && IsAnyGroupAt(People, 5, 6));
-    EXPECT_FALSE(IsAnyGroupAt(People, 4, 3));
-    EXPECT_TRUE(IsEnemyAt(People, 3, 4, 1));
-    EXPECT_FALSE(IsEnemyAt(People, 3, 4, 2) || IsEnemyAt(People, 5, 6, 1));
+    Position position;
+    position.People[1].Side = 2;
+    Place(position, {1}, {3, 4});
+    Place(position, {24}, {5, 6});
+    EXPECT_TRUE(IsAnyGroupAt(position, {3, 4}) && IsAnyGroupAt(position, {5, 6}));
+    EXPECT_FALSE(IsAnyGroupAt(position, {4, 3}));
+    EXPECT_TRUE(IsEnemyAt(position, {3, 4}, 1));
+    EXPECT_FALSE(IsEnemyAt(position, {3, 4}, 2) || IsEnemyAt(position, {5, 6}, 1));
 }
 
 }  // namespace

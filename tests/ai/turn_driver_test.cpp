@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <random>
 
+#include "core/board_display.h"
 #include "core/turn_cycle.h"
 #include "support/played_game.h"
 #include "window/load_game.h"
-#include "window/run_event.h"
 
 namespace qarn {
 namespace {
@@ -22,7 +22,7 @@ public:
     }
 
     void Tick() {
-        if (game.controls.tmrAI.Enabled) RunEvent(game, tmrAI_Timer);
+        if (game.controls.tmrAI.Enabled) qarn::Tick(game);
     }
 
     // Lets the timer tick while it is enabled in side 1's turn. Tells after each tick where the
@@ -43,7 +43,7 @@ public:
     }
 
     std::string Square(std::size_t X, std::size_t Y) const {
-        return game.controls.lbl[X][Y].Caption;
+        return CaptionOfSquare(game, static_cast<int>(X), static_cast<int>(Y));
     }
 };
 
@@ -152,31 +152,57 @@ TEST(TurnDriver, ForgetsTheAttackerThatThePersonNamed) {
     EXPECT_FALSE(played.game.record.blnAttackMode);
 }
 
-// A person attacks for the computer while the boxes of its stack are showing, and that stack dies
-// before the computer confirms the boxes.
-TEST(TurnDriver, DoesNotMoveTheDead) {
-    ComputerGame played("WS@10,10 TS@10,10 Z@12,10 LS@16,10 V@16,10 WA3@17,10 ZA3@10,9");
-    played.game.record.People[15].Attack = 60;
-    for (const int roll : {1, 1, 1, 1}) played.random.QueueRoll(roll);
-    played.Do("press cmdAttack");
-    for (int tick = 0; tick < 2; ++tick) played.Tick();
-    played.Play("> click 16 10; click 17 10; press cmdAttack; click 10 9; click 10 10");
-    played.TickOn();
-    EXPECT_EQ(played.Square(10, 10) + played.Square(11, 10) + played.Square(12, 10), "Z    ");
+// What a person does after some ticks of the computer's action takes its move away. When the turn
+// comes back, the computer forgets that action, and chooses afresh what can still be done.
+TEST(TurnDriver, ForgetsAnActionWhoseMoveIsGone) {
+    const std::string pass = "; press cmdMove; click 17 10; press cmdDoneSel; press cmdMove";
+    struct Row {
+        const char* whatEndsIt;
+        int ticks;
+        std::string meddling;
+    };
+    const Row rows[] = {
+        {"Done Moving", 3, "press cmdMove" + pass},
+        {"an attack by command", 2, "click 15 10; roll 1 1; click 16 10" + pass},
+        {"the casualty", 6, "tick 1; press cmdDoneSel" + pass},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.whatEndsIt);
+        ComputerGame played("WS@10,10 TS@10,10 S@12,10 Z@11,9 LS@15,10 V@15,10 ZA1@16,10 WA@17,10");
+        if (row.ticks == 2) played.Do("press cmdAttack");
+        if (row.ticks == 6) {
+            played.Load("Q@10,10 J@10,10 V@10,10 Z@12,10 WA@17,10");
+            played.game.record.blnComputer[1] = true;
+            ShowTurn(played.game, false);
+            played.dialogs.queued = {Answer::Yes};
+            played.random.QueueRoll(5);
+        }
+        for (int tick = 0; tick < row.ticks; ++tick) played.Tick();
+        EXPECT_TRUE(played.game.record.Action.blnAIBusy);
+        played.Play("> " + row.meddling);
+        EXPECT_EQ(played.game.record.bytTurn, 1);
+        EXPECT_TRUE(played.game.controls.tmrAI.Enabled);
+        played.Tick();
+        const ActionRecord& action = played.game.record.Action;
+        const bool chose = action.blnAIBusy && action.bytAIStep == 1;
+        EXPECT_TRUE(chose || played.dialogs.boxes.back().Text == "No good move!");
+        EXPECT_FALSE(played.game.controls.shpHighlight.Visible);
+    }
 }
 
-// The computer goes on to confirm the casualty that the person has confirmed already, and confirms
-// what the person is selecting.
-TEST(TurnDriver, LeavesNobodyWithoutAMoveButton) {
-    ComputerGame played("Q@10,10 J@10,10 V@10,10 Z@12,10 ZA1@1,1");
-    played.game.record.blnComputer[2] = true;
-    played.dialogs.queued = {Answer::Yes};
-    played.random.QueueRoll(5);
-    for (int tick = 0; tick < 6; ++tick) played.Tick();
-    played.Play("> tick 1; press cmdDoneSel; press cmdMove; click 12 10; press cmdSquareDetails");
-    for (int tick = 0; tick < 2; ++tick) played.Tick();
-    played.Play("> press cmdSquareDetails; press cmdMove");
+// The person burns Gallowrock by stepping in, which passes the turn while the move still waits for
+// its end: the computer waits too.
+TEST(TurnDriver, WaitsForAPersonsFinishedMove) {
+    ComputerGame played("turn2 WA@14,4 WA1@14,4 HF@15,4 Q@10,10 J@13,10 15,4=7");
+    played.Play("> press cmdMove; click 14 4; press cmdDoneSel; answer yes; click 15 4");
+    EXPECT_EQ(played.game.record.bytTerrain[15][4], Sand);
     EXPECT_EQ(played.game.record.bytTurn, 1);
+    for (int tick = 0; tick < 3; ++tick) played.Tick();
+    EXPECT_TRUE(played.game.controls.tmrAI.Enabled);
+    EXPECT_FALSE(played.game.record.Action.blnAIBusy);
+    EXPECT_EQ(played.Square(15, 4), "WA   WA1  HF   ");
+    played.Play("> press cmdMove");
+    EXPECT_EQ(played.game.record.bytTurn, 2);
 }
 
 // Does at random what a person can do, and lets the timer tick in between.

@@ -13,14 +13,7 @@ namespace {
 TEST(GameRecord, ListsThePeopleOfASquare) {
     GameRecord record;
     for (const std::size_t i : {4u, 9u, 20u}) {
-        record.People[i] = {.Name = "Band",
-                            .Code = "G  ",
-                            .Side = 2,
-                            .LocationX = 3,
-                            .LocationY = 7,
-                            .Mobility = 100,
-                            .Attack = 1,
-                            .Defense = 27};
+        record.People[i] = {{2, 3, 7, 100, 1, 27}, "Band", "G  "};
     }
     record.People[20].Side = 0;
     const SquareList list = LocationOfPeople(record, 3, 7);
@@ -28,8 +21,8 @@ TEST(GameRecord, ListsThePeopleOfASquare) {
     EXPECT_EQ(list.bytTotalPeople, 2);
     EXPECT_EQ(std::vector<std::uint8_t>(list.People().begin(), list.People().end()),
               (std::vector<std::uint8_t>{4, 9, 20}));
-    EXPECT_EQ(GetPeopleCodes(record, list.People()), std::vector<std::string>(3, "G  "));
-    EXPECT_EQ(GetPeopleNames(record, list.People()), std::vector<std::string>(3, "Band"));
+    EXPECT_EQ(GetPeopleCodes(record, list.People()), std::vector<std::string_view>(3, "G  "));
+    EXPECT_EQ(GetPeopleNames(record, list.People()), std::vector<std::string_view>(3, "Band"));
     EXPECT_EQ(LocationOfPeople(record, 7, 3).bytNumberofPeople, 0);
 
     Strength totals{.Mobility = 55, .Attack = 10, .Defense = 0};

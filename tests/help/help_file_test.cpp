@@ -123,9 +123,9 @@ TEST(HelpFile, RostersAreThoseOfTheGame) {
         const std::string text = TextOf(Page(name));
         for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
             if (entry.Side == 0) continue;
-            const std::string row = " " + std::string(entry.Code) + " " + std::string(entry.Name) +
-                                    " " + std::to_string(entry.Mobility) + " " +
-                                    std::to_string(entry.Attack) + " " +
+            const std::string row = " " + std::string(entry.Code.Text()) + " " +
+                                    std::string(entry.Name) + " " + std::to_string(entry.Mobility) +
+                                    " " + std::to_string(entry.Attack) + " " +
                                     std::to_string(entry.Defense) + " ";
             const std::size_t badbeasts = text.find(" Badbeasts ");
             const std::size_t at = text.find(row);

@@ -12,7 +12,7 @@ PROGRAM = sys.argv.pop(1)
 NEW = "new g.tgf HM Red human Blue human"
 KEYS = """ok error boxes help ended open caption record squares buttons terrainKey chkItems menus
     lblStatus lblDetailMore lblSummary lblTerrainDescription fraQuickDetails shpHighlight tmrAI
-    blnAIBusy""".split()
+    blnAIBusy happenings""".split()
 RECORD_KEYS = """bytScenario bytTurn strPlayerName blnComputer bytPeopleLeft strGameName strGamePath
     bytCurrentX bytCurrentY blnMoveMode blnAttackMode blnDetailsMode bytMobilityLeft
     bytSelectedPeople bytTerrain People""".split()
@@ -79,9 +79,9 @@ class ConsoleTest(unittest.TestCase):
         objects = self.play("random 0", "# a comment", "", NEW, "press cmdMove", "click 14 7",
                             "press cmdDoneSel", "  state  ")
         self.assertEqual(len(objects), 6)
-        self.assertEqual(list(objects[0]), KEYS[:6])
+        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings"])
         last = objects[4]
-        self.assertEqual(last, objects[5])
+        self.assertEqual({**last, "happenings": []}, objects[5])
         self.assertEqual((list(last), list(last["record"])), (KEYS, RECORD_KEYS))
         self.assertEqual(last["lblStatus"],
                          "You have 7 mobility units.\nSelect your destination.")
@@ -120,7 +120,7 @@ class ConsoleTest(unittest.TestCase):
         for command, done, state in zip(words(REFUSED), objects[2::2], objects[3::2], strict=True):
             self.assertTrue(done["error"] and not done["ok"], command)
             self.assertEqual({**done, "ok": True, "error": "", "boxes": []}, state, command)
-            self.assertEqual(state, objects[1], command)
+            self.assertEqual(state, {**objects[1], "happenings": []}, command)
         self.assertEqual(os.listdir(self.folder), ["g.tgf"])
         # Nothing of a refused command waits for later.
         objects = self.play("answer yes maybe", "random 0.9 x", "random 0", NEW, "press cmdAttack",
@@ -132,8 +132,8 @@ class ConsoleTest(unittest.TestCase):
     def test_exit_statuses(self):
         self.assertEqual(len(self.play(NEW, "quit", "state")), 1)
         self.assertEqual(self.play(NEW, "close", "click 1 1")[1:], [
-            {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False}
-            for error in ("", "The program has ended.")])
+            {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False,
+             "happenings": []} for error in ("", "The program has ended.")])
         for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"]):
             run = self.run_program("", *arguments)
             self.assertEqual((run.returncode, run.stdout), (2, b""))

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "rules/casualties.h"
-#include "rules/step.h"
+#include "rules/questions/casualties.h"
+#include "rules/questions/step.h"
+#include "rules/questions/terrain_effect.h"
 #include "rules/terrain.h"
 #include "scenarios/setup.h"
 #include "support/sequence.h"
@@ -31,10 +33,10 @@ TEST(Movement, CostsOfSteps) {
         {{3, 16}, "151132278"},  // not together, though
         {{12, 13}, "151132278"}, {{3, 19}, "151132278"}};
     for (const auto& [people, expected] : rows) {
-        std::copy(people.begin(), people.end(), record.bytSelectedPeople.begin() + 1);
-        record.bytSelectedCount = static_cast<std::uint8_t>(people.size());
         std::string costs;
-        for (std::uint8_t T = Plain; T <= Abbey; ++T) costs += std::to_string(StepCost(record, T));
+        for (std::uint8_t T = Plain; T <= Abbey; ++T) {
+            costs += std::to_string(StepCost(PositionOf(record), PeopleSet::Of(people), T));
+        }
         EXPECT_EQ(costs, expected) << "of " << int{people[0]};
     }
 }
@@ -63,7 +65,8 @@ TEST(Combat, TerrainModifiers) {
         std::string row;
         for (const auto& [defending, direct] :
              {std::pair{true, false}, {true, true}, {false, true}}) {
-            const TerrainEffect effect = TerrainModifiers(record, 1, 1, defending, 10, 10, direct);
+            const TerrainEffect effect =
+                TerrainModifiers(PositionOf(record), {1, 1}, defending, 10, 10, direct);
             row += effect.blnAllowed ? std::to_string(effect.bytAttackOut) + "/" +
                                            std::to_string(effect.bytDefenseOut) + " "
                                      : "barred ";
@@ -92,11 +95,11 @@ TEST(Combat, EndsTheGame) {
 
 TEST(Casualties, TheComputersChoice) {
     const PlayedGame played("Q@1,1 TS@1,1 J@1,1 SK@1,1 BT@2,2 V@2,2 CT@3,3 Z@9,9 Z.Attack=97");
-    const GameRecord& record = played.game.record;
-    EXPECT_EQ(ChooseDeadAnimal(record, 1, 1), 3);  // J and SK are equal: the first is kept
-    EXPECT_EQ(ChooseDeadAnimal(record, 2, 2), 1);
-    EXPECT_EQ(ChooseDeadAnimal(record, 3, 3), 1);  // nobody
-    EXPECT_EQ(ChooseDeadAnimal(record, 9, 9), 1);  // nobody below 100
+    const Position position = PositionOf(played.game.record);
+    EXPECT_EQ(ChooseDeadAnimal(position, {1, 1}), 3);  // J and SK are equal: the first is kept
+    EXPECT_EQ(ChooseDeadAnimal(position, {2, 2}), 1);
+    EXPECT_EQ(ChooseDeadAnimal(position, {3, 3}), 1);  // nobody
+    EXPECT_EQ(ChooseDeadAnimal(position, {9, 9}), 1);  // nobody below 100
 }
 
 TEST(Casualties, BoxesBeyondTheListAreUnticked) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/board_display.h"
 #include "rules/casualties.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
@@ -53,16 +54,17 @@ std::string SquaresOf(Terrain code, const GameRecord& record) {
 
 // The row of the terrain key as a person reads it: caption, place, and what the button tells.
 std::string KeyRow(Terrain code, const Game& game) {
-    const Label& label = game.controls.lblTerrKey[code];
+    const KeyLabel& label = game.controls.lblTerrKey[code];
     const Button& button = game.controls.cmdSeeTerDet[code];
     const TerrainKindRecord& kind = game.record.TerrainKinds[code];
     EXPECT_EQ(label.Top, button.Top);
-    std::string row = label.Visible ? label.Caption + " at " + std::to_string(label.Top) : "-";
+    const std::string caption(label.Caption);
+    std::string row = label.Visible ? caption + " at " + std::to_string(label.Top) : "-";
     if (button.Visible) row += " ...";
     if (kind.Mobility == 0) return row;
     EXPECT_TRUE(kind.Mobility == 1 && kind.Attack == 0 && kind.DirectAttack &&
                 kind.IndirectAttack && !kind.NeedsBoat);
-    return row + " " + std::to_string(kind.Defense) + " " + kind.Comments;
+    return row + " " + std::to_string(kind.Defense) + " " + std::string(kind.Comments);
 }
 
 TEST(Setup, LandmarksTheirKeyAndGroups) {
@@ -74,7 +76,7 @@ TEST(Setup, LandmarksTheirKeyAndGroups) {
     const char* onlyAbbey = "Thornmere at 2640 ... 4 1 to move and 4 for defense";
     const Row rows[] = {
         {"(15,7)(16,7)", "", "Castle Vennick at 2640 ... 4 1 to move and 4 defense units", "-"},
-        {"", "", "- ...", "- ..."},
+        {"", "", "-", "-"},
         {"", "(5,3)", "-", onlyAbbey},
         {"(1,9)(1,10)(2,9)(2,10)", "(7,7)(7,8)", mantle, abbey},
         {"(4,9)(5,8)(5,9)(6,9)", "", mantle, "-"},
@@ -111,7 +113,7 @@ TEST(Setup, HollowmereAsItStarts) {
     EXPECT_EQ(played.game.record.bytTerrain[1][2], Plain);
     EXPECT_EQ(played.game.record.bytTerrain[18][10], Plain);
     EXPECT_EQ(played.game.record.bytTerrain[14][1], Sand);
-    EXPECT_EQ(played.game.controls.lbl[15][4].Caption, "WA   WA1  BT   ");
+    EXPECT_EQ(CaptionOfSquare(played.game, 15, 4), "WA   WA1  BT   ");
     EXPECT_EQ(played.game.record.People[24].LocationX, 15);
     EXPECT_EQ(played.game.record.People[18].Defense, 4);
 }

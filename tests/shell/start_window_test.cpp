@@ -28,7 +28,8 @@ struct FakeWastebasket : Wastebasket {
 
 // A control as a person sees it: not at all, or its name, (in parentheses) while it is disabled.
 template <typename Kind>
-std::string Seen(const Kind& control, const std::string& name) {
+std::string Seen(const Kind& control, std::string_view caption) {
+    const std::string name(caption);
     if (!control.Visible) return "";
     return control.Enabled ? name + " " : "(" + name + ") ";
 }

@@ -4,12 +4,12 @@
 #include <sstream>
 #include <utility>
 
-#include "rules/attack_mode.h"
-#include "rules/movement.h"
+#include "core/board_display.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "window/board_clicks.h"
+#include "window/buttons.h"
 #include "window/load_game.h"
 #include "window/menu_commands.h"
 #include "window/run_event.h"
@@ -32,8 +32,9 @@ std::string Pair(int first, int second) {
 std::string OnOff(bool on) { return on ? "on" : "off"; }
 
 std::string ButtonFact(const Button& button) {
+    const std::string caption(button.Caption);
     if (!button.Visible) return "hidden";
-    return button.Enabled ? "[" + button.Caption + "]" : "(" + button.Caption + ")";
+    return button.Enabled ? "[" + caption + "]" : "(" + caption + ")";
 }
 
 std::string ItemsFact(const Controls& controls) {
@@ -41,7 +42,7 @@ std::string ItemsFact(const Controls& controls) {
     for (const CheckBox& box : controls.chkItems) {
         const std::string mark = box.Value ? "x" : " ";
         if (!box.Visible) continue;
-        items += (box.Enabled ? "[" + mark + "]" : "(" + mark + ")") + box.Caption;
+        items += (box.Enabled ? "[" + mark + "]" : "(" + mark + ")").append(box.Caption);
     }
     return items.empty() ? "none" : "<" + items + ">";
 }
@@ -76,7 +77,7 @@ std::vector<Fact> FactsOf(const Game& game) {
     for (std::uint8_t X = 1; X <= columnCount; ++X) {
         for (std::uint8_t Y = 1; Y <= rowCount; ++Y) {
             const std::string square = Pair(X, Y);
-            facts.push_back({"@", square, '"' + controls.lbl[X][Y].Caption + '"'});
+            facts.push_back({"@", square, '"' + CaptionOfSquare(game, X, Y) + '"'});
             facts.push_back({"@", "terrain of " + square, std::to_string(record.bytTerrain[X][Y])});
         }
     }
@@ -130,12 +131,6 @@ const std::map<std::string, std::uint8_t PeopleRecord::*> strengths{
     {"Attack", &PeopleRecord::Attack},
     {"Side", &PeopleRecord::Side}};
 
-const std::map<std::string_view, std::pair<Button Controls::*, void (*)(Game&)>> buttons{
-    {"cmdMove", {&Controls::cmdMove, cmdMove_Click}},
-    {"cmdAttack", {&Controls::cmdAttack, cmdAttack_Click}},
-    {"cmdDoneSel", {&Controls::cmdDoneSel, cmdDoneSel_Click}},
-    {"cmdSquareDetails", {&Controls::cmdSquareDetails, cmdSquareDetails_Click}}};
-
 }  // namespace
 
 std::string Replaced(std::string text, const std::string& what, const std::string& with) {
@@ -161,7 +156,7 @@ std::string SavedGame(const std::string& position) {
         } else if (std::sscanf(word.c_str(), "%3[^@]@%d,%d", group, &x, &y) == 3) {
             const auto& roster = DataOfScenario(scenario).Roster;
             std::size_t i = 0;
-            while (roster.at(i).Code != group || places[2 * i] != 0) ++i;
+            while (roster.at(i).Code.Text() != group || places[2 * i] != 0) ++i;
             places[2 * i] = x;
             places[2 * i + 1] = y;
         } else if (std::sscanf(word.c_str(), "%d,%d=%d", &x, &y, &terrain) == 3) {
@@ -194,7 +189,7 @@ void PlayedGame::Open(const std::string& contents) {
 
 void PlayedGame::Open() {
     game.blnOpen = game.blnEnded = false;
-    RunEvent(game, [&](Game& g) { Form_Load(g, path); });
+    RunEvent(game, "Form_Load", [&](Game& g) { Form_Load(g, path); });
 }
 
 void PlayedGame::Load(const std::string& position) {
@@ -251,12 +246,14 @@ bool PlayedGame::Do(const std::string& command) {
     words >> verb;
     if (verb == "click") {
         words >> X >> Y;
-        RunEvent(game, [&](Game& g) { lblX_Click(g, X, Y); });
+        RunEvent(game, "lblX_Click", [&](Game& g) { lblX_Click(g, X, Y); });
     } else if (verb == "press") {
         words >> name;
-        const auto& [button, click] = buttons.at(name);
-        if (!(game.controls.*button).Visible || !(game.controls.*button).Enabled) return false;
-        RunEvent(game, click);
+        const WindowButton* button = FindButton(name);
+        if (button == nullptr) throw std::invalid_argument("There is no button " + name);
+        const Button& state = game.controls.*button->State;
+        if (!state.Visible || !state.Enabled) return false;
+        RunEvent(game, name, button->Click);
     } else if (verb == "tick" || verb == "untick") {
         words >> X;
         CheckBox& box = game.controls.chkItems.at(static_cast<std::size_t>(X));
@@ -266,13 +263,13 @@ bool PlayedGame::Do(const std::string& command) {
         words >> name;
         const MenuCommand* item = FindMenuCommand(name);
         if (item == nullptr || !CanChoose(game.controls, *item)) return false;
-        RunEvent(game, item->Click);
+        RunEvent(game, name, item->Click);
     } else if (verb == "saveas") {
         words >> name;
         dialogs.saveFileName = name.empty() ? "" : folder / name;
         return Do("menu mnuSaveAs");
     } else if (verb == "close") {
-        RunEvent(game, Form_Unload);
+        RunEvent(game, "Form_Unload", Form_Unload);
     } else if (verb == "answer") {
         while (words >> name) dialogs.queued.push_back(name == "yes" ? Answer::Yes : Answer::No);
     } else if (verb == "roll") {
@@ -291,15 +288,17 @@ bool PlayedGame::Do(const std::string& command) {
 void PlayedGame::ExpectBoardShown() const {
     std::array<std::array<std::string, rowCount + 1>, columnCount + 1> codes;
     for (const PeopleRecord& people : game.record.People) {
-        codes.at(people.LocationX).at(people.LocationY) += people.Code + "  ";
+        codes.at(people.LocationX).at(people.LocationY).append(people.Code).append("  ");
     }
     for (std::size_t X = 1; X <= columnCount; ++X) {
         for (std::size_t Y = 1; Y <= rowCount; ++Y) {
             const SquareLabel& label = game.controls.lbl[X][Y];
             const TerrainColors colors = ColorsOfTerrain(game.record.bytTerrain[X][Y]);
-            EXPECT_TRUE(label.Caption == codes[X][Y] && label.BackColor == colors.BackColor &&
+            const std::string caption =
+                CaptionOfSquare(game, static_cast<int>(X), static_cast<int>(Y));
+            EXPECT_TRUE(caption == codes[X][Y] && label.BackColor == colors.BackColor &&
                         label.ForeColor == colors.ForeColor)
-                << X << "," << Y << " shows " << label.Caption << " instead of " << codes[X][Y];
+                << X << "," << Y << " shows " << caption << " instead of " << codes[X][Y];
         }
     }
 }

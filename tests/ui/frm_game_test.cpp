@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QMenuBar>
 
+#include "core/board_display.h"
 #include "support/game_window.h"
 
 namespace qarn {
@@ -24,7 +25,7 @@ TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
     EXPECT_EQ(Focus(), "board");
     Key(Qt::Key_Return);
     EXPECT_EQ(Text("lblStatus"), "You have 1 mobility units left.");
-    EXPECT_EQ(window->ShownGame().controls.lbl[9][6].Caption, "Q    ");
+    EXPECT_EQ(CaptionOfSquare(window->ShownGame(), 9, 6), "Q    ");
     Key(Qt::Key_M, Qt::AltModifier);
     EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
 }

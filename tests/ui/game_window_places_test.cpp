@@ -4,6 +4,7 @@
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "support/game_window.h"
+#include "ui/text.h"
 
 namespace qarn {
 namespace {
@@ -135,9 +136,9 @@ TEST_F(Places, HaveRoomForEveryCodeBesideItsCheckMark) {
             box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box).width();
         for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
             for (const RosterEntry& people : DataOfScenario(scenario).Roster) {
-                const QString code = QString::fromUtf8(people.Code.data(), people.Code.size());
+                const QString code = ToQt(people.Code.Text());
                 EXPECT_LE(box->fontMetrics().horizontalAdvance(code), room)
-                    << people.Code << " at " << scale;
+                    << code.toStdString() << " at " << scale;
             }
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/board_display.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -56,7 +57,7 @@ TEST_F(LoadGame, SavedGamesComeBack) {
         Open(saved);
         EXPECT_FALSE(std::filesystem::exists(played.folder / ".qarn-save-1-0"));
         EXPECT_EQ(record.People[12].Name, "Sentinel");
-        EXPECT_EQ(controls.lbl[1][1].Caption, "J    ");
+        EXPECT_EQ(CaptionOfSquare(played.game, 1, 1), "J    ");
         EXPECT_EQ(controls.lbl[15][4].BackColor, Color{0xFFFF00});
         EXPECT_EQ(record.bytCurrentX, 15);  // the last landmark square read
         played.ExpectBoardShown();
@@ -92,7 +93,7 @@ TEST_F(LoadGame, ItemsEndAtCommas) {
     Open(Replaced(WithLine(text, 1, " HM , and more"), " \r\n ", " ,\t"));
     EXPECT_TRUE(played.game.blnOpen);
     EXPECT_EQ(record.bytScenario, 7);
-    EXPECT_EQ(controls.lbl[1][1].Caption, "J    ");
+    EXPECT_EQ(CaptionOfSquare(played.game, 1, 1), "J    ");
     EXPECT_EQ(record.bytTerrain[15][4], Sand);
 }
 

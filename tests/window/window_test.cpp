@@ -65,7 +65,7 @@ TEST(Events, SurviveAnything) {
         const int scenario = 1 + below(scenarioCount);
         std::string crowd(NamesOfScenario(scenario).Code);
         for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
-            const std::string code(entry.Code), attack = std::to_string(1 + below(25));
+            const std::string code(entry.Code.Text()), attack = std::to_string(1 + below(25));
             if (below(3) > 0) continue;
             crowd +=
                 " " + code + "@" + std::to_string(8 + below(4)) + near(6, 10).replace(0, 1, ",");

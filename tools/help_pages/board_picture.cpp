@@ -100,9 +100,8 @@ void DrawChips(QPainter& painter, QRect square, const std::vector<const RosterEn
         const QRect place(left + i / rows * width, top + i % rows * chipHeight, width,
                           chipHeight - 1);
         const RosterEntry& entry = *entries[static_cast<std::size_t>(i)];
-        PaintChip(painter, place, entry.Side,
-                  QString::fromUtf8(entry.Code.data(), static_cast<qsizetype>(entry.Code.size())),
-                  narrow);
+        const std::string code(entry.Code.Text());
+        PaintChip(painter, place, entry.Side, QString::fromStdString(code), narrow);
     }
 }
 

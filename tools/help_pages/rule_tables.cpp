@@ -3,8 +3,11 @@
 #include <array>
 #include <map>
 
+#include "core/position.h"
 #include "help_pages/html.h"
 #include "help_pages/trial_game.h"
+#include "rules/questions/odds.h"
+#include "rules/questions/step.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 
@@ -24,11 +27,26 @@ std::string Numbers(int first, int last) {
     return std::to_string(first) + " to " + std::to_string(last);
 }
 
-std::string OddsRow(const std::string& difference, const Odds& odds) {
-    const int tie = odds.wins + odds.ties;
-    return Row({difference, Numbers(1, odds.wins), Numbers(odds.wins + 1, tie), Numbers(tie + 1, 5),
-                Percent(odds.wins), Percent(odds.ties), Percent(odds.losses),
-                odds.warns ? "yes" : "no"});
+// What an attack comes to that has so many attack units more than the enemy has defense units.
+struct Prospect {
+    Odds odds;
+    bool asksFirst = false;
+
+    friend bool operator==(const Prospect&, const Prospect&) = default;
+};
+
+Prospect ProspectOf(int difference) {
+    constexpr int defense = 20;
+    const int attack = defense + difference;
+    return {OddsOf(attack, defense), AreOddsBad(attack, defense)};
+}
+
+std::string OddsRow(const std::string& difference, const Prospect& prospect) {
+    const Odds& odds = prospect.odds;
+    const int tie = odds.win + odds.tie;
+    return Row({difference, Numbers(1, odds.win), Numbers(odds.win + 1, tie),
+                Numbers(tie + 1, dieSides), Percent(odds.win), Percent(odds.tie),
+                Percent(odds.lose), prospect.asksFirst ? "yes" : "no"});
 }
 
 std::string DifferenceText(int first, int last, int lowest, int highest) {
@@ -49,17 +67,18 @@ std::vector<TerrainRow> TerrainRows() {
     std::vector<TerrainRow> rows;
     const TrialGame plain;
     for (std::uint8_t code = Plain; code <= Forest; ++code) {
-        rows.push_back({code, plain.game.controls.lblTerrKey[code].Caption,
+        rows.push_back({code, std::string(plain.game.controls.lblTerrKey[code].Caption),
                         plain.game.record.TerrainKinds[code]});
     }
     std::map<std::string, TerrainRow> landmarks;
     for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
         const TrialGame trial(scenario);
         for (const std::uint8_t code : {Fortress, Abbey}) {
-            const Label& key = trial.game.controls.lblTerrKey[code];
+            const KeyLabel& key = trial.game.controls.lblTerrKey[code];
             const TerrainKindRecord& kind = trial.game.record.TerrainKinds[code];
             if (key.Visible)
-                landmarks[std::to_string(code) + key.Caption] = {code, key.Caption, kind};
+                landmarks[std::to_string(code).append(key.Caption)] = {
+                    code, std::string(key.Caption), kind};
         }
     }
     for (const auto& [order, row] : landmarks) rows.push_back(row);
@@ -78,9 +97,9 @@ std::string OddsTable() {
                            "th");
     int first = lowest;
     for (int difference = lowest; difference <= highest; ++difference) {
-        const Odds odds = OddsOf(difference);
-        if (difference < highest && OddsOf(difference + 1) == odds) continue;
-        rows += OddsRow(DifferenceText(first, difference, lowest, highest), odds);
+        const Prospect prospect = ProspectOf(difference);
+        if (difference < highest && ProspectOf(difference + 1) == prospect) continue;
+        rows += OddsRow(DifferenceText(first, difference, lowest, highest), prospect);
         first = difference + 1;
     }
     return Table("numbers", rows);
@@ -105,16 +124,21 @@ std::string SpecialMoverTable() {
     std::string rows = Row({"Step onto", "Ordinary group, or any company", "Climbing group alone",
                             "Flying group alone"},
                            "th");
-    const TrialGame trial(1);
+    const TrialGame trial(ScenarioNumber("TQM"));  // has all kinds of terrain
+    const auto cost = [&](std::int16_t Ability1, std::int16_t Ability2, std::uint8_t code) {
+        Position position = PositionOf(trial.game.record);
+        position.People[1].Ability1 = Ability1;
+        position.People[1].Ability2 = Ability2;
+        return std::to_string(StepCost(position, {1}, code));
+    };
     for (std::uint8_t code = Plain; code <= Abbey; ++code) {
         const TerrainColors colors = ColorsOfTerrain(code);
-        const std::string name = code == Fortress ? "Fortress"
-                                 : code == Abbey  ? "Abbey"
-                                                  : trial.game.controls.lblTerrKey[code].Caption;
-        rows += Row({InColors(colors.BackColor, colors.ForeColor, name),
-                     std::to_string(CostOfStep(0, 0, code)),
-                     std::to_string(CostOfStep(climbing1, climbing2, code)),
-                     std::to_string(CostOfStep(flying1, 0, code))});
+        const std::string_view name = code == Fortress ? "Fortress"
+                                      : code == Abbey
+                                          ? "Abbey"
+                                          : trial.game.controls.lblTerrKey[code].Caption;
+        rows += Row({InColors(colors.BackColor, colors.ForeColor, name), cost(0, 0, code),
+                     cost(climbing1, climbing2, code), cost(flying1, 0, code)});
     }
     return Table("numbers", rows);
 }

@@ -36,7 +36,7 @@ std::string SpecialMovement(const PeopleRecord& people) {
     if (people.Ability1 == 0) return "&ndash;";
     if (people.Ability1 / 100 == 9) return link + "climbs</a>";
     if (!IsBird(people)) return link + "flies</a>, but not over water";
-    return link + (people.Code.starts_with("SK") ? "flies and guides</a>" : "flies</a>");
+    return link + (people.Kind == GroupKind::LeadingBird ? "flies and guides</a>" : "flies</a>");
 }
 
 std::vector<std::uint8_t> PeopleOfSide(const GameRecord& record, std::uint8_t side) {
@@ -94,7 +94,8 @@ std::string TransportTable(const Game& game) {
         Row({"Code", "Piece", "Mobility / attack / defense", "Starts on", "With"}, "th");
     for (const std::uint8_t i : PeopleOfSide(game.record, 0)) {
         const PeopleRecord& piece = game.record.People[i];
-        rows += Row({"<b>" + piece.Code.substr(0, 2) + "</b>", Escape(piece.Name), Strengths(piece),
+        rows += Row({"<b>" + std::string(piece.Code.substr(0, 2)) + "</b>", Escape(piece.Name),
+                     Strengths(piece),
                      "<td class=\"text\">" + SquareText(piece.LocationX, piece.LocationY) + " " +
                          TerrainNameAt(game, piece) + "</td>",
                      "<td class=\"text\">" + Companions(game.record, piece) + "</td>"});
@@ -118,10 +119,7 @@ std::string SquaresOfTerrain(const GameRecord& record, std::uint8_t code) {
 
 std::string BurningText(const Game& game, std::uint8_t code) {
     if (code == Abbey) return "by the Attack command, to plain";
-    if (game.controls.lblTerrKey[Fortress].Caption == "Gallowrock") {
-        return "by any attack, to sand";
-    }
-    return "never";
+    return game.record.blnFortressBurns ? "by any attack, to sand" : "never";
 }
 
 std::string LandmarkTable(const Game& game) {

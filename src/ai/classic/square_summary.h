@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-#include "core/game_record.h"
+#include "core/position.h"
 
 namespace qarn {
 
@@ -34,10 +34,10 @@ struct RankedSquares {
 /// The squares with characters of the opponent of `side`. A transport piece counts where a
 /// character of its square comes before it in the roster. Throws EightBitOverflow when a total
 /// passes 255.
-RankedSquares RankTargets(const GameRecord& record, std::uint8_t side);
+RankedSquares RankTargets(const Position& position, std::uint8_t side);
 
 /// The squares with characters of `side`, and those with transport pieces, whoever else stands
 /// there. Throws EightBitOverflow when a total passes 255.
-RankedSquares RankStacks(const GameRecord& record, std::uint8_t side);
+RankedSquares RankStacks(const Position& position, std::uint8_t side);
 
 }  // namespace qarn

@@ -3,13 +3,20 @@
 #include <array>
 #include <cstdint>
 
-#include "core/game_record.h"
+#include "core/square.h"
 
 namespace qarn {
 
 /// What a step along a path does before the path is turned into directions: towards the other
 /// square's column, or towards its row.
 enum StepCode : std::uint8_t { AlongX = 1, AlongY = 2 };
+
+/// The most steps that a path without detours has: from one corner of the board to the opposite
+/// one.
+inline constexpr int longestPath = columnCount - 1 + rowCount - 1;
+
+/// The steps of one path, used from index 1.
+using PathSteps = std::array<std::uint8_t, longestPath + 1>;
 
 /// The most paths that a path table holds.
 inline constexpr int mostPaths = 1800;

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
-#include "core/game_record.h"
+#include "core/position.h"
 
 namespace qarn {
-
-using Roster = std::array<PeopleRecord, peopleCount + 1>;
 
 /// The middle of two positions, halves rounded to the even neighbour.
 constexpr std::size_t MiddleOf(std::size_t low, std::size_t high) {
@@ -52,9 +50,9 @@ void SortDescending(Keys& intKeys, List& Records, std::size_t n) {
 }
 
 /// True when anyone stands on the square, transport pieces included.
-bool IsAnyGroupAt(const Roster& People, int bytX, int bytY);
+bool IsAnyGroupAt(const Position& position, Square square);
 
 /// True when a character of the side opposing bytSide (1 or 2) stands on the square.
-bool IsEnemyAt(const Roster& People, int bytX, int bytY, std::uint8_t bytSide);
+bool IsEnemyAt(const Position& position, Square square, std::uint8_t bytSide);
 
 }  // namespace qarn

@@ -1,14 +1,14 @@
-#include "ai/square_summary.h"
+#include "ai/classic/square_summary.h"
 
 #include <algorithm>
 
-#include "ai/search_library.h"
+#include "ai/classic/search_library.h"
 #include "core/eight_bit.h"
 
 namespace qarn {
 namespace {
 
-SquareSummary* FindSquare(RankedSquares& ranked, const PeopleRecord& people) {
+SquareSummary* FindSquare(RankedSquares& ranked, const Group& people) {
     SquareSummary* first = ranked.squares.data() + 1;
     SquareSummary* last = first + ranked.count;
     SquareSummary* found = std::find_if(first, last, [&](const SquareSummary& square) {
@@ -17,14 +17,14 @@ SquareSummary* FindSquare(RankedSquares& ranked, const PeopleRecord& people) {
     return found == last ? nullptr : found;
 }
 
-SquareSummary* AppendSquare(RankedSquares& ranked, const PeopleRecord& people) {
+SquareSummary* AppendSquare(RankedSquares& ranked, const Group& people) {
     SquareSummary& square = ranked.squares.at(++ranked.count);
     square.bytX = people.LocationX;
     square.bytY = people.LocationY;
     return &square;
 }
 
-void AddTo(SquareSummary& square, const PeopleRecord& people) {
+void AddTo(SquareSummary& square, const Group& people) {
     if (IsTransport(people)) {
         ++square.bytTransportCount;
         return;
@@ -56,10 +56,10 @@ std::int16_t ScoreOf(const SquareSummary& square) {
     return static_cast<std::int16_t>(up ? whole + 1 : whole);
 }
 
-RankedSquares RankTargets(const GameRecord& record, std::uint8_t side) {
+RankedSquares RankTargets(const Position& position, std::uint8_t side) {
     RankedSquares Targets;
     for (std::size_t i = 1; i <= peopleCount; ++i) {
-        const PeopleRecord& people = record.People[i];
+        const Group& people = position.People[i];
         if (!OnBoard(people) || people.Side == side) continue;
         SquareSummary* square = FindSquare(Targets, people);
         if (square == nullptr && IsTransport(people)) continue;
@@ -70,10 +70,10 @@ RankedSquares RankTargets(const GameRecord& record, std::uint8_t side) {
     return Targets;
 }
 
-RankedSquares RankStacks(const GameRecord& record, std::uint8_t side) {
+RankedSquares RankStacks(const Position& position, std::uint8_t side) {
     RankedSquares Stacks;
     for (std::size_t i = 1; i <= peopleCount; ++i) {
-        const PeopleRecord& people = record.People[i];
+        const Group& people = position.People[i];
         if (!OnBoard(people) || (people.Side != side && !IsTransport(people))) continue;
         SquareSummary* square = FindSquare(Stacks, people);
         if (square == nullptr) square = AppendSquare(Stacks, people);

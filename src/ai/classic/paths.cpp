@@ -1,4 +1,4 @@
-#include "ai/paths.h"
+#include "ai/classic/paths.h"
 
 #include <algorithm>
 #include <cstdlib>

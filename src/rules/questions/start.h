@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/position.h"
+
+namespace qarn {
+
+/// Why no move of the side to move can start on a square.
+enum class StartRefusal : std::uint8_t {
+    None,
+    NobodyThere,
+    OnlyTransports,
+    OpponentsPieces,  ///< the first of those who stand there is the opponent's
+};
+
+/// Whether a move of the side to move can start on the square.
+StartRefusal AskStart(const Position& position, Square square);
+
+/// The people of a square whom the check boxes list, the first eleven: who can be chosen to move,
+/// or to have died.
+PeopleSet ListedOn(const Position& position, Square square);
+
+}  // namespace qarn

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/game.h"
+
+namespace qarn {
+
+/// Takes the moving group one step onto the current square, or tells on the status line why not.
+void TakeStep(Game& game);
+
+/// Puts the selected bird back onto the starting square of its move.
+void ReturnToStart(Game& game);
+
+}  // namespace qarn
