@@ -6,8 +6,8 @@
 
 namespace qarn {
 
-/// The help in the folder of the programs: the compiled file Help.chm; where none has been made, the
-/// folder Help of its pages.
+/// The help in the folder of the programs: the compiled file Help.chm; where none has been made,
+/// the folder Help of its pages.
 std::string HelpPathIn(const std::string& folder);
 
 /// Shows the help in the viewer program that stands beside this one. A viewer that cannot be

@@ -3,18 +3,29 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
-#include <regex>
 #include <sstream>
 
 namespace qarn {
 namespace {
 
+std::string FirstTwoWordsOfLines(const std::string& text) {
+    std::istringstream lines(text);
+    std::string heads;
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string first;
+        std::string second;
+        words >> first >> second;
+        heads += first + " " + second + "|";
+    }
+    return heads;
+}
+
 TEST(SelfPlayCommand, PrintsALineForEachScenario) {
     std::ostringstream out;
     std::ostringstream progress;
     RunSelfPlay({.games = 3, .scenarios = {8, 7}, .seed = 2}, out, &progress);
-    const std::regex table("Scenario .*\nER +3 .*\nHM +3 .*\n");
-    EXPECT_TRUE(std::regex_match(out.str(), table)) << out.str();
+    EXPECT_EQ(FirstTwoWordsOfLines(out.str()), "Scenario Games|ER 3|HM 3|");
     EXPECT_NE(progress.str().find("\r ER: 66 % played"), std::string::npos) << progress.str();
 }
 

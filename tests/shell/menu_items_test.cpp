@@ -100,7 +100,7 @@ TEST(FileTypeTest, AFailureEndsTheWriting) {
 
 TEST(AboutTest, IsOpenOnceAtMost) {
     PlayedGame world("Q@13,4");
-    EXPECT_EQ(ProductNameVersion(), "Thornmere Series Tactical Game Version 1.8.1");
+    EXPECT_EQ(ProductNameVersion(), "Thornmere Series Tactical Game Version " QARN_VERSION);
     EXPECT_TRUE(world.Do("menu mnuAbout"));
     world.Load("Q@13,4");  // the window loads again, and the other one stays
     EXPECT_FALSE(world.Do("menu mnuAbout"));

@@ -1,0 +1,7 @@
+#!/bin/sh
+# Tells where the code is not laid out as .clang-format says, and then fails.
+#   check_format.sh SOURCE_FOLDER
+set -eu
+cd "$1"
+files=$(find src tools tests bench -name '*.h' -o -name '*.cpp')
+exec clang-format --dry-run -Werror $files
