@@ -54,6 +54,9 @@ FrmSplash::FrmSplash(RandomNumbers& random, const DesktopPorts& desktop, Wasteba
     folder_.addPath(FileNameToQt(window_.controls.fileLoad.Path));
 }
 
+// A widget that goes gives the focus up, and its event would come to widgets that have gone before.
+FrmSplash::~FrmSplash() { running_ = true; }
+
 void FrmSplash::Prepare(bool blnOpen) {
     Run("PrepareStartWindow", [=](StartWindow& window) { PrepareStartWindow(window, blnOpen); });
 }
@@ -104,26 +107,29 @@ void FrmSplash::Connect() {
         folderChanged_ = true;
         FollowFolder();
     });
-    for (QWidget* widget :
-         {static_cast<QWidget*>(&txtNewFilePath_), static_cast<QWidget*>(&chkComputer_),
-          static_cast<QWidget*>(&fileLoad_)}) {
-        widget->installEventFilter(this);
-    }
+    for (const NamedWidget& named : Widgets()) named.widget->installEventFilter(this);
 }
 
 bool FrmSplash::eventFilter(QObject* object, QEvent* event) {
     const bool got = event->type() == QEvent::FocusIn;
-    if (got || event->type() == QEvent::FocusOut) {
-        const QString name = object->objectName() + (got ? "_GotFocus" : "_LostFocus");
-        if (object == &txtNewFilePath_) {
-            Run(name, got ? txtNewFilePath_GotFocus : txtNewFilePath_LostFocus);
-        } else if (object == &fileLoad_) {
-            Run(name, got ? fileLoad_GotFocus : fileLoad_LostFocus);
-        } else if (got) {
-            Run(name, chkComputer_GotFocus);
-        }
+    if (got || event->type() == QEvent::FocusOut) RunOnFocus(*object, got);
+    auto* button = qobject_cast<QPushButton*>(object);
+    if (event->type() == QEvent::Shortcut && button != nullptr) {
+        button->click();  // at once, where Qt waits a while
+        return true;
     }
     return QDialog::eventFilter(object, event);
+}
+
+void FrmSplash::RunOnFocus(const QObject& widget, bool got) {
+    const QString event = widget.objectName() + (got ? "_GotFocus" : "_LostFocus");
+    if (&widget == &txtNewFilePath_) {
+        Run(event, got ? txtNewFilePath_GotFocus : txtNewFilePath_LostFocus);
+    } else if (&widget == &fileLoad_) {
+        Run(event, got ? fileLoad_GotFocus : fileLoad_LostFocus);
+    } else if (&widget == &chkComputer_ && got) {
+        Run(event, chkComputer_GotFocus);
+    }
 }
 
 // Enter presses the button that has the focus, or else the default button, if there is one. Left to
@@ -145,8 +151,8 @@ void FrmSplash::Run(const QString& event, const Handler& handler) {
     if (running_) return;
     running_ = true;
     RunEvent(window_, event.toStdString(), handler);
-    ShowControls();
     running_ = false;
+    ShowControls();
     MoveFocus();
     FollowFolder();
     if (window_.Next != NextWindow::Same) QDialog::reject();

@@ -24,6 +24,8 @@ public:
     /// What is given here outlives the window.
     FrmSplash(RandomNumbers& random, const DesktopPorts& desktop, Wastebasket& wastebasket);
 
+    ~FrmSplash() override;
+
     /// Makes the window ready for a person who comes from a game, `blnOpen` to choose a saved one.
     void Prepare(bool blnOpen);
 
@@ -52,6 +54,7 @@ private:
     QLayout* LayBottom();
     void Connect();
     void RunOnClick(QPushButton& button, const Handler& handler);
+    void RunOnFocus(const QObject& widget, bool got);
 
     void Run(const QString& event, const Handler& handler);
     void FollowFolder();
@@ -66,7 +69,7 @@ private:
     QtDialogs dialogs_;
     HelpProgram help_;
     StartWindow window_;
-    bool running_ = false;  // what changes now is changed by a handler, not by a person
+    bool running_ = false;  // a handler
     bool folderChanged_ = false;
 
     QLabel lblProgramName_;

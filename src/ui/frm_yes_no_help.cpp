@@ -48,7 +48,9 @@ void FrmYesNoHelp::Lay() {
     imgAlert->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
     auto* prompt = new QHBoxLayout;
     prompt->addWidget(imgAlert);
-    prompt->addWidget(new QLabel(ToQt(window_.lblPrompt.Caption)), 1);
+    auto* lblPrompt = new QLabel(ToQt(window_.lblPrompt.Caption));
+    lblPrompt->setObjectName("lblPrompt");
+    prompt->addWidget(lblPrompt, 1);
 
     cmdYes_.setObjectName("cmdYes");
     cmdNo_.setObjectName("cmdNo");

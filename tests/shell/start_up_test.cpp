@@ -3,31 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "shell/command_line.h"
+#include "support/fake_desktop.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"
 
 namespace qarn {
 namespace {
-
-struct FakeDisplay : DisplaySettings {
-    std::optional<DisplayMode> Mode(int number) override {
-        const auto index = static_cast<std::size_t>(number);
-        return index < modes.size() ? std::optional(modes[index]) : std::nullopt;
-    }
-    DisplayChange Change(const DisplayMode& request, bool permanent) override {
-        changes += std::to_string(request.Width) + "x" + std::to_string(request.Height) +
-                   (permanent ? " permanent " : " ");
-        return result;
-    }
-
-    std::vector<DisplayMode> modes{{800, 600}, {1024, 768}};
-    DisplayChange result = DisplayChange::Failed;
-    std::string changes;
-};
-
-struct FakeComputer : Computer {
-    void Restart() override { throw std::runtime_error("Not allowed."); }
-};
 
 struct Started {
     FakeDialogs dialogs;

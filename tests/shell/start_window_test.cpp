@@ -7,6 +7,7 @@
 
 #include "core/player_error.h"
 #include "scenarios/setup.h"
+#include "support/fake_desktop.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -14,17 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
-
-struct FakeWastebasket : Wastebasket {
-    void MoveThere(const std::string& path) override {
-        if (!refusal.empty()) throw std::runtime_error(refusal);
-        thrownAway.push_back(ReadFile(path));
-        fs::remove(path);
-    }
-
-    std::string refusal;
-    Texts thrownAway;
-};
 
 // A control as a person sees it: not at all, or its name, (in parentheses) while it is disabled.
 template <typename Kind>

@@ -2,35 +2,85 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QKeyEvent>
+#include <QFileDialog>
+#include <QMessageBox>
 #include <QTest>
+#include <algorithm>
 
+#include "support/fake_desktop.h"
 #include "support/fake_ports.h"
-#include "support/temp_folder.h"
+#include "ui/window_script.h"
 
 namespace qarn {
 namespace {
 
-class FakeWastebasket : public Wastebasket {
-public:
-    void MoveThere(const std::string& path) override { std::filesystem::remove(path); }
-};
-
 class StartWindowOnScreen : public testing::Test {
 protected:
     StartWindowOnScreen() {
-        WriteFile(folder / "old.tgf", "HM\r\n");
-        window = std::make_unique<FrmSplash>(
-            random, DesktopPorts{settings, fileTypes, {folder / "", folder / ""}}, wastebasket);
-        window->show();
+        for (const char* name : {"a.tgf", "b.tgf", "c.tgf"}) WriteFile(folder / name, "HM\r\n");
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    // What a person types, with Enter at its end.
-    void Type(const char* text) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        QTest::keyClicks(QApplication::focusWidget(), text);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    // A key for the control that has the focus.
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(window.focusWidget(), key, modifiers);
+    }
+    void Alt(Qt::Key key) { Key(key, Qt::AltModifier); }
+    void Type(const QString& text) {
+        for (const QChar letter : text) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, {}, letter);
+            QApplication::sendEvent(window.focusWidget(), &press);
+        }
+    }
+    void Enter(const QString& text) {
+        Type(text);
+        Key(Qt::Key_Return);
+    }
+    QWidget* Widget(const char* name) { return window.findChild<QWidget*>(name); }
+    void Click(const char* name) { QTest::mouseClick(Widget(name), Qt::LeftButton); }
+    void ClickRow(const char* list, int row) {
+        auto* rows = static_cast<QListWidget*>(Widget(list));
+        const QPoint place = rows->visualItemRect(rows->item(row)).center();
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, place);
+    }
+    void AnswerBox(Qt::Key key) {
+        script.On<QMessageBox>([=, this](QMessageBox& box) {
+            titles.push_back(box.windowTitle().toStdString());
+            QTest::keyClick(&box, key);
+        });
+    }
+
+    std::string Focus() const { return window.focusWidget()->objectName().toStdString(); }
+    std::string Text(const char* name) {
+        return Widget(name)->property("text").toString().toStdString();
+    }
+
+    // What a person sees of the controls: those on screen in the order of their names, with text or
+    // selected row, (in parentheses) while disabled, *the default button.
+    std::string Seen() {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        QStringList seen;
+        for (const char* name : {"txtNewFilePath", "cmdNew", "chkComputer", "lstScenarios",
+                                 "fileLoad", "cmdLoad", "cmdDelete", "txtLocation", "cmdBrowse",
+                                 "cmdBackGround", "txtBackGround", "cmdExit"}) {
+            const QWidget* widget = Widget(name);
+            if (!widget->isVisible()) continue;
+            QString text = name;
+            if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+                text = button->text() + (button->isChecked() ? "[x]" : "");
+                if (button->property("default").toBool()) text = "*" + text;
+            } else if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
+                for (const QListWidgetItem* item : list->selectedItems())
+                    text += "=" + item->text();
+            } else if (text == "txtNewFilePath") {
+                text = "'" + widget->property("text").toString() + "'";
+                if (widget->property("readOnly").toBool()) text += " locked";
+            }
+            seen << (widget->isEnabled() ? text : "(" + text + ")");
+        }
+        return seen.join(" ").toStdString();
     }
 
     TempFolder folder;
@@ -38,42 +88,165 @@ protected:
     FakeSettings settings;
     FakeFileTypes fileTypes;
     FakeWastebasket wastebasket;
-    std::unique_ptr<FrmSplash> window;
+    FrmSplash window{random, {settings, fileTypes, {folder / "", folder / ""}}, wastebasket};
+    WindowScript script;
+    std::vector<std::string> titles;  // of the boxes that were answered
 };
 
+const std::string games = " txtLocation &Browse QARN Background &Information ";
+
 TEST_F(StartWindowOnScreen, MakesANewGameByKeyboardAlone) {
-    Type("  First Game.tgf");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);  // the last scenario
-    Type("");
-    QKeyEvent notStorable(QEvent::KeyPress, Qt::Key_unknown, {}, "\u0141");
-    QApplication::sendEvent(QApplication::focusWidget(), &notStorable);
-    Type("Red");
-    Type("Blue");
-    EXPECT_EQ(window->Shown().Next, NextWindow::Game);
-    EXPECT_EQ(window->Shown().strGamePath, folder / "First Game.tgf");
-    EXPECT_EQ(ReadFile(folder / "First Game.tgf"), "AM\r\nRed" + std::string(51, ' ') +
-                                                       "False\r\nBlue" + std::string(50, ' ') +
-                                                       "False\r\n 0 \r\n");
+    EXPECT_EQ(window.windowTitle(), "Thornmere Series Tatical Game Splash Screen");
+    EXPECT_EQ(Seen(), "'' (*&New) fileLoad (&Load) (&Delete Game)" + games + "E&xit");
+    Enter(QString::fromUtf8("  \u0141\u00F3d\u017A.tgf"));
+    EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked (&Next) lstScenarios E&xit");
+    EXPECT_EQ(Focus(), "lstScenarios");
+    Key(Qt::Key_Return);  // no scenario yet
+    Key(Qt::Key_End);
+    EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked *&Next lstScenarios=Ambermoor E&xit");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Seen(), "'' (*&Next) &Computer (lstScenarios=Ambermoor) E&xit");
+    Type(QString::fromUtf8("\u0141Red"));
+    for (int stop = 0; stop < 3; ++stop) Key(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "chkComputer");
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Seen(), "'Red' *&Next &Computer[x] (lstScenarios=Ambermoor) E&xit");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Seen(), "'' (*&Start) &Computer (lstScenarios=Ambermoor) E&xit");
+    Enter("Blue");
+    EXPECT_EQ(window.Shown().Next, NextWindow::Game);
+    EXPECT_EQ(ReadFile(folder / "\u0141\u00F3d\u017A.tgf"),
+              "AM\r\nRed" + std::string(51, ' ') + "True\r\nBlue" + std::string(50, ' ') +
+                  "False\r\n 0 \r\n");
+}
+
+TEST_F(StartWindowOnScreen, TakesNoNameThatIsTooLongOrForbidden) {
+    Type(QString(60, 'n'));
+    EXPECT_EQ(Text("txtNewFilePath"), std::string(54, 'n'));
+    Key(Qt::Key_A, Qt::ControlModifier);
+    Type("n?");
+    AnswerBox(Qt::Key_Return);
+    Click("cmdNew");
+    EXPECT_EQ(titles.size(), 1u);
+    EXPECT_EQ(Focus(), "txtNewFilePath");
+    EXPECT_EQ(Seen(), "'' (*&New) fileLoad (&Load) (&Delete Game)" + games + "E&xit");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(window.Shown().Next, NextWindow::Same);
+}
+
+TEST_F(StartWindowOnScreen, ChoosesNoFileByItself) {
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "fileLoad");
+    const std::string none = "'' (&New) fileLoad (*&Load) (&Delete Game)" + games + "E&xit";
+    EXPECT_EQ(Seen(), none);
+    Key(Qt::Key_Return);
+    Alt(Qt::Key_D);
+    EXPECT_EQ(Seen(), none);
+
+    Key(Qt::Key_Down);
+    const std::string first = "'' (&New) fileLoad=a.tgf *&Load &Delete Game" + games + "E&xit";
+    EXPECT_EQ(Seen(), first);
+    AnswerBox(Qt::Key_Return);
+    Alt(Qt::Key_D);
+    EXPECT_EQ(Seen(), first);
+    AnswerBox(Qt::Key_Y);
+    Alt(Qt::Key_D);
+    EXPECT_EQ(titles, (std::vector<std::string>{"Delete a.tgf", "Delete a.tgf"}));
+    EXPECT_FALSE(std::filesystem::exists(folder / "a.tgf"));
+    EXPECT_EQ(Focus(), "fileLoad");
+    EXPECT_EQ(Seen(), none);
+    Alt(Qt::Key_D);
+    EXPECT_TRUE(std::filesystem::exists(folder / "b.tgf"));
+
+    ClickRow("fileLoad", 1);
+    const std::string last = "'' (&New) fileLoad=c.tgf *&Load &Delete Game" + games + "E&xit";
+    EXPECT_EQ(Seen(), last);
+    Alt(Qt::Key_I);
+    EXPECT_EQ(Seen(),
+              "('') (&New) (&Load) (&Delete Game) Leave Background &Information "
+              "txtBackGround E&xit");
+    EXPECT_TRUE(static_cast<QPlainTextEdit*>(Widget("txtBackGround"))
+                    ->toPlainText()
+                    .contains("Currently, this program simulates The Saltbrook, "));
+    Click("cmdBackGround");
+    EXPECT_EQ(Focus(), "txtNewFilePath");
+    for (const bool byKey : {true, false}) {
+        Click("cmdBackGround");
+        Click("cmdBackGround");
+        Alt(Qt::Key_T);
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(Seen(), "'' (&New) fileLoad=c.tgf (*&Load) (&Delete Game)" + games + "E&xit");
+        if (byKey) {
+            Key(Qt::Key_End);
+        } else {
+            ClickRow("fileLoad", 1);
+        }
+        EXPECT_EQ(Seen(), last);
+    }
+}
+
+TEST_F(StartWindowOnScreen, EnterAndTabFollowTheControls) {
+    Type("n");
+    ClickRow("fileLoad", 0);
+    Alt(Qt::Key_T);
+    const std::vector<std::pair<std::string, std::string>> stops{{"txtNewFilePath", "*&New"},
+                                                                 {"cmdNew", ""},
+                                                                 {"fileLoad", "*&Load"},
+                                                                 {"cmdLoad", ""},
+                                                                 {"cmdDelete", ""},
+                                                                 {"txtLocation", ""},
+                                                                 {"cmdBrowse", ""},
+                                                                 {"cmdBackGround", ""},
+                                                                 {"cmdExit", ""}};
+    for (const auto& [name, preferred] : stops) {
+        EXPECT_EQ(Focus(), name);
+        const std::string seen = Seen();
+        EXPECT_EQ(seen.substr(std::min(seen.find('*'), seen.size()), preferred.size()), preferred);
+        EXPECT_EQ(seen.find('*') == std::string::npos, preferred.empty()) << seen;
+        if (name == "txtLocation") Key(Qt::Key_Return);  // loads nothing
+        Key(Qt::Key_Tab);
+    }
+    EXPECT_EQ(Focus(), "txtNewFilePath");
+    EXPECT_EQ(window.Shown().Next, NextWindow::Same);
+
+    Key(Qt::Key_Return);
+    ClickRow("lstScenarios", 3);
+    std::string order;
+    for (int stop = 0; stop < 4; ++stop, Key(Qt::Key_Tab)) order += Focus() + " ";
+    EXPECT_EQ(order, "lstScenarios cmdExit txtNewFilePath cmdNew ");
+    Alt(Qt::Key_X);
+    EXPECT_EQ(window.Shown().Next, NextWindow::None);
 }
 
 TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
-    auto* list = window->findChildren<QListWidget*>().at(1);
-    ASSERT_EQ(list->count(), 1);
-    WriteFile(folder / "new.tgf", "HM\r\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; }, 3000));
+    auto* list = static_cast<QListWidget*>(Widget("fileLoad"));
+    WriteFile(folder / "d.tgf", "HM\r\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list->count() == 4; }, 3000));
 
-    window->Prepare(true);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    QTest::keyClick(list, Qt::Key_Home);
-    QTest::keyClick(list, Qt::Key_Return);
-    EXPECT_EQ(window->Shown().Next, NextWindow::Game);
-    EXPECT_EQ(window->Shown().strGamePath, folder / "new.tgf");
+    script.On<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().path().toStdString(), folder.Path());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Click("cmdBrowse");
+    EXPECT_TRUE(script.Done());
+    EXPECT_EQ(window.Shown().Next, NextWindow::Same);
+
+    window.Prepare(true);
+    EXPECT_EQ(Focus(), "fileLoad");
+    Key(Qt::Key_End);
+    Click("cmdLoad");
+    EXPECT_EQ(window.Shown().Next, NextWindow::Game);
+    EXPECT_EQ(window.Shown().strGamePath, folder / "d.tgf");
 }
 
-TEST_F(StartWindowOnScreen, EscapeEndsTheProgram) {
-    Type("A");
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    EXPECT_EQ(window->Shown().Next, NextWindow::None);
+TEST_F(StartWindowOnScreen, EscapeAndTheCloseBoxEndTheProgram) {
+    Enter("A");
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(window.Shown().Next, NextWindow::None);
+    FrmSplash other(random, {settings, fileTypes, {folder / "", folder / ""}}, wastebasket);
+    other.show();
+    other.close();
+    EXPECT_EQ(other.Shown().Next, NextWindow::None);
 }
 
 }  // namespace

@@ -1,0 +1,235 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTest>
+#include <algorithm>
+
+#include "shell/about.h"
+#include "support/fake_desktop.h"
+#include "ui/frm_about.h"
+#include "ui/frm_yes_no_help.h"
+#include "ui/window_script.h"
+
+namespace qarn {
+namespace {
+
+// The captions from left to right, the default button's in brackets.
+std::string ButtonsOf(const QMessageBox& box) {
+    QList<QAbstractButton*> buttons = box.buttons();
+    std::sort(buttons.begin(), buttons.end(), [](const auto* a, const auto* b) {
+        return a->mapToGlobal(QPoint()).x() < b->mapToGlobal(QPoint()).x();
+    });
+    QStringList captions;
+    for (const QAbstractButton* button : buttons) {
+        const bool preferred = button == box.defaultButton();
+        captions << (preferred ? "[" + button->text() + "]" : button->text());
+    }
+    return captions.join(" ").toStdString();
+}
+
+std::string FactsOf(const QMessageBox& box) {
+    return box.windowTitle().toStdString() + " | " + box.text().toStdString() +
+           (box.icon() == QMessageBox::NoIcon ? "" : " | icon") + " | " + ButtonsOf(box);
+}
+
+class DialogsOnScreen : public testing::Test {
+protected:
+    DialogsOnScreen() { window.show(); }
+
+    QWidget window;
+    int shownBefore = 0;
+    QtDialogs dialogs{&window, [this] { ++shownBefore; }};
+    WindowScript script;
+};
+
+TEST_F(DialogsOnScreen, BoxesOfferTheirButtonsAndAnswer) {
+    const std::string program = "Thornmere Series Tactical Game";
+    struct Row {
+        MessageBox box;
+        std::string facts;
+        Answer onEnter, onEscape, onFirstKey;
+        Qt::Key firstKey;
+    };
+    const std::vector<Row> rows{
+        {{.Title = {}, .Text = "<b>R&B</b>\nlost."},
+         program + " | <b>R&B</b>\nlost. | [OK]",
+         Answer::OK,
+         Answer::OK,
+         Answer::OK,
+         Qt::Key_Return},
+        {{.Title = "Resolution Changed", .Text = "Changed", .Shown = Icon::Information},
+         "Resolution Changed | Changed | icon | [OK]",
+         Answer::OK,
+         Answer::OK,
+         Answer::OK,
+         Qt::Key_Return},
+        {{.Title = "Leave Game", .Text = "Sure?", .Offered = Buttons::YesNo},
+         "Leave Game | Sure? | [&Yes] &No",
+         Answer::Yes,
+         Answer::No,
+         Answer::Yes,
+         Qt::Key_Y},
+        {{.Title = "Delete a", .Text = "?", .Offered = Buttons::YesNo, .DeclinedByDefault = true},
+         "Delete a | ? | &Yes [&No]",
+         Answer::No,
+         Answer::No,
+         Answer::Yes,
+         Qt::Key_Y},
+        {{.Title = "Error 53", .Text = "No file", .Offered = Buttons::RetryCancel},
+         "Error 53 | No file | [Retry] Cancel",
+         Answer::Retry,
+         Answer::Cancel,
+         Answer::Retry,
+         Qt::Key_Return},
+    };
+    for (const Row& row : rows) {
+        for (const auto& [key, answer] : {std::pair{Qt::Key_Return, row.onEnter},
+                                          {Qt::Key_Escape, row.onEscape},
+                                          {row.firstKey, row.onFirstKey}}) {
+            script.On<QMessageBox>([&](QMessageBox& box) {
+                EXPECT_EQ(FactsOf(box), row.facts);
+                QTest::keyClick(&box, key);
+            });
+            EXPECT_EQ(dialogs.Show(row.box), answer) << row.facts << " " << key;
+        }
+    }
+    EXPECT_EQ(shownBefore, 15);
+}
+
+TEST_F(DialogsOnScreen, ThePromptAsksForALine) {
+    const std::string text = "Enter the default filepath for QARN to use.";
+    for (const auto& [key, answer] : {std::pair{Qt::Key_Return, "/gamesx"}, {Qt::Key_Escape, ""}}) {
+        script.On<QInputDialog>([&](QInputDialog& prompt) {
+            EXPECT_EQ(prompt.windowTitle(), "Default Filepath");
+            EXPECT_EQ(prompt.findChild<QLabel*>()->text().toStdString(), text);
+            auto* field = prompt.findChild<QLineEdit*>();
+            EXPECT_EQ(field->text(), "/games");
+            QTest::keyClick(field, Qt::Key_End);
+            QTest::keyClicks(field, "x");
+            QTest::keyClick(field, key);
+        });
+        EXPECT_EQ(dialogs.InputPrompt(text, "Default Filepath", "/games"), answer);
+    }
+}
+
+TEST_F(DialogsOnScreen, FileDialogsOfferGames) {
+    const TempFolder folder;
+    WriteFile(folder / "old.tgf", "");
+    const auto expectGamesIn = [&](const QFileDialog& dialog, const char* title) {
+        EXPECT_EQ(dialog.windowTitle(), title);
+        EXPECT_EQ(dialog.nameFilters(), QStringList("Tactical Game Files (*.tgf)"));
+        EXPECT_EQ(dialog.directory().path().toStdString(), folder.Path());
+    };
+    const auto type = [](QFileDialog& dialog, const char* name) {
+        auto* field = dialog.findChild<QLineEdit*>();
+        field->selectAll();
+        QTest::keyClicks(field, name);
+        QTest::keyClick(field, Qt::Key_Return);
+    };
+
+    script.On<QFileDialog>([&](QFileDialog& dialog) {
+        expectGamesIn(dialog, "Save As");
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+        EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "old.tgf");
+        type(dialog, "new");
+    });
+    EXPECT_EQ(dialogs.AskSaveFileName(folder / "old.tgf"), folder / "new.tgf");
+
+    script.On<QFileDialog>([&](QFileDialog& dialog) {
+        expectGamesIn(dialog, "Open");
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        type(dialog, "old.tgf");
+    });
+    EXPECT_EQ(dialogs.AskOpenFileName(folder.Path()), folder / "old.tgf");
+
+    for (int times = 0; times < 2; ++times) {
+        script.On<QFileDialog>(
+            [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    }
+    EXPECT_EQ(dialogs.AskSaveFileName(folder / "old.tgf"), "");
+    EXPECT_EQ(dialogs.AskOpenFileName(folder.Path()), "");
+}
+
+TEST_F(DialogsOnScreen, TheAboutWindowTellsWhatThisIsAndCloses) {
+    const AboutControls controls;
+    for (const bool byKey : {false, true}) {
+        const QPointer about = new FrmAbout(&window);
+        about->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(about));
+        QStringList texts;
+        for (const QLabel* label : about->findChildren<QLabel*>()) texts << label->text();
+        for (const Label* label :
+             {&controls.lblProductNameVersion, &controls.lblCredits, &controls.lblLegalNotices}) {
+            EXPECT_TRUE(texts.contains(QString::fromStdString(label->Caption)));
+        }
+        auto* cmdExit = about->findChild<QAbstractButton*>();
+        EXPECT_EQ(cmdExit->text(), "E&xit");
+        if (byKey) {
+            QTest::keyClick(about, Qt::Key_X, Qt::AltModifier);
+        } else {
+            QTest::mouseClick(cmdExit, Qt::LeftButton);
+        }
+        EXPECT_TRUE(QTest::qWaitFor([&] { return about.isNull(); }, 1000));
+    }
+}
+
+// The screen of the tests is smaller than the game needs.
+TEST_F(DialogsOnScreen, TheStartUpWindowAsksBeforeItChangesTheDisplay) {
+    const std::string manualFix =
+        "Thornmere Series Tactical Game | Please manualy change your resolution to 1024x768.\n"
+        "The program was unable to change it.\nClick OK to view instructions on how to change the "
+        "settings manually. | [OK]";
+    struct Row {
+        Qt::Key key;
+        DisplayChange result;
+        std::string changes;
+        std::vector<std::string> boxes;
+    };
+    for (const Row& row : {Row{Qt::Key_Y,
+                               DisplayChange::Successful,
+                               "1024x768 1024x768 permanent ",
+                               {"Resolution Changed | Screen resolution changed | icon | [OK]"}},
+                           Row{Qt::Key_Y, DisplayChange::Failed, "1024x768 ", {manualFix, ""}},
+                           Row{Qt::Key_N, {}, "", {}}, Row{Qt::Key_Escape, {}, "", {}}}) {
+        FakeDisplay display;
+        display.result = row.result;
+        FakeComputer computer;
+        FrmYesNoHelp startUp("/no help here", display, computer, "");
+        ASSERT_TRUE(startUp.Asks());
+        script.On<FrmYesNoHelp>([&](FrmYesNoHelp& asked) {
+            EXPECT_EQ(asked.findChild<QLabel*>("lblPrompt")->text(),
+                      "Would you like to set the resolution to 1024x768?");
+            QTest::keyClick(&asked, Qt::Key_H, Qt::AltModifier);
+        });
+        script.On<QMessageBox>([](QMessageBox& box) {
+            EXPECT_TRUE(box.text().startsWith("The help viewer can not be started: "));
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        script.On<FrmYesNoHelp>([&](FrmYesNoHelp& asked) {
+            EXPECT_EQ(asked.Shown().Next, NextWindow::Same) << "after the help";
+            QTest::keyClick(&asked, row.key,
+                            row.key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier);
+        });
+        for (const std::string& facts : row.boxes) {
+            script.On<QMessageBox>([&](QMessageBox& box) {
+                EXPECT_EQ(facts.empty() ? "" : FactsOf(box), facts);
+                QTest::keyClick(&box, Qt::Key_Return);
+            });
+        }
+        startUp.exec();
+        EXPECT_EQ(display.changes, row.changes);
+        EXPECT_EQ(startUp.Shown().Next, NextWindow::Start);
+        EXPECT_TRUE(script.Done());
+    }
+}
+
+}  // namespace
+}  // namespace qarn

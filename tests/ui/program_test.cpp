@@ -1,0 +1,98 @@
+#include "ui/program.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QInputDialog>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTest>
+
+#include "support/temp_folder.h"
+#include "ui/frm_game.h"
+#include "ui/frm_splash.h"
+#include "ui/window_script.h"
+
+namespace qarn {
+namespace {
+
+const std::string newGame = "HM\r\nRed" + std::string(51, ' ') + "False\r\nBlue" +
+                            std::string(50, ' ') + "False\r\n 0 \r\n";
+
+void Type(QWidget& window, const std::string& text, Qt::Key last = Qt::Key_Return) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClicks(window.focusWidget(), QString::fromStdString(text));
+    QTest::keyClick(window.focusWidget(), last);
+}
+
+// Leaves a game of this title with a menu command, which is asked about.
+void LeaveGame(WindowScript& script, const std::string& title, const char* command) {
+    script.On<FrmGame>([=](FrmGame& window) {
+        EXPECT_EQ(window.windowTitle().toStdString(), title);
+        window.findChild<QAction*>(command)->trigger();
+    });
+    script.On<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Leave Game");
+        Type(box, "");
+    });
+}
+
+class WholeProgram : public testing::Test {
+protected:
+    WholeProgram() { QApplication::setQuitOnLastWindowClosed(false); }
+
+    TempFolder folder;
+    WindowScript script;
+};
+
+TEST_F(WholeProgram, GoesFromGamesToTheStartWindowAndBack) {
+    WriteFile(folder / "first.tgf", newGame);
+    script.On<FrmGame>(
+        [](FrmGame& window) { window.findChild<QAction*>("mnuDefaultFilepath")->trigger(); });
+    script.On<QInputDialog>([&](QInputDialog& prompt) { Type(prompt, folder.Path()); });
+
+    LeaveGame(script, "Hollowmere Tactical Game - first.tgf (Red vs. Blue)", "New");
+    script.On<FrmSplash>([&](FrmSplash& window) {
+        EXPECT_EQ(window.findChild<QLineEdit*>("txtLocation")->text().toStdString(),
+                  folder.Path().string());
+        EXPECT_EQ(window.focusWidget()->objectName(), "txtNewFilePath");
+        Type(window, "second");
+        Type(window, "", Qt::Key_Down);
+        Type(window, "");
+        Type(window, "Ann");
+        Type(window, "Ben");
+    });
+
+    LeaveGame(script, "The Saltbrook Tactical Game - second.tgf (Ann vs. Ben)", "Open");
+    script.On<FrmSplash>([&](FrmSplash& window) {
+        auto* files = qobject_cast<QListWidget*>(window.focusWidget());
+        ASSERT_NE(files, nullptr);
+        EXPECT_EQ(files->objectName(), "fileLoad");
+        EXPECT_EQ(files->count(), 2);
+        Type(window, "", Qt::Key_Down);
+        Type(window, "");
+    });
+
+    LeaveGame(script, "Hollowmere Tactical Game - first.tgf (Red vs. Blue)", "New");
+    script.On<FrmSplash>([](FrmSplash& window) { Type(window, "", Qt::Key_Escape); });
+
+    EXPECT_EQ(RunProgram(folder / "first.tgf"), 0);
+    EXPECT_TRUE(script.Done());
+    EXPECT_GT(ReadFile(folder / "second.tgf").size(), newGame.size()) << "it was saved";
+}
+
+TEST_F(WholeProgram, BeginsWithTheStartWindowAndEndsWithAGame) {
+    script.On<FrmSplash>([](FrmSplash& window) {
+        QTest::mouseClick(window.findChild<QWidget*>("cmdExit"), Qt::LeftButton);
+    });
+    EXPECT_EQ(RunProgram(""), 0);
+    EXPECT_TRUE(script.Done());
+
+    WriteFile(folder / "game.tgf", newGame);
+    script.On<FrmGame>([](FrmGame& window) { window.close(); });
+    EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+    EXPECT_TRUE(script.Done());
+}
+
+}  // namespace
+}  // namespace qarn
