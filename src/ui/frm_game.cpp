@@ -38,7 +38,6 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
       panel_(area_, [this](const auto& name, const auto& handler) { Run(name, handler); }),
       menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }) {
     setWindowIcon(WindowIcon());
-    setAttribute(Qt::WA_KeyboardFocusChange);  // shows where the focus is from the start
     setCentralWidget(area_);
     area_->Place(board_, boardTwips);
     board_->setFocus();
@@ -95,6 +94,7 @@ void FrmGame::ShowWidgets() {
     if (game_.blnOpen && isHidden()) {
         show();
         activateWindow();
+        setAttribute(Qt::WA_KeyboardFocusChange);  // shows where the focus is from the start
     }
     // Where a control loses the focus, the next event mostly comes from the board.
     if (focused != nullptr && (!focused->isEnabled() || focused->isHidden())) board_->setFocus();

@@ -16,6 +16,7 @@ TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
     EXPECT_EQ(Focus(), "board");
     Key(Qt::Key_Space);
     EXPECT_EQ(Focus(), "chkItems(1)");
+    EXPECT_TRUE(window->testAttribute(Qt::WA_KeyboardFocusChange)) << "the focus can be seen";
     Key(Qt::Key_Tab);
     Key(Qt::Key_Space);
     Key(Qt::Key_S, Qt::AltModifier);
