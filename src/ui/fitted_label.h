@@ -10,6 +10,8 @@ public:
     /// `relativeSize` is the size of its font where there is room, measured by its parent's font.
     explicit FittedLabel(QWidget* parent, double relativeSize = 1);
 
+    /// Shows a text, in the largest font up to its usual one in which all of it fits. Does nothing
+    /// when it stands there already.
     void ShowText(const QString& text);
 
 protected:

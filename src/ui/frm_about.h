@@ -8,6 +8,7 @@ namespace qarn {
 /// when it closes.
 class FrmAbout : public QDialog {
 public:
+    /// Stays in front of the game window, which owns it.
     explicit FrmAbout(QWidget* gameWindow);
 };
 

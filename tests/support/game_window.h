@@ -90,6 +90,7 @@ protected:
         QTimer::singleShot(0, qApp, [this, keys]() mutable {
             QWidget* dialog = QApplication::activeModalWidget();
             if (dialog == nullptr) return AnswerBoxes(keys);
+            titles.push_back(dialog->windowTitle().toStdString());
             if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
                 boxes.push_back(box->text().toStdString());
                 statuses.push_back(Text("lblStatus"));
@@ -109,7 +110,8 @@ protected:
     DesktopPorts desktop{settings, fileTypes, {folder / "program", folder / "data"}};
     std::unique_ptr<FrmGame> window = std::make_unique<FrmGame>(random, desktop);
     BoardWidget* board = nullptr;
-    std::vector<std::string> boxes;     // that were answered
+    std::vector<std::string> titles;    // of the boxes and dialogs that were answered
+    std::vector<std::string> boxes;     // what the boxes among them said
     std::vector<std::string> statuses;  // under each of them
 };
 

@@ -87,6 +87,9 @@ TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
     EXPECT_TRUE(file->isEnabled());
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_NE(ReadFile(path), saved);
+    AnswerBoxes({Qt::Key_Escape});
+    Key(Qt::Key_F12);
+    EXPECT_EQ(titles, std::vector<std::string>{"Save As"});
     EXPECT_FALSE(MenuItem("mnuConvertFile")->isVisible());
     EXPECT_TRUE(MenuItem("mnuSummary")->isChecked());
 }
@@ -131,7 +134,7 @@ TEST_F(GameWindow, ShowsOneAboutWindow) {
     auto* about = window->findChild<QDialog*>();
     ASSERT_NE(about, nullptr);
     EXPECT_FALSE(MenuItem("mnuAbout")->isEnabled());
-    about->close();
+    about->findChild<QAbstractButton*>()->click();
     EXPECT_TRUE(MenuItem("mnuAbout")->isEnabled());
 }
 
