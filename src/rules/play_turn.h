@@ -23,9 +23,9 @@ struct TurnOutcome {
 
 /// Plays a whole turn of the side to move, up to the moment when the next turn begins, as the
 /// game's handlers do when the player presses the buttons for it and answers yes to every question.
-/// A step that the rules refuse is left out; a start or an attack that they refuse changes nothing. After the
-/// end of the game the position is that of the end. Throws EightBitOverflow when a sum passes 255;
-/// the position is then of no use.
+/// A step that the rules refuse is left out; a start or an attack that they refuse changes nothing.
+/// After the end of the game the position is that of the end. Throws EightBitOverflow when a sum
+/// passes 255; the position is then of no use.
 TurnOutcome PlayTurn(Position& position, const Plan& plan, Dice dice);
 
 }  // namespace qarn

@@ -18,13 +18,15 @@ public:
         const std::string_view text(code);
         if (text.empty() || text.size() > characters_.size()) throw "A code has 1 to 3 characters.";
         std::copy(text.begin(), text.end(), characters_.begin());
+        length_ = text.size();
     }
 
     constexpr std::string_view Padded() const { return {characters_.data(), characters_.size()}; }
-    constexpr std::string_view Text() const { return Padded().substr(0, Padded().find(' ')); }
+    constexpr std::string_view Text() const { return Padded().substr(0, length_); }
 
 private:
     std::array<char, 3> characters_{' ', ' ', ' '};
+    std::size_t length_ = 0;
 };
 
 /// One roster entry as the scenario's table gives it. Its place in the roster is part of the game

@@ -77,8 +77,7 @@ void PositionQuickInfo(Game& game) {
     constexpr int shift = 5;  // twips to the left and upwards
     frame.Left =
         LeftOfColumn(X) + (X >= columnCount - 1 ? -quickInfoWidthTwips : squareWidthTwips) - shift;
-    frame.Top =
-        TopOfRow(Y) + (Y == rowCount ? -quickInfoHeightTwips : squareHeightTwips) - shift;
+    frame.Top = TopOfRow(Y) + (Y == rowCount ? -quickInfoHeightTwips : squareHeightTwips) - shift;
     frame.Visible = true;
 }
 
