@@ -12,7 +12,9 @@
 #include "ai/choose_move.h"
 #include "ai/self_play.h"
 #include "ai/turn_driver.h"
+#include "rules/play_turn.h"
 #include "scenarios/catalogue.h"
+#include "window/run_event.h"
 
 namespace qarn {
 namespace {
@@ -73,6 +75,29 @@ void SelfPlay(benchmark::State& state) {
     state.counters["turns"] = benchmark::Counter(turns, benchmark::Counter::kIsRate);
 }
 
+// What an event costs that changes nothing.
+void EmptyEvent(benchmark::State& state) {
+    SelfPlayedGame played(1, 1);
+    for (auto _ : state) RunEvent(played.CurrentGame(), "nothing", [](Game&) {});
+}
+
+// How many turns a position is played forward by in a second: one stack goes to and fro.
+void TurnsOfPosition(benchmark::State& state) {
+    SelfPlayedGame played(7, 1);
+    const Position start = PositionOf(played.CurrentGame().record);
+    const Plan march{.kind = PlanKind::March,
+                     .start = {8, 8},
+                     .people = PeopleOn(start, {8, 8}),
+                     .path = {{8, 7}, {8, 6}}};
+    for (auto _ : state) {
+        Position position = start;
+        position.bytTurn = 1;
+        benchmark::DoNotOptimize(PlayTurn(position, march, {}));
+        benchmark::DoNotOptimize(position);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
 long PeakMemory() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
@@ -91,6 +116,8 @@ void MemoryOfSelfPlay(benchmark::State& state) {
 }
 
 BENCHMARK(ChooseMoveInSelfPlay)->UseManualTime()->Iterations(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(EmptyEvent);
+BENCHMARK(TurnsOfPosition);
 BENCHMARK(SelfPlay)->Unit(benchmark::kMillisecond);
 BENCHMARK(MemoryOfSelfPlay)->Iterations(1)->Unit(benchmark::kMillisecond);
 

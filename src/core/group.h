@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 
+#include "core/square.h"
+
 namespace qarn {
 
 inline constexpr int peopleCount = 24;
@@ -32,9 +34,9 @@ enum class GroupKind : std::uint8_t {
 
 /// One group as the rules see it: where it stands and what it can do.
 struct Group {
-    std::uint8_t Side = 0;       ///< 1 or 2; 0 for a transport piece
     std::uint8_t LocationX = 0;  ///< 1 to 18; 0 = no longer on the board
     std::uint8_t LocationY = 0;
+    std::uint8_t Side = 0;  ///< 1 or 2; 0 for a transport piece
     std::uint8_t Mobility = 0;
     std::uint8_t Attack = 0;
     std::uint8_t Defense = 0;
@@ -59,6 +61,9 @@ struct Strength {
     std::uint8_t Attack = 0;
     std::uint8_t Defense = 0;
 };
+
+/// Where the group stands; (0, 0) = no longer on the board.
+constexpr Square SquareOf(const Group& people) { return {people.LocationX, people.LocationY}; }
 
 /// True when the group stands on the board.
 constexpr bool OnBoard(const Group& people) { return people.LocationX != 0; }

@@ -13,7 +13,7 @@ namespace {
 TEST(GameRecord, ListsThePeopleOfASquare) {
     GameRecord record;
     for (const std::size_t i : {4u, 9u, 20u}) {
-        record.People[i] = {{2, 3, 7, 100, 1, 27}, "Band", "G  "};
+        record.People[i] = {{3, 7, 2, 100, 1, 27}, "Band", "G  "};
     }
     record.People[20].Side = 0;
     const SquareList list = LocationOfPeople(record, 3, 7);

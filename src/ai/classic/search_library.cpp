@@ -5,7 +5,9 @@
 namespace qarn {
 
 bool IsAnyGroupAt(const Position& position, Square square) {
-    return !PeopleOn(position, square).Empty();
+    return std::any_of(position.People.begin() + 1, position.People.end(), [&](const Group& one) {
+        return one.LocationX == square.X && one.LocationY == square.Y;
+    });
 }
 
 bool IsEnemyAt(const Position& position, Square square, std::uint8_t bytSide) {
