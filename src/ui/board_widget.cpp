@@ -246,8 +246,11 @@ void BoardWidget::Click(QPoint square) {
 }
 
 void BoardWidget::MoveCursor(QPoint square) {
+    const QPoint onBoard(std::clamp(square.x(), 1, columnCount),
+                         std::clamp(square.y(), 1, rowCount));
+    if (onBoard == cursor_) return;
     UpdateSquare(cursor_);
-    cursor_ = QPoint(std::clamp(square.x(), 1, columnCount), std::clamp(square.y(), 1, rowCount));
+    cursor_ = onBoard;
     UpdateSquare(cursor_);
     if (hasFocus()) TellCursor();
 }

@@ -61,6 +61,13 @@ protected:
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, PlaceOfSquare(X, Y).center());
     }
 
+    // What has changed on the board is on the screen: painting all of it again changes nothing.
+    void ExpectBoardPainted() {
+        const QImage picture = Picture();
+        board->update();
+        EXPECT_EQ(picture, Picture());
+    }
+
     // What is on the screen.
     QImage Picture() {
         QApplication::processEvents();

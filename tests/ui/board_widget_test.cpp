@@ -25,11 +25,32 @@ TEST_F(GameWindow, ShowsThePointerAndTheCursorOnTheBoard) {
     EXPECT_EQ(edge(11), 0x000080u);
     QTest::mouseMove(window->windowHandle(), PlaceOfSquare(9, 5).center());
     EXPECT_EQ(edge(11), 0xFFFFFFu);
+    EXPECT_EQ(edge(9), 0x000080u);
+    QTest::mouseMove(window->windowHandle(), QPoint(2, 2));
+    EXPECT_EQ(edge(9), 0xFFFFFFu);
 
     QHelpEvent rests(QEvent::ToolTip, board->PlaceOfSquare({17, 5}).center(), QPoint());
     QApplication::sendEvent(board, &rests);
     EXPECT_EQ(QToolTip::text(), "(17, 5) Stream\nHero: mobility 3, attack 5, defense 5");
     QToolTip::hideText();
+}
+
+TEST_F(GameWindow, WalksWithTheArrowKeysUpToTheEdges) {
+    Open("Q@9,5 WA@17,2");
+    Button("cmdMove")->setFocus();
+    std::string walk;
+    for (const Qt::Key key :
+         {Qt::Key_Up, Qt::Key_Left, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right}) {
+        Key(key);
+        walk +=
+            std::to_string(board->Cursor().x()) + "," + std::to_string(board->Cursor().y()) + " ";
+        ExpectBoardPainted();
+    }
+    EXPECT_EQ(walk, "9,4 8,4 8,5 8,6 9,6 ");
+    board->MoveCursor({1, 10});
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(board->Cursor(), QPoint(1, 10));
 }
 
 TEST_F(GameWindow, TakesOnlyWholeClicksWithTheLeftButton) {

@@ -1,6 +1,6 @@
 #include "ui/frm_game.h"
 
-#include <QAccessible>
+#include <QMenu>
 #include <QMenuBar>
 
 #include "core/board_display.h"
@@ -27,8 +27,15 @@ TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
     Key(Qt::Key_Return);
     EXPECT_EQ(Text("lblStatus"), "You have 1 mobility units left.");
     EXPECT_EQ(CaptionOfSquare(window->ShownGame(), 9, 6), "Q    ");
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Text("lblStatus"), "You have 0 mobility units left.\nClick Done Moving");
     Key(Qt::Key_M, Qt::AltModifier);
     EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
+    Button("cmdMove")->setFocus();
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(Button("cmdMove")->isEnabled());
+    EXPECT_EQ(Focus(), "board");
 }
 
 TEST_F(GameWindow, IsPlayedWithTheMouse) {
@@ -37,6 +44,7 @@ TEST_F(GameWindow, IsPlayedWithTheMouse) {
     QTest::mouseClick(Button("cmdMove"), Qt::LeftButton);
     ClickSquare(9, 5);
     EXPECT_TRUE(Button("chkItems(2)")->isVisible());
+    EXPECT_EQ(Button("chkItems(2)")->text(), "WS");
     EXPECT_FALSE(Button("chkItems(3)")->isVisible());
     QTest::mouseClick(Button("chkItems(1)"), Qt::LeftButton, {}, {8, 8});
     QTest::mouseClick(Button("cmdDoneSel"), Qt::LeftButton);
@@ -48,6 +56,7 @@ TEST_F(GameWindow, IsPlayedWithTheMouse) {
     QTest::mouseClick(Button("cmdSquareDetails"), Qt::LeftButton);
     ClickSquare(9, 5);
     EXPECT_EQ(Text("lblDetailMore"), "Current Items: Hero");
+    EXPECT_EQ(Find("fraQuickDetails")->findChild<QLabel*>()->text(), "Quick Info");
     EXPECT_EQ(Text("lblSummary"), "Location: (9, 5)\nMobility: 3\nAttack: 5\nDefense: 5");
 }
 
@@ -163,6 +172,8 @@ TEST_F(GameWindow, LetsTheMouseThroughItsNotesOverTheBoard) {
         const QRect note(Find(row.note)->mapTo(window.get(), QPoint()), Find(row.note)->size());
         const QPoint place = PlaceOfSquare(row.X, row.Y).center();
         ASSERT_TRUE(note.contains(place)) << row.X << "," << row.Y;
+        EXPECT_EQ(Picture().pixelColor(note.topLeft() + QPoint(2, 2)),
+                  window->palette().color(QPalette::ToolTipBase));
         EXPECT_EQ(window->childAt(place), board) << "for its tool tip and its frame";
         ClickSquare(row.X, row.Y);
         EXPECT_EQ(Text("lblSummary").substr(0, 18),
@@ -214,6 +225,44 @@ TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
     }
 }
 
+TEST_F(GameWindow, HasItsMenus) {
+    Open("Q@9,5 WA@17,2");
+    std::string text;
+    for (const QAction* menu : window->menuBar()->actions()) {
+        text += menu->text().toStdString() + "\n";
+        for (const QAction* item : menu->menu()->actions()) {
+            text += item->isSeparator() ? "  --"
+                                        : "  " + item->text().toStdString() + "  " +
+                                              item->shortcut().toString().toStdString();
+            text += item->isVisible() ? "\n" : "  (hidden)\n";
+        }
+    }
+    EXPECT_EQ(text, R"(&File
+  &New...  Ctrl+N
+  &Open...  Ctrl+O
+  &Save  Ctrl+S
+  Save &As...  F12
+  --
+  E&xit  Ctrl+X
+&Details
+  &Details  Ctrl+D
+  &Item Details  Ctrl+I
+  Summary &Terrain Details  Ctrl+T
+&Tools
+  &Replay  Ctrl+R
+  &Convert File    (hidden)
+&Options
+  &Display Summary  
+  Default &Filepath  
+  Add and Remove the &TGF Filetype  
+&Help
+  &Getting Started  
+  &Help  F1
+  --
+  &About  
+)");
+}
+
 TEST_F(GameWindow, ShowsCheckMarksInItsMenus) {
     Open("Q@9,5 WA@17,2");
     const std::vector<const char*> items{"mnuPeopleDetails", "mnuSummary", "mnuTGF"};
@@ -261,6 +310,7 @@ TEST_F(GameWindow, LetsTheComputerPlayButNotUnderABox) {
         marked = std::to_string((marker.Left - 115) / 720 + 1) + "," +
                  std::to_string((marker.Top - 115) / 960 + 1) + " ";
         EXPECT_EQ(SquaresWith(highlight), marked);
+        ExpectBoardPainted();
     }
     EXPECT_NE(marked, "");
     EXPECT_EQ(window->ShownGame().record.bytTurn, 2);

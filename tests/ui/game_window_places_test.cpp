@@ -125,12 +125,18 @@ TEST_F(Places, AreThoseOfTheDesignAtEverySize) {
     }
 }
 
-TEST_F(Places, HaveRoomForEveryCodeBesideItsCheckMark) {
+TEST_F(Places, HaveRoomForTheirTexts) {
     Open("Q@9,5 WA@17,2");
     auto* box = Find<QCheckBox>("chkItems(1)");
     QStyleOptionButton option;
+    int fontSize = 0;
     for (const double scale : {1.0, 1.5, 2.0}) {
         Resize(QSize(1016, 696) * scale, scale);
+        const auto* widest = Button("cmdSquareDetails");
+        EXPECT_LE(widest->fontMetrics().horizontalAdvance("Square Information"),
+                  widest->width() - 4);
+        if (scale == 1.0) fontSize = box->font().pixelSize();
+        EXPECT_NEAR(box->font().pixelSize(), fontSize * scale, 1);
         option.initFrom(box);
         const int room =
             box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box).width();
@@ -170,6 +176,7 @@ TEST_F(Places, ShowTheirTerrainInItsColours) {
         return false;
     };
     const QImage picture = Picture();
+    EXPECT_EQ(picture.pixel(PlaceOfSquare(1, 1).topLeft()) & RGB_MASK, 0x404040u) << "a line";
     for (int code = 0; code < terrainKindCount; ++code) {
         const Colors& color = colors[static_cast<std::size_t>(code)];
         const QImage square = picture.copy(PlaceOfSquare(code + 1, 1));
