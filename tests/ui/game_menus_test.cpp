@@ -1,0 +1,94 @@
+#include <QMenu>
+#include <QMenuBar>
+
+#include "support/game_window.h"
+
+namespace qarn {
+namespace {
+
+TEST_F(GameWindow, HasItsMenus) {
+    Open("Q@9,5 WA@17,2");
+    std::string text;
+    for (const QAction* menu : window->menuBar()->actions()) {
+        text += menu->text().toStdString() + "\n";
+        for (const QAction* item : menu->menu()->actions()) {
+            text += item->isSeparator() ? "  --"
+                                        : "  " + item->text().toStdString() + "  " +
+                                              item->shortcut().toString().toStdString();
+            text += item->isVisible() ? "\n" : "  (hidden)\n";
+        }
+    }
+    EXPECT_EQ(text, R"(&File
+  &New...  Ctrl+N
+  &Open...  Ctrl+O
+  &Save  Ctrl+S
+  Save &As...  F12
+  --
+  E&xit  Ctrl+X
+&Details
+  &Details  Ctrl+D
+  &Item Details  Ctrl+I
+  Summary &Terrain Details  Ctrl+T
+&Tools
+  &Replay  Ctrl+R
+  &Convert File    (hidden)
+&Options
+  &Display Summary  
+  Default &Filepath  
+  Add and Remove the &TGF Filetype  
+&Help
+  &Getting Started  
+  &Help  F1
+  --
+  &About  
+)");
+}
+
+TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
+    Open("Q@9,5 WA@17,2");
+    const QAction* file = window->menuBar()->actions().first();
+    const std::string saved = ReadFile(path);
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_FALSE(file->isEnabled());
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(ReadFile(path), saved);
+
+    ClickSquare(9, 5);
+    Key(Qt::Key_S, Qt::AltModifier);
+    ClickSquare(9, 6);
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(file->isEnabled());
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_NE(ReadFile(path), saved);
+    AnswerBoxes({Qt::Key_Escape});
+    Key(Qt::Key_F12);
+    EXPECT_EQ(titles, std::vector<std::string>{"Save As"});
+    EXPECT_FALSE(MenuItem("mnuConvertFile")->isVisible());
+    EXPECT_TRUE(MenuItem("mnuSummary")->isChecked());
+}
+
+TEST_F(GameWindow, ShowsCheckMarksInItsMenus) {
+    Open("Q@9,5 WA@17,2");
+    const std::vector<const char*> items{"mnuPeopleDetails", "mnuSummary", "mnuTGF"};
+    const auto marks = [&] {
+        std::string text;
+        for (const char* item : items) text += MenuItem(item)->isChecked() ? 'x' : '-';
+        return text;
+    };
+    EXPECT_EQ(marks(), "-x-");
+    std::string after;
+    AnswerBoxes({Qt::Key_Return});
+    for (const char* item : items) {
+        MenuItem(item)->trigger();
+        after += marks() + " ";
+    }
+    EXPECT_EQ(after, "xx- x-- x-x ");
+    for (const QAction* action : window->findChildren<QAction*>()) {
+        const bool checkable =
+            std::find(items.begin(), items.end(), action->objectName()) != items.end();
+        EXPECT_EQ(action->isCheckable(), checkable) << action->text().toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace qarn
