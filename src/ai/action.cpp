@@ -6,6 +6,7 @@
 
 #include "ai/directions.h"
 #include "core/board_geometry.h"
+#include "core/game.h"
 #include "core/position.h"
 #include "rules/attack_mode.h"
 #include "rules/movement.h"

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "core/game.h"
 #include "core/plan.h"
 
 namespace qarn {
+
+struct Game;
 
 /// Begins the replay of a plan through the window's own buttons, boxes and squares. Presses the
 /// move button or, for an attack, the attack button, and enables the timer for the first stage. To

@@ -2,6 +2,7 @@
 
 #include "ai/action.h"
 #include "ai/choosers.h"
+#include "core/game.h"
 
 namespace qarn {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Decides what the side to move, played by the computer, does in its turn, and starts that action:
 /// a stack marches onto an enemy square or, when no attack promises enough, onto another stack of

@@ -2,6 +2,7 @@
 
 #include "ai/action.h"
 #include "ai/choose_move.h"
+#include "core/game.h"
 #include "window/run_event.h"
 
 namespace qarn {

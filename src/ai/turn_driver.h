@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// The interval of tmrAI in milliseconds: slow enough for a person to follow.
 inline constexpr int tmrAIInterval = 1000;

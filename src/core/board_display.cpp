@@ -1,5 +1,7 @@
 #include "core/board_display.h"
 
+#include "core/game.h"
+
 namespace qarn {
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// The caption of one square: the codes of the groups that it shows, in roster order, each with its
 /// padding and two blanks behind it.

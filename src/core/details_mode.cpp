@@ -1,5 +1,7 @@
 #include "core/details_mode.h"
 
+#include "core/game.h"
+
 namespace qarn {
 
 void EnterDetailsMode(Game& game) {

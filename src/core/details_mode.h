@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Square-information mode on: a click on a square shows what stands there. Remembers the status
 /// line and which of the move, attack and selecting buttons are enabled, and disables these.

@@ -1,5 +1,7 @@
 #include "core/turn_cycle.h"
 
+#include "core/game.h"
+
 namespace qarn {
 namespace {
 

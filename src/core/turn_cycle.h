@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Starts the turn cycle of a game that has just been loaded: draws the first side of a new game,
 /// shows whose turn it is and starts the computer when it plays that side.

@@ -1,6 +1,7 @@
 #include "rules/attack_mode.h"
 
 #include "core/details_mode.h"
+#include "core/game.h"
 #include "core/turn_cycle.h"
 
 namespace qarn {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Enters attack mode.
 void EnterAttackMode(Game& game);

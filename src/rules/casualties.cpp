@@ -4,6 +4,7 @@
 
 #include "core/board_display.h"
 #include "core/file_store.h"
+#include "core/game.h"
 #include "core/turn_cycle.h"
 #include "rules/attack_mode.h"
 #include "rules/check_boxes.h"

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "core/game.h"
+#include "core/people_set.h"
 
 namespace qarn {
+
+struct Game;
 
 /// Lists the people of the attacking square in the check boxes, so that the player picks the
 /// character that died. Gives false, and changes nothing, when no character stands there.

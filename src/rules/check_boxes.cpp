@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/game.h"
+
 namespace qarn {
 
 void ListInCheckBoxes(Game& game, const SquareList& people, bool ticked) {

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Controls;
+struct Game;
+struct SquareList;
 
 /// Shows the first 11 of the listed people in the check boxes, enabled and with their codes, all
 /// ticked or none; hides the other boxes; shows cmdDoneSel.

@@ -3,6 +3,7 @@
 #include <string>
 #include <variant>
 
+#include "core/game.h"
 #include "core/turn_cycle.h"
 #include "rules/attack_mode.h"
 #include "rules/casualties.h"

@@ -2,9 +2,12 @@
 
 #include <cstdint>
 
-#include "core/game.h"
+#include "core/happenings.h"
 
 namespace qarn {
+
+struct Game;
+class RandomNumbers;
 
 /// One click on square (X, Y) in attack mode: the first accepted click names the attacking square,
 /// the next one the target, and the attack is carried out. A direct attack (`blnDirect`) comes from

@@ -1,6 +1,7 @@
 #include "rules/movement.h"
 
 #include "core/details_mode.h"
+#include "core/game.h"
 #include "core/turn_cycle.h"
 #include "rules/casualties.h"
 #include "rules/check_boxes.h"

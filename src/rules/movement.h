@@ -1,8 +1,10 @@
 #pragma once
 
-#include "core/game.h"
+#include <cstdint>
 
 namespace qarn {
+
+struct Game;
 
 /// The button "&Move" / "Done &Moving": enters move mode, or ends the move and passes the turn. A
 /// bird that would end on water goes back to where it started, and its side keeps the turn.

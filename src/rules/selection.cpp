@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/game.h"
 #include "rules/check_boxes.h"
 #include "rules/questions/start.h"
 #include "rules/texts.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Takes the current square as the starting square of a move and lists its items in the check
 /// boxes, all ticked. A square from which the side to move can not start is refused on the status

@@ -1,5 +1,6 @@
 #include "rules/step.h"
 
+#include "core/game.h"
 #include "rules/attack_mode.h"
 #include "rules/combat.h"
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "core/game.h"
 #include "rules/questions/step.h"
 
 namespace qarn {
+
+struct Game;
 
 /// What comes of the step of the moving group onto its neighbour D, of which `step` is the answer
 /// beforehand. Carries out the direct attack when enemies stand there and the player wants it.

@@ -1,6 +1,7 @@
 #include "rules/take_step.h"
 
 #include "core/board_display.h"
+#include "core/game.h"
 #include "core/position.h"
 #include "rules/movement.h"
 #include "rules/step.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Takes the moving group one step onto the current square, or tells on the status line why not.
 void TakeStep(Game& game);

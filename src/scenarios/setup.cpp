@@ -1,5 +1,6 @@
 #include "scenarios/setup.h"
 
+#include "core/game.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/data/ambermoor.h"
 #include "scenarios/data/cinderfell.h"

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "core/game.h"
 #include "scenarios/scenario_data.h"
 
 namespace qarn {
+
+struct Game;
 
 /// The data of scenario 1 to 12. Throws std::out_of_range for another number.
 const ScenarioData& DataOfScenario(int scenario);

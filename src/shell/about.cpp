@@ -1,5 +1,6 @@
 #include "shell/about.h"
 
+#include "core/game.h"
 #include "shell/program_texts.h"
 
 namespace qarn {

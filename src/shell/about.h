@@ -1,8 +1,10 @@
 #pragma once
 
-#include "core/game.h"
+#include "core/controls.h"
 
 namespace qarn {
+
+struct Game;
 
 /// The controls of the about window. The window is open exactly while the menu item mnuAbout is
 /// disabled; it is not modal.

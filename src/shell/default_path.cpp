@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "core/game.h"
 #include "shell/user_settings.h"
 
 namespace qarn {

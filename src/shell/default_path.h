@@ -2,9 +2,10 @@
 
 #include <string>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
+struct Ports;
 
 /// The default folder for game files: the person's setting; where there is none, or the file system
 /// cannot even look for it, the program's own folder. When that is a build tree, or the person may

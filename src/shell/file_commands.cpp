@@ -1,5 +1,7 @@
 #include "shell/file_commands.h"
 
+#include "core/game.h"
+
 namespace qarn {
 namespace {
 

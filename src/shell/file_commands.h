@@ -2,9 +2,10 @@
 
 #include <string>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
+struct Ports;
 
 /// Registers a file type: its extension (with the point), the path of the program that opens its
 /// files, its class, description and icon (none when empty). What cannot be written is told in

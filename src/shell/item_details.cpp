@@ -1,5 +1,6 @@
 #include "shell/item_details.h"
 
+#include "core/game.h"
 #include "scenarios/catalogue.h"
 
 namespace qarn {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Opens the help page about the groups of the current scenario.
 void ItemDetails(Game& game);

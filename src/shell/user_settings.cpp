@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <stdexcept>
 
+#include "core/game.h"
+
 namespace qarn {
 namespace {
 

@@ -2,9 +2,10 @@
 
 #include <string>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
+struct Ports;
 
 /// The key under which the settings of the person with this login name are stored.
 std::string GetUserKey(const std::string& loginName);

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// What a square is in the move or the attack that is under way.
 enum class SquareRole {

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "core/game.h"
 #include "ui/text.h"
 
 namespace qarn {

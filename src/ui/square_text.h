@@ -2,9 +2,9 @@
 
 #include <QString>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Square (X, Y) in words, for those who hear the board: its coordinates, terrain and groups.
 QString NameOfSquare(const Game& game, int X, int Y);

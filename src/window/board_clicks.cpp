@@ -3,6 +3,7 @@
 #include "core/board_geometry.h"
 #include "core/details_mode.h"
 #include "core/eight_bit.h"
+#include "core/game.h"
 #include "rules/combat.h"
 #include "rules/movement.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// A click on the square in column X (1 to 18), row Index (1 to 10). Does nothing while a casualty
 /// is to be chosen, except in details mode.

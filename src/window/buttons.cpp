@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/game.h"
 #include "rules/attack_mode.h"
 #include "rules/movement.h"
 #include "window/board_clicks.h"

@@ -3,9 +3,11 @@
 #include <span>
 #include <string_view>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Button;
+struct Controls;
+struct Game;
 
 /// One of the window's buttons, those of the terrain key aside. Their caption and state stand in
 /// the controls. Every front end makes its buttons from this one table.

@@ -5,6 +5,7 @@
 #include "core/board_display.h"
 #include "core/code_page.h"
 #include "core/file_store.h"
+#include "core/game.h"
 #include "core/game_file.h"
 #include "core/turn_cycle.h"
 #include "rules/terrain.h"

@@ -2,9 +2,10 @@
 
 #include <string>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
+struct GameRecord;
 
 /// Opens the game window on the game file `strGamePath` (absolute): loads it, draws the board and
 /// starts the turn. A file that cannot be loaded is told in a box with Retry and Cancel; Cancel

@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 
+#include "core/game.h"
 #include "scenarios/catalogue.h"
 #include "shell/about.h"
 #include "shell/default_path.h"

@@ -3,9 +3,11 @@
 #include <span>
 #include <string_view>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Controls;
+struct Game;
+struct MenuState;
 
 /// File > New and File > Open: asks whether to leave the game and, on Yes, closes the window as
 /// Form_Unload does, so that the start window follows; Open has it choose a saved game. On No, and

@@ -1,6 +1,7 @@
 #include "window/run_event.h"
 
 #include "core/failure_text.h"
+#include "core/game.h"
 
 namespace qarn {
 namespace {

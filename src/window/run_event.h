@@ -3,9 +3,9 @@
 #include <functional>
 #include <string_view>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Runs the handler of one event of the game window: the one gate through which a hand, a script,
 /// the timer and the loader all go, each event once. Whatever the handler throws is told in a box,

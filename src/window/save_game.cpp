@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "core/file_store.h"
+#include "core/game.h"
 #include "core/game_file.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "core/game.h"
-
 namespace qarn {
+
+struct Game;
 
 /// Writes the game to strGamePath. A game of an unknown scenario is not written. Throws SaveError
 /// with the reason; the old file is then untouched.
