@@ -11,9 +11,17 @@
 namespace qarn {
 
 /// Acts for a person on the windows of a program as they come up, in nested event loops too. Each
-/// step waits for a window of its kind, under no other modal one.
+/// step waits for a window of its kind, under no other modal one. Ends the test program when a
+/// window does not come, or stays and is waited for.
 class WindowScript {
 public:
+    WindowScript() {
+        constexpr int milliseconds = 20'000;
+        QTimer::singleShot(milliseconds, &context_, [this] {
+            qFatal("%zu windows did not come up, or one did not close", steps_.size());
+        });
+    }
+
     template <typename Window>
     WindowScript& On(std::function<void(Window&)> act) {
         steps_.push_back([act]() -> std::function<void()> {
