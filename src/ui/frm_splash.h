@@ -49,9 +49,11 @@ private:
 
     void Lay();
     QLayout* LayNewGame();
-    QLayout* LayScenarios();
-    QLayout* LaySavedGames();
+    QLayout* LayLists();
+    QLayout* LayStory();
+    QLayout* LayLocation();
     QLayout* LayBottom();
+    void AlignButtons();
     void Connect();
     void RunOnClick(QPushButton& button, const Handler& handler);
     void RunOnFocus(const QObject& widget, bool got);

@@ -38,11 +38,21 @@ void FrmSplash::Lay() {
     all->setSpacing(gap);
     all->addWidget(&lblProgramName_);
     all->addLayout(LayNewGame());
-    all->addLayout(LayScenarios(), 1);
-    all->addLayout(LaySavedGames(), 1);
+    all->addLayout(LayLists(), 1);
+    all->addLayout(LayLocation());
     all->addLayout(LayBottom());
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+    AlignButtons();
     resize(720, 520);
+}
+
+// Those at the right edge make a column as wide as the widest of them.
+void FrmSplash::AlignButtons() {
+    cmdDelete_.setText(ToQt(window_.controls.cmdDelete.Caption));
+    const int width = cmdDelete_.sizeHint().width();
+    for (QPushButton* button : {&cmdNew_, &cmdLoad_, &cmdDelete_, &cmdBrowse_, &cmdExit_}) {
+        button->setMinimumWidth(width);
+    }
 }
 
 QLayout* FrmSplash::LayNewGame() {
@@ -59,42 +69,43 @@ QLayout* FrmSplash::LayNewGame() {
     return part;
 }
 
-QLayout* FrmSplash::LayScenarios() {
+// Each list stands in the place of the others: what is hidden takes no room in one row.
+QLayout* FrmSplash::LayLists() {
     for (const std::string& title : window_.controls.lstScenarios.List) {
         lstScenarios_.addItem(ToQt(title));
     }
     lstScenarios_.setAccessibleName("Scenarios");
-    lblScenarioBackground_.setWordWrap(true);
-    lblScenarioBackground_.setAlignment(Qt::AlignTop);
-    auto* story = new QVBoxLayout;
-    story->addWidget(&picture_);
-    story->addWidget(&lblScenarioBackground_, 1);
-    auto* part = new QHBoxLayout;
-    part->addWidget(&lstScenarios_, 1);
-    part->addLayout(story);
-    return part;
-}
-
-QLayout* FrmSplash::LaySavedGames() {
     fileLoad_.setAccessibleName("Saved games");
     txtBackGround_.setReadOnly(true);
     txtBackGround_.setAccessibleName("Program background");
+    auto* part = new QHBoxLayout;
+    part->addWidget(&lstScenarios_, 1);
+    part->addLayout(LayStory());
+    part->addWidget(&fileLoad_, 1);
+    part->addWidget(&txtBackGround_, 1);
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(&cmdLoad_);
     buttons->addWidget(&cmdDelete_);
     buttons->addStretch();
-    auto* files = new QHBoxLayout;
-    files->addWidget(&fileLoad_, 1);
-    files->addWidget(&txtBackGround_, 1);  // in the place of the list
-    files->addLayout(buttons);
-    lblYouAre_.setBuddy(&txtLocation_);
-    auto* location = new QHBoxLayout;
-    location->addWidget(&lblYouAre_);
-    location->addWidget(&txtLocation_, 1);
-    location->addWidget(&cmdBrowse_);
+    part->addLayout(buttons);
+    return part;
+}
+
+QLayout* FrmSplash::LayStory() {
+    lblScenarioBackground_.setWordWrap(true);
+    lblScenarioBackground_.setAlignment(Qt::AlignTop);
     auto* part = new QVBoxLayout;
-    part->addLayout(files, 1);
-    part->addLayout(location);
+    part->addWidget(&picture_);
+    part->addWidget(&lblScenarioBackground_, 1);
+    return part;
+}
+
+QLayout* FrmSplash::LayLocation() {
+    lblYouAre_.setBuddy(&txtLocation_);
+    auto* part = new QHBoxLayout;
+    part->addWidget(&lblYouAre_);
+    part->addWidget(&txtLocation_, 1);
+    part->addWidget(&cmdBrowse_);
     return part;
 }
 
