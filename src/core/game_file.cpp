@@ -4,6 +4,7 @@
 #include <charconv>
 #include <system_error>
 
+#include "core/blanks.h"
 #include "core/code_page.h"
 #include "core/file_store.h"
 
@@ -11,12 +12,7 @@ namespace qarn {
 namespace {
 
 constexpr std::string_view lineEnds = "\r\n";
-
-std::string_view WithoutBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+constexpr std::string_view itemBlanks = " \t";
 
 std::string ReadForLoading(const std::string& path) {
     try {
@@ -36,7 +32,7 @@ std::string GameFileReader::ReadLine(std::string_view what) {
 }
 
 std::uint8_t GameFileReader::ReadNumber(std::string_view what, int low, int high) {
-    const std::string item(WithoutBlanks(Take(what, ",\r\n")));
+    const std::string item(WithoutBlanks(Take(what, ",\r\n"), itemBlanks));
     int number = 0;
     const auto [end, error] = std::from_chars(item.data(), item.data() + item.size(), number);
     const bool whole = end == item.data() + item.size() && !item.empty();
@@ -75,7 +71,7 @@ void GameFileReader::Fail(LoadErrorNumber number, const std::string& why) const 
 }
 
 std::string_view FirstItem(std::string_view line) {
-    return WithoutBlanks(line.substr(0, line.find(',')));
+    return WithoutBlanks(line.substr(0, line.find(',')), itemBlanks);
 }
 
 Player ParsePlayerLine(std::string_view line) {

@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "core/blanks.h"
 #include "core/file_store.h"
 #include "core/game_file.h"
 #include "core/player_error.h"
@@ -17,12 +18,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view extension = ".tgf";
 constexpr std::string_view forbidden = "\\/:*?\"<>|";
-
-std::string WithoutBlanks(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 // A text that a handler writes counts as a change like one that is typed.
 void SetText(StartWindow& window, const std::string& text) {
@@ -68,7 +63,7 @@ void ShowScenarios(StartControls& controls) {
 }
 
 void TakeFileName(StartWindow& window) {
-    std::string name = WithoutBlanks(window.controls.txtNewFilePath.Text);
+    std::string name(WithoutBlanks(window.controls.txtNewFilePath.Text));
     if (name.find_first_of(forbidden) != std::string::npos) {
         window.ports.dialogs.Tell(
             "You can not have a game containing the followin characters: \\ / : * ? \" < > |");
