@@ -51,11 +51,10 @@ Outcome SelfPlayedGame::PlayToEnd() {
     while (game_.controls.tmrAI.Enabled) {
         const bool choosing = !record.Action.blnAIBusy;
         if (choosing && turns_ == mostTurns) return Outcome::Endless;
-        Tick(game_);
+        if (!Tick(game_)) throw std::runtime_error(ports_.LastText());
         if (game_.blnEnded) return record.bytPeopleLeft[1] > 0 ? Outcome::Won1 : Outcome::Won2;
         if (choosing && record.Action.blnAIBusy) ++turns_;
     }
-    if (ports_.LastText() != "No good move!") throw std::runtime_error(ports_.LastText());
     return Outcome::Stalemate;
 }
 

@@ -30,8 +30,10 @@ void tmrAI_Timer(Game& game) {
     }
 }
 
-void Tick(Game& game) {
-    if (!RunEvent(game, "tmrAI_Timer", tmrAI_Timer)) game.controls.tmrAI.Enabled = false;
+bool Tick(Game& game) {
+    const bool went = RunEvent(game, "tmrAI_Timer", tmrAI_Timer);
+    if (!went) game.controls.tmrAI.Enabled = false;
+    return went;
 }
 
 }  // namespace qarn

@@ -14,7 +14,7 @@ inline constexpr int tmrAIInterval = 1000;
 void tmrAI_Timer(Game& game);
 
 /// The event of a tick: runs tmrAI_Timer. After a failure the timer stays disabled, so that its box
-/// does not come back every second.
-void Tick(Game& game);
+/// does not come back every second; gives false then.
+bool Tick(Game& game);
 
 }  // namespace qarn
