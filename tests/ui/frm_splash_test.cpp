@@ -41,9 +41,17 @@ protected:
     QWidget* Widget(const char* name) { return window.findChild<QWidget*>(name); }
     void Click(const char* name) { QTest::mouseClick(Widget(name), Qt::LeftButton); }
     void ClickRow(const char* list, int row) {
+        const auto [viewport, place] = PlaceOf(list, row);
+        QTest::mouseClick(viewport, Qt::LeftButton, {}, place);
+    }
+    void DoubleClickRow(const char* list, int row) {
+        ClickRow(list, row);
+        const auto [viewport, place] = PlaceOf(list, row);
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, place);
+    }
+    std::pair<QWidget*, QPoint> PlaceOf(const char* list, int row) {
         auto* rows = static_cast<QListWidget*>(Widget(list));
-        const QPoint place = rows->visualItemRect(rows->item(row)).center();
-        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, place);
+        return {rows->viewport(), rows->visualItemRect(rows->item(row)).center()};
     }
     void AnswerBox(Qt::Key key) {
         script.On<QMessageBox>([=, this](QMessageBox& box) {
@@ -236,14 +244,15 @@ TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
 
     window.Prepare(true);
     EXPECT_EQ(Focus(), "fileLoad");
-    Key(Qt::Key_End);
-    Click("cmdLoad");
+    DoubleClickRow("fileLoad", 3);
     EXPECT_EQ(window.Shown().Next, NextWindow::Game);
     EXPECT_EQ(window.Shown().strGamePath, folder / "d.tgf");
 }
 
 TEST_F(StartWindowOnScreen, EscapeAndTheCloseBoxEndTheProgram) {
     Enter("A");
+    DoubleClickRow("lstScenarios", 1);
+    EXPECT_NE(Seen().find("&Computer (lstScenarios=The Song of Kestrel Ford)"), std::string::npos);
     Key(Qt::Key_Escape);
     EXPECT_EQ(window.Shown().Next, NextWindow::None);
     FrmSplash other(random, {settings, fileTypes, {folder / "", folder / ""}}, wastebasket);
