@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <span>
-#include <stdexcept>
 
 #include "ai/directions.h"
 #include "core/board_geometry.h"
@@ -62,9 +61,7 @@ PeopleSet WhoGoes(const Position& position, const Plan& plan) {
 }
 
 ActionRecord ActionOf(const Position& position, const Plan& plan) {
-    const std::vector<Square> path =
-        plan.kind == PlanKind::Attack ? std::vector{plan.target} : plan.path;
-    if (path.size() > longestMarch) throw std::length_error("A path is too long to be replayed.");
+    const Path path = plan.kind == PlanKind::Attack ? Path{plan.target} : plan.path;
     ActionRecord action{.blnAIBusy = true,
                         .blnAttacks = plan.kind == PlanKind::Attack,
                         .bytAIStartX = plan.start.X,

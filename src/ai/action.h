@@ -8,8 +8,7 @@ struct Game;
 
 /// Begins the replay of a plan through the window's own buttons, boxes and squares. Presses the
 /// move button or, for an attack, the attack button, and enables the timer for the first stage. To
-/// pass is to confirm a stack and end its move where it stands. Throws std::length_error for a
-/// path of more than longestMarch squares.
+/// pass is to confirm a stack and end its move where it stands.
 void StartAction(Game& game, const Plan& plan);
 
 /// Replays the next stage of the action, and enables the timer while there is one after it.

@@ -13,7 +13,7 @@ Json ToJson(PeopleSet people) {
     return list;
 }
 
-Json ToJson(const std::vector<Square>& path) {
+Json ToJson(const Path& path) {
     Json list = Json::array();
     for (const Square square : path) list.push_back(ToJson(square));
     return list;

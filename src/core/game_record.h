@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/group.h"
+#include "core/path.h"
 #include "core/people_set.h"
 #include "core/square.h"
 
@@ -27,9 +28,6 @@ struct TerrainKindRecord : TerrainValues {
     std::string_view Comments;
 };
 
-/// The most steps of a path that the computer replays.
-inline constexpr std::size_t longestMarch = 64;
-
 /// The action that the computer is replaying through the window's controls.
 struct ActionRecord {
     bool blnAIBusy = false;
@@ -39,7 +37,7 @@ struct ActionRecord {
     PeopleSet goes = {};        ///< who moves; none: everybody on the starting square
     std::uint8_t casualty = 0;  ///< who is to die if someone must; 0: the weakest
     /// Direction codes, used at indexes 1 to bytAIPathLength.
-    std::array<std::uint8_t, longestMarch + 1> bytAIPath{};
+    std::array<std::uint8_t, longestPath + 1> bytAIPath{};
     std::uint8_t bytAIPathLength = 0;
     std::uint8_t bytAICurrentX = 0, bytAICurrentY = 0;
     std::uint8_t bytAIStep = 0;       ///< the next stage of the replay

@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "core/path.h"
 #include "core/people_set.h"
 #include "core/square.h"
 
@@ -25,7 +26,7 @@ enum class AttackResult : std::uint8_t {
 struct Moved {
     std::uint8_t side = 0;
     PeopleSet people = {};
-    std::vector<Square> path = {};  ///< the start first, then every square walked onto
+    Path path = {};  ///< the start first, then every square walked onto
 
     friend bool operator==(const Moved&, const Moved&) = default;
 };

@@ -59,6 +59,9 @@ public:
     friend constexpr PeopleSet operator|(PeopleSet a, PeopleSet b) {
         return PeopleSet(a.bits_ | b.bits_);
     }
+    friend constexpr PeopleSet operator&(PeopleSet a, PeopleSet b) {
+        return PeopleSet(a.bits_ & b.bits_);
+    }
     friend constexpr PeopleSet operator-(PeopleSet a, PeopleSet b) {
         return PeopleSet(a.bits_ & ~b.bits_);
     }

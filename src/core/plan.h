@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
+#include "core/path.h"
 #include "core/people_set.h"
 #include "core/square.h"
 
@@ -18,10 +18,10 @@ enum class PlanKind : std::uint8_t {
 /// A whole turn as a player decides it, questions of the rules answered with yes.
 struct Plan {
     PlanKind kind = PlanKind::Pass;
-    Square start = {};              ///< of a march, or the attackers' square
-    PeopleSet people = {};          ///< of a march: who goes, of those on the starting square
-    std::vector<Square> path = {};  ///< of a march: the squares walked onto, one after the other
-    Square target = {};             ///< of an attack
+    Square start = {};      ///< of a march, or the attackers' square
+    PeopleSet people = {};  ///< of a march: who goes, of those on the starting square
+    Path path = {};         ///< of a march: the squares walked onto, one after the other
+    Square target = {};     ///< of an attack
     /// The roster entry that dies when the attackers lose a character; 0, or an entry that is not
     /// there: the weakest.
     std::uint8_t casualty = 0;

@@ -87,8 +87,8 @@ private:
     }
 
     // A walk wherever it leads, without leaving the board; legal or not.
-    std::vector<Square> RandomWalk(Square at) {
-        std::vector<Square> path;
+    Path RandomWalk(Square at) {
+        Path path;
         for (int steps = Below(5); steps > 0;) {
             const int X = at.X + (Below(2) == 0 ? 1 - 2 * Below(2) : 0);
             const int Y = at.Y + (X == at.X ? 1 - 2 * Below(2) : 0);
@@ -98,6 +98,12 @@ private:
             --steps;
         }
         return path;
+    }
+
+    static Path WithoutStart(const Path& path) {
+        Path rest;
+        for (std::size_t k = 1; k < path.size(); ++k) rest.push_back(path[k]);
+        return rest;
     }
 
     Plan RandomMarch(Square start) {
@@ -110,15 +116,13 @@ private:
         std::copy_if(reached.begin(), reached.end(), std::back_inserter(attacks),
                      [](const ReachedSquare& square) { return square.attack; });
         if (!attacks.empty() && Below(2) == 0) {
-            plan.path = OneOf(attacks).path;
+            plan.path = WithoutStart(OneOf(attacks).path);
         } else if (!reached.empty() && Below(2) == 0) {
             chosenFor_ = OneOf(reached);
-            plan.path = chosenFor_.path;
+            plan.path = WithoutStart(chosenFor_.path);
         } else {
             plan.path = RandomWalk(start);
-            return plan;
         }
-        plan.path.erase(plan.path.begin());
         return plan;
     }
 
@@ -127,7 +131,7 @@ private:
         Plan plan{.kind = PlanKind::Attack, .start = OneOf(own)};
         if (Below(3) == 0) {
             const auto walk = RandomWalk(plan.start);
-            plan.target = walk.empty() ? plan.start : walk.front();
+            plan.target = walk.empty() ? plan.start : walk[0];
             const AttackAnswer attack = AskAttack(position_, plan.start, plan.target, false);
             if (attack.refusal != AttackRefusal::None) plan = {};
         } else if (AskStart(position_, plan.start) == StartRefusal::None) {

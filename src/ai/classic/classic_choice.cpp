@@ -89,8 +89,8 @@ std::optional<March> FindJoin(const Position& position, const RankedSquares& Sta
     return std::nullopt;
 }
 
-std::vector<Square> PathOf(const March& march) {
-    std::vector<Square> path;
+Path PathOf(const March& march) {
+    Path path;
     Square square = march.start;
     for (std::size_t k = 1; k <= march.bytLength; ++k) {
         MoveOneSquare(march.bytSteps[k], square.X, square.Y);

@@ -13,10 +13,10 @@ enum StepCode : std::uint8_t { AlongX = 1, AlongY = 2 };
 
 /// The most steps that a path without detours has: from one corner of the board to the opposite
 /// one.
-inline constexpr int longestPath = columnCount - 1 + rowCount - 1;
+inline constexpr int longestDirectPath = columnCount - 1 + rowCount - 1;
 
 /// The steps of one path, used from index 1.
-using PathSteps = std::array<std::uint8_t, longestPath + 1>;
+using PathSteps = std::array<std::uint8_t, longestDirectPath + 1>;
 
 /// The most paths that a path table holds.
 inline constexpr int mostPaths = 1800;

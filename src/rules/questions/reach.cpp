@@ -1,82 +1,74 @@
 #include "rules/questions/reach.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
+#include <utility>
+
+#include "rules/questions/occupancy.h"
 
 namespace qarn {
 namespace {
 
-// Where the cheapest way known so far to a square comes from.
-struct Way {
-    int cost = 0;
-    Square before;  // (0, 0): the group stands here
-    bool open = true;
-    bool ends = false;  // joins or attacks
-    bool attack = false;
-};
-using Ways = std::array<std::array<std::optional<Way>, rowCount + 1>, columnCount + 1>;
-
-std::optional<Way>& WayTo(Ways& ways, Square square) { return ways[square.X][square.Y]; }
-
-// The open square with the cheapest way, column by column among equals; (0, 0) when none is left.
-Square CheapestOpen(const Ways& ways) {
-    Square cheapest;
-    int cost = 0;
-    for (std::uint8_t X = 1; X <= columnCount; ++X) {
-        for (std::uint8_t Y = 1; Y <= rowCount; ++Y) {
-            const std::optional<Way>& way = ways[X][Y];
-            if (!way || !way->open || (cheapest != Square{} && way->cost >= cost)) continue;
-            cheapest = {X, Y};
-            cost = way->cost;
-        }
-    }
-    return cheapest;
-}
-
-void LookAt(const Position& position, const MovingGroup& group, Square to, Ways& ways) {
-    const StepAnswer step = AskStep(position, group, to);
-    if (!step.enters && step.result != StepResult::DirectAttack) return;
-    const int cost = WayTo(ways, group.at)->cost + step.cost;
-    std::optional<Way>& known = WayTo(ways, to);
-    if (known && known->cost <= cost) return;
-    known = Way{.cost = cost,
-                .before = group.at,
-                .ends = step.result != StepResult::PlainStep,
-                .attack = step.result == StepResult::DirectAttack};
-}
-
-void LookAround(const Position& position, const MovingGroup& group, Ways& ways) {
-    constexpr std::array<std::array<int, 2>, 4> directions{{{0, -1}, {1, 0}, {0, 1}, {-1, 0}}};
-    for (const auto& [dX, dY] : directions) {
-        const int X = group.at.X + dX;
-        const int Y = group.at.Y + dY;
-        if (!IsOnBoard(X, Y)) continue;
-        LookAt(position, group, {static_cast<std::uint8_t>(X), static_cast<std::uint8_t>(Y)}, ways);
-    }
-}
-
-std::vector<Square> PathTo(Ways& ways, Square square) {
-    std::vector<Square> path;
-    for (; square != Square{}; square = WayTo(ways, square)->before) path.push_back(square);
-    std::reverse(path.begin(), path.end());
-    return path;
-}
+constexpr std::array<std::array<int, 2>, 4> directions{{{0, -1}, {1, 0}, {0, 1}, {-1, 0}}};
 
 }  // namespace
 
-std::vector<ReachedSquare> ReachOf(const Position& position, const MovingGroup& group) {
-    std::vector<ReachedSquare> reached;
-    Ways ways;
-    WayTo(ways, group.at) = Way{};
-    for (Square square = group.at; square != Square{}; square = CheapestOpen(ways)) {
-        Way& way = *WayTo(ways, square);
-        way.open = false;
-        if (square != group.at) {
-            reached.push_back({square, way.cost, PathTo(ways, square), way.attack});
+ReachMap::ReachMap(const Position& position, const Occupancy& occupancy, const MovingGroup& group)
+    : start_(group.at) {
+    for (auto& column : index_) column.fill(unknown);
+    Way from{.square = group.at, .before = {}};
+    for (;;) {
+        const int left = group.mobilityLeft - from.cost;
+        for (const auto& [dX, dY] : directions) {
+            const int X = from.square.X + dX;
+            const int Y = from.square.Y + dY;
+            if (left == 0 || from.joins || from.attack || !IsOnBoard(X, Y)) continue;
+            const Square to{static_cast<std::uint8_t>(X), static_cast<std::uint8_t>(Y)};
+            if (to == start_) continue;
+            LookAt(AskStep(position, occupancy, {group.people, from.square, left}, to), from.square,
+                   from.cost, to);
         }
-        const int left = group.mobilityLeft - way.cost;
-        if (!way.ends && left > 0) LookAround(position, {group.people, square, left}, ways);
+        if (settled_ == count_) return;
+        // The cheapest of those whose way may still become cheaper is settled next.
+        std::size_t cheapest = settled_;
+        for (std::size_t i = settled_; i < count_; ++i) {
+            if (ways_[i].cost < ways_[cheapest].cost) cheapest = i;
+        }
+        std::swap(ways_[settled_], ways_[cheapest]);
+        IndexOf(ways_[settled_].square) = static_cast<std::uint8_t>(settled_);
+        IndexOf(ways_[cheapest].square) = static_cast<std::uint8_t>(cheapest);
+        from = ways_[settled_++];
+    }
+}
+
+void ReachMap::LookAt(const StepAnswer& step, Square from, int costSoFar, Square to) {
+    const bool attack = step.result == StepResult::DirectAttack;
+    if (!step.enters && !attack) return;
+    const auto cost = static_cast<std::uint8_t>(costSoFar + step.cost);
+    std::uint8_t& index = IndexOf(to);
+    if (index == unknown) {
+        index = static_cast<std::uint8_t>(count_++);
+    } else if (ways_[index].cost <= cost) {
+        return;
+    }
+    ways_[index] = {to, from, cost, step.result == StepResult::JoinedOwn, attack};
+}
+
+Path ReachMap::PathTo(Square square) const {
+    std::array<Square, longestPath> reversed{};
+    std::size_t count = 0;
+    for (; square != start_; square = ways_[IndexOf(square)].before) reversed.at(count++) = square;
+    Path path;
+    while (count > 0) path.push_back(reversed[--count]);
+    return path;
+}
+
+std::vector<ReachedSquare> ReachOf(const Position& position, const MovingGroup& group) {
+    const ReachMap map(position, Occupancy(position), group);
+    std::vector<ReachedSquare> reached;
+    for (const ReachMap::Way& way : map) {
+        Path path{group.at};
+        for (const Square square : map.PathTo(way.square)) path.push_back(square);
+        reached.push_back({way.square, way.cost, path, way.attack});
     }
     return reached;
 }

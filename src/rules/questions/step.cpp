@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "rules/questions/occupancy.h"
+
 namespace qarn {
 namespace {
 
@@ -20,9 +22,9 @@ std::uint8_t CostOfSpecialMover(const Group& p, std::uint8_t T) {
 }
 
 // A lone "J" needs the air to itself; an "SK" leads others across.
-bool CanSwim(const Position& position, const MovingGroup& group) {
+bool CanSwim(const Position& position, const MovingGroup& group, PeopleSet here) {
     const Group& p = position.People[group.people.First()];
-    const bool alone = (PeopleOn(position, group.at) | group.people).Count() == 1;
+    const bool alone = (here | group.people).Count() == 1;
     if (p.Kind == GroupKind::LoneBird && alone) return true;
     if (p.Kind == GroupKind::LeadingBird) return true;
     return std::any_of(group.people.begin(), group.people.end(),
@@ -34,12 +36,13 @@ bool IsAnyOfSide(const Position& position, PeopleSet people, std::uint8_t side) 
                        [&](std::uint8_t i) { return position.People[i].Side == side; });
 }
 
-StepResult ResultOf(const Position& position, const MovingGroup& group, Square to, int cost) {
+// What the step is, from those who are here onto those who are there.
+StepResult ResultOf(const Position& position, const MovingGroup& group, Square to, int cost,
+                    PeopleSet here, PeopleSet there) {
     const std::uint8_t T = TerrainOf(position, to);
-    const PeopleSet there = PeopleOn(position, to) - group.people;
     if (DistanceBetween(group.at, to) != 1) return StepResult::Impossible;
     if (T == Abbey && there.Empty() && position.bytTurn == 2) return StepResult::Impossible;
-    if (IsWater(T) && !CanSwim(position, group)) return StepResult::WaterWithoutBoat;
+    if (IsWater(T) && !CanSwim(position, group, here)) return StepResult::WaterWithoutBoat;
     if (group.mobilityLeft < cost) return StepResult::NotEnoughMobility;
 
     if (CharactersOf(position, there).Empty()) return StepResult::PlainStep;
@@ -52,6 +55,21 @@ StepResult ResultOf(const Position& position, const MovingGroup& group, Square t
     }
     return position.TerrainKinds.at(T).DirectAttack ? StepResult::DirectAttack
                                                     : StepResult::AttackCancelled;
+}
+
+StepAnswer AskStepAmong(const Position& position, const MovingGroup& group, Square to,
+                        PeopleSet here, PeopleSet there) {
+    const std::uint8_t T = TerrainOf(position, to);
+    StepAnswer answer{.cost = StepCost(position, group.people, T)};
+    if (answer.cost == 0) answer.cost = position.TerrainKinds.at(T).Mobility;
+    answer.result = ResultOf(position, group, to, answer.cost, here, there - group.people);
+
+    // Only side 1 ever comes to stand on an abbey's square.
+    const bool closed = T == Abbey && position.bytTurn == 2;
+    answer.enters = !closed && (answer.result == StepResult::PlainStep ||
+                                answer.result == StepResult::JoinedOwn ||
+                                answer.result == StepResult::DirectAttack);
+    return answer;
 }
 
 }  // namespace
@@ -69,17 +87,12 @@ std::uint8_t StepCost(const Position& position, PeopleSet people, std::uint8_t T
 }
 
 StepAnswer AskStep(const Position& position, const MovingGroup& group, Square to) {
-    const std::uint8_t T = TerrainOf(position, to);
-    StepAnswer answer{.cost = StepCost(position, group.people, T)};
-    if (answer.cost == 0) answer.cost = position.TerrainKinds.at(T).Mobility;
-    answer.result = ResultOf(position, group, to, answer.cost);
+    return AskStepAmong(position, group, to, PeopleOn(position, group.at), PeopleOn(position, to));
+}
 
-    // Only side 1 ever comes to stand on an abbey's square.
-    const bool closed = T == Abbey && position.bytTurn == 2;
-    answer.enters = !closed && (answer.result == StepResult::PlainStep ||
-                                answer.result == StepResult::JoinedOwn ||
-                                answer.result == StepResult::DirectAttack);
-    return answer;
+StepAnswer AskStep(const Position& position, const Occupancy& occupancy, const MovingGroup& group,
+                   Square to) {
+    return AskStepAmong(position, group, to, occupancy.On(group.at), occupancy.On(to));
 }
 
 bool IsLoneBirdOnWater(const Position& position, PeopleSet people, Square square) {

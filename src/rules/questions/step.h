@@ -6,6 +6,8 @@
 
 namespace qarn {
 
+class Occupancy;
+
 /// What comes of one step of a move.
 enum class StepResult : std::uint8_t {
     PlainStep = 0,
@@ -41,6 +43,10 @@ struct StepAnswer {
 /// What the step of a group of the side to move onto square `to` would be. A direct attack enters
 /// the square only when it is won.
 StepAnswer AskStep(const Position& position, const MovingGroup& group, Square to);
+
+/// The same for whoever asks about many squares of one position.
+StepAnswer AskStep(const Position& position, const Occupancy& occupancy, const MovingGroup& group,
+                   Square to);
 
 /// The mobility units that the people spend together to step onto terrain T, their special movers
 /// considered.
