@@ -6,6 +6,7 @@
 #include <random>
 
 #include "ai/action.h"
+#include "ai/opponents/turns.h"
 #include "ai/turn_driver.h"
 #include "rules/questions/attack.h"
 #include "rules/questions/casualties.h"
@@ -134,6 +135,11 @@ private:
             plan.target = walk.empty() ? plan.start : walk[0];
             const AttackAnswer attack = AskAttack(position_, plan.start, plan.target, false);
             if (attack.refusal != AttackRefusal::None) plan = {};
+        } else if (Below(3) == 0) {
+            std::vector<Plan> turns;
+            ListTurns(position_, turns);
+            plan = OneOf(turns);
+            chosenFor_ = {};
         } else if (AskStart(position_, plan.start) == StartRefusal::None) {
             plan = RandomMarch(plan.start);
         } else {

@@ -1,0 +1,65 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "ai/opponents/turns.h"
+#include "rules/play_turn.h"
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+std::vector<Plan> TurnsIn(const std::string& position) {
+    const PlayedGame played(position);
+    std::vector<Plan> turns;
+    ListTurns(PositionOf(played.game.record), turns);
+    return turns;
+}
+
+std::string PlaceText(Square square) {
+    return std::to_string(square.X) + "," + std::to_string(square.Y);
+}
+
+// The turns of one kind that do not only walk over open ground, in words.
+std::string Fights(const std::string& position) {
+    const PlayedGame played(position);
+    std::string text;
+    for (const Plan& plan : TurnsIn(position)) {
+        Position after = PositionOf(played.game.record);
+        const TurnOutcome outcome = PlayTurn(after, plan, {});
+        if (!outcome.attack) continue;
+        text += (text.empty() ? "" : "; ") + PlaceText(outcome.attack->from) +
+                (outcome.attack->direct ? ">" : "!") + PlaceText(outcome.attack->to);
+    }
+    return text;
+}
+
+// Row 10 is plain from column 9 on. Mobility: Q 3, V 4.
+TEST(Turns, AreEveryWayOfSomeOfAStackAndEndDifferently) {
+    const auto turns = TurnsIn("Q@18,10 V@18,10 BT@18,10 Z@1,1");
+    EXPECT_EQ(turns.back().kind, PlanKind::Pass);
+    std::vector<std::pair<PeopleSet, Square>> ends;
+    for (const Plan& plan : turns) {
+        if (plan.kind != PlanKind::March) continue;
+        ends.emplace_back(plan.people, plan.path.back());
+        EXPECT_EQ(DistanceBetween(plan.start, plan.path[0]), 1);
+    }
+    EXPECT_EQ(std::count_if(ends.begin(), ends.end(),
+                            [](const auto& end) {
+                                return end.second == Square{15, 10};
+                            }),
+              6);  // Q, V or both, with the boat or without
+    for (const auto& end : ends) EXPECT_EQ(std::count(ends.begin(), ends.end(), end), 1);
+}
+
+TEST(Turns, FightFairly) {
+    EXPECT_EQ(Fights("Q@12,10 Z@13,10 WA@1,1"), "12,10>13,10; 12,10!13,10");
+    EXPECT_EQ(Fights("Q@12,10 Z@14,10 WA@1,1"), "13,10>14,10");
+    EXPECT_EQ(Fights("Q@12,10 HF@13,10 WA@1,1"), "");           // never its own side
+    EXPECT_EQ(Fights("Q@12,10 Z@12,10 WA@13,10"), "");          // not out of a shared square
+    EXPECT_EQ(Fights("Q@12,10 Z@1,1 13,10=7"), "12,10!13,10");  // burns it down
+    EXPECT_EQ(Fights("Q@12,10 BT@13,10 Z@1,1"), "");
+}
+
+}  // namespace
+}  // namespace qarn
