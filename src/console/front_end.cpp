@@ -4,6 +4,7 @@
 #include <optional>
 #include <ostream>
 
+#include "console/answers_text.h"
 #include "console/session.h"
 #include "console/state_json.h"
 #include "console/text_view.h"
@@ -79,6 +80,7 @@ public:
         if (!game.blnOpen) return;
         PrintBoard(out_, game, colors_);
         PrintStatus(out_, game);
+        PrintAnswers(out_, session.TakeAnswers());
     }
 
 private:
@@ -88,11 +90,12 @@ private:
 
 }  // namespace
 
-int RunForProgram(std::istream& in, std::ostream& out, const DesktopPorts& desktop,
-                  const std::string& file) {
+int RunForProgram(std::istream& in, std::ostream& out, std::ostream& errors,
+                  const DesktopPorts& desktop, const std::string& file) {
     Session session(desktop);
     if (!file.empty()) {
-        Execute(session, {"open", file});
+        const std::string error = Execute(session, {"open", file});
+        if (!error.empty()) errors << error << std::endl;
         session.Dialogs().TakeShown();
         session.TakeHappenings();
     }
@@ -104,6 +107,7 @@ int RunForProgram(std::istream& in, std::ostream& out, const DesktopPorts& deskt
         outcome.boxes = session.Dialogs().TakeShown();
         outcome.help = session.Help().TakeTopics();
         outcome.happenings = session.TakeHappenings();
+        outcome.answers = session.TakeAnswers();
         out << OneLine(StateJson(outcome, session.CurrentGame())) << std::endl;
     }
     return session.CurrentGame().exitStatus;

@@ -1,21 +1,15 @@
 #include "console/happenings_json.h"
 
+#include "console/answers_json.h"
+
 namespace qarn {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json ToJson(Square square) { return Json::array({square.X, square.Y}); }
-
 Json ToJson(PeopleSet people) {
     Json list = Json::array();
     for (const std::uint8_t i : people) list.push_back(i);
-    return list;
-}
-
-Json ToJson(const Path& path) {
-    Json list = Json::array();
-    for (const Square square : path) list.push_back(ToJson(square));
     return list;
 }
 
@@ -30,14 +24,14 @@ Json ToJson(const Moved& moved) {
     return {{"what", "move"},
             {"side", moved.side},
             {"people", ToJson(moved.people)},
-            {"path", ToJson(moved.path)}};
+            {"path", PathJson(moved.path)}};
 }
 
 Json ToJson(const Attacked& attack) {
     return {{"what", "attack"},
             {"side", attack.side},
-            {"from", ToJson(attack.from)},
-            {"to", ToJson(attack.to)},
+            {"from", SquareJson(attack.from)},
+            {"to", SquareJson(attack.to)},
             {"direct", attack.direct},
             {"attack", attack.attack},
             {"defense", attack.defense},
@@ -51,15 +45,16 @@ Json ToJson(const Lost& lost) {
     return {{"what", "lost"},
             {"people", ToJson(lost.people)},
             {"side", lost.side},
-            {"at", ToJson(lost.at)}};
+            {"at", SquareJson(lost.at)}};
 }
 
 Json ToJson(const Burned& burned) {
-    return {{"what", "burned"}, {"at", ToJson(burned.at)}, {"terrain", burned.terrain}};
+    return {{"what", "burned"}, {"at", SquareJson(burned.at)}, {"terrain", burned.terrain}};
 }
 
 Json ToJson(const Returned& returned) {
-    return {{"what", "return"}, {"people", ToJson(returned.people)}, {"at", ToJson(returned.at)}};
+    return {
+        {"what", "return"}, {"people", ToJson(returned.people)}, {"at", SquareJson(returned.at)}};
 }
 
 Json ToJson(const TurnCame& turn) { return {{"what", "turn"}, {"side", turn.side}}; }

@@ -23,7 +23,8 @@ int Run(const qarn::Options& options) {
         return 0;
     }
     LinuxDesktop desktop;
-    if (options.json) return RunForProgram(std::cin, std::cout, desktop.Ports(), options.file);
+    if (options.json)
+        return RunForProgram(std::cin, std::cout, std::cerr, desktop.Ports(), options.file);
     return RunForPerson(std::cin, std::cout, desktop.Ports(), options.file,
                         isatty(STDOUT_FILENO) != 0);
 }

@@ -35,6 +35,11 @@ std::string AbsolutePath(const std::string& path) {
     return absolute.string();
 }
 
+Square ParseSquare(const std::string& column, const std::string& row) {
+    return {static_cast<std::uint8_t>(ParseNumber<int>(column, 1, columnCount)),
+            static_cast<std::uint8_t>(ParseNumber<int>(row, 1, rowCount))};
+}
+
 double ParseUniform(const std::string& word) {
     double number = 0;
     const char* end = word.data() + word.size();
@@ -69,11 +74,6 @@ bool LeaveGame(Game& game) {
     return !game.blnOpen;
 }
 
-void RequireOpened(const Game& game, const std::string& path) {
-    if (game.blnEnded || (game.blnOpen && game.record.strGamePath == path)) return;
-    throw Refusal("The game could not be opened.");
-}
-
 void RequireUsable(bool enabled, bool visible, std::string_view name) {
     if (!visible) throw Refusal(std::string(name) + " is hidden.");
     if (!enabled) throw Refusal(std::string(name) + " is disabled.");
@@ -103,8 +103,8 @@ Session::Session(const DesktopPorts& desktop)
             .ports = {dialogs_, random_, help_, desktop.settings, desktop.fileTypes,
                       desktop.folders}} {}
 
-const Session::Command* Session::FindCommand(std::string_view name) {
-    static constexpr std::array<Command, 14> commands{{
+std::span<const Session::Command> Session::Commands() {
+    static constexpr std::array<Command, 16> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -118,11 +118,11 @@ const Session::Command* Session::FindCommand(std::string_view name) {
         {"seed", 1, 1, false, &Session::Seed},
         {"saveas", 1, 1, true, &Session::SaveAs},
         {"state", 0, 0, false, &Session::ShowState},
+        {"reach", 0, 2, true, &Session::AskReach},
+        {"odds", 4, 4, true, &Session::AskOdds},
         {"close", 0, 0, true, &Session::Close},
     }};
-    const auto* found = std::find_if(commands.begin(), commands.end(),
-                                     [&](const Command& command) { return command.name == name; });
-    return found == commands.end() ? nullptr : found;
+    return commands;
 }
 
 void Session::Execute(const Words& words) {
@@ -136,8 +136,11 @@ void Session::Execute(const Words& words) {
 }
 
 void Session::ExecuteOrThrow(const Words& words) {
-    const Command* command = FindCommand(words.front());
-    if (command == nullptr) throw Refusal("There is no command \"" + words.front() + "\".");
+    const auto commands = Commands();
+    const auto command = std::find_if(commands.begin(), commands.end(), [&](const Command& one) {
+        return one.name == words.front();
+    });
+    if (command == commands.end()) throw Refusal("There is no command \"" + words.front() + "\".");
     const std::size_t count = words.size() - 1;
     if (count < command->fewestWords || count > command->mostWords) {
         throw Refusal("The command \"" + words.front() + "\" has too few or too many words.");
@@ -157,32 +160,35 @@ void Session::New(const Words& words) {
     const std::string path = AbsolutePath(words[1]);
     const std::string text =
         TextOfNewGame(words[2], {ParsePlayer(words[3], words[4]), ParsePlayer(words[5], words[6])});
-    Run("Form_Load", [&](Game& game) {
-        if (!LeaveGame(game)) return;
+    Load(path, [&] {
         try {
             ReplaceFile(path, text);
         } catch (const std::system_error& error) {
             throw SaveError("The new game can not be written. " + error.code().message() + ".\n" +
                             path);
         }
-        Form_Load(game, path);
     });
-    RequireOpened(game_, path);
 }
 
 void Session::Open(const Words& words) {
     RequireRunning();
-    const std::string path = AbsolutePath(words[1]);
+    Load(AbsolutePath(words[1]), [] {});
+}
+
+void Session::Load(const std::string& path, const std::function<void()>& prepare) {
+    bool opened = false;
     Run("Form_Load", [&](Game& game) {
-        if (LeaveGame(game)) Form_Load(game, path);
+        if (!LeaveGame(game)) return;
+        prepare();
+        Form_Load(game, path);
+        opened = true;
     });
-    RequireOpened(game_, path);
+    if (!opened && !game_.blnEnded) throw Refusal("The game could not be opened.");
 }
 
 void Session::Click(const Words& words) {
-    const int X = ParseNumber<int>(words[1], 1, columnCount);
-    const int Y = ParseNumber<int>(words[2], 1, rowCount);
-    Run("lblX_Click", [&](Game& game) { lblX_Click(game, X, Y); });
+    const Square square = ParseSquare(words[1], words[2]);
+    Run("lblX_Click", [&](Game& game) { lblX_Click(game, square.X, square.Y); });
 }
 
 void Session::Press(const Words& words) {
@@ -262,6 +268,18 @@ void Session::SaveAs(const Words& words) {
 
 // The front end shows the state after every command.
 void Session::ShowState(const Words&) {}
+
+void Session::AskReach(const Words& words) {
+    if (words.size() == 2) throw Refusal("A square has a column and a row.");
+    answers_.reach = words.size() == 1
+                         ? ReachOfGroupInMove(game_.record)
+                         : ReachOfStack(game_.record, ParseSquare(words[1], words[2]));
+}
+
+void Session::AskOdds(const Words& words) {
+    answers_.odds =
+        OddsOfStack(game_.record, ParseSquare(words[1], words[2]), ParseSquare(words[3], words[4]));
+}
 
 void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "console/answers.h"
 #include "console/console_ports.h"
 #include "core/game.h"
 
@@ -15,12 +17,26 @@ namespace qarn {
 /// handler that the matching control of the desktop window runs.
 class Session {
 public:
+    using Words = std::vector<std::string>;
+
+    /// A command and how many words it takes.
+    struct Command {
+        std::string_view name;
+        std::size_t fewestWords;  ///< behind the name
+        std::size_t mostWords;
+        bool needsGame;
+        void (Session::*run)(const Words&);
+    };
+
+    /// All commands; the front ends know some more of their own.
+    static std::span<const Command> Commands();
+
     explicit Session(const DesktopPorts& desktop);
 
     /// Carries out one command, taken apart into words (at least one). Throws Refusal, and nothing
     /// else, for what a person could not do and for a fault of the program; nothing has changed
     /// then.
-    void Execute(const std::vector<std::string>& words);
+    void Execute(const Words& words);
 
     const Game& CurrentGame() const { return game_; }
     ConsoleDialogs& Dialogs() { return dialogs_; }
@@ -28,17 +44,10 @@ public:
     /// What has happened in the game since the last call, in order.
     Happenings TakeHappenings() { return std::exchange(happenings_, {}); }
 
-private:
-    using Words = std::vector<std::string>;
-    struct Command {
-        std::string_view name;
-        std::size_t fewestWords;  // behind the name
-        std::size_t mostWords;
-        bool needsGame;
-        void (Session::*run)(const Words&);
-    };
-    static const Command* FindCommand(std::string_view name);
+    /// The answers given since the last call.
+    Answers TakeAnswers() { return std::exchange(answers_, {}); }
 
+private:
     void New(const Words& words);
     void Open(const Words& words);
     void Click(const Words& words);
@@ -52,10 +61,13 @@ private:
     void Seed(const Words& words);
     void SaveAs(const Words& words);
     void ShowState(const Words& words);
+    void AskReach(const Words& words);
+    void AskOdds(const Words& words);
     void Close(const Words& words);
 
     void ExecuteOrThrow(const Words& words);
     void Run(std::string_view name, const std::function<void(Game&)>& handler);
+    void Load(const std::string& path, const std::function<void()>& prepare);
     void NoteHappenings();
     void PressTerrainDetails(std::string_view name);
     void SetTick(const std::string& word, bool ticked);
@@ -66,6 +78,7 @@ private:
     ConsoleHelp help_;
     Game game_;
     Happenings happenings_;
+    Answers answers_;
 };
 
 }  // namespace qarn

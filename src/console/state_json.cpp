@@ -1,5 +1,6 @@
 #include "console/state_json.h"
 
+#include "console/answers_json.h"
 #include "console/happenings_json.h"
 #include "core/board_display.h"
 
@@ -176,6 +177,7 @@ nlohmann::ordered_json StateJson(const CommandOutcome& outcome, const Game& game
                 {"open", game.blnOpen}};
     if (game.blnOpen) AddGame(object, game);
     object["happenings"] = HappeningsJson(outcome.happenings);
+    AddAnswers(object, outcome.answers);
     return object;
 }
 

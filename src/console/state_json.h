@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "console/answers.h"
 #include "console/console_ports.h"
 #include "core/game.h"
 
@@ -16,9 +17,10 @@ struct CommandOutcome {
     std::vector<ShownBox> boxes;
     std::vector<std::string> help;
     Happenings happenings;
+    Answers answers;
 };
 
-/// The object that tells a program what a command did and how the game now stands.
+/// The object that reports to a program what a command did and how the game now stands.
 nlohmann::ordered_json StateJson(const CommandOutcome& outcome, const Game& game);
 
 /// The object as one line of UTF-8; bytes that are not UTF-8 are replaced.

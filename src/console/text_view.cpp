@@ -107,7 +107,14 @@ void PrintHelp(std::ostream& out) {
   timer [N]        let the computer play one step (N steps)
   menu NAME        mnuSave, mnuPeopleDetails, mnuSummary, mnuItemDetails, mnuHelp, ...
   saveas PATH      save under another name
+  reach            which squares the group that moves can still reach
+  reach X Y        which squares the whole stack on that square could reach
+  odds X1 Y1 X2 Y2 what an attack from the first square on the second would bring
+  answer WORD...   answers for the next boxes: yes, no, retry, cancel
+  random R...      numbers from 0 to below 1 for the next draws
+  seed N           the seed of the numbers after these
   state            show the board again
+  help             show this again
   close            save and end          quit   end without saving
 A move:    press cmdMove, click its square, untick who stays, press cmdDoneSel, click square by
            square, press cmdMove.

@@ -9,6 +9,7 @@ import tempfile
 import unittest
 
 PROGRAM = sys.argv.pop(1)
+PAGE = os.path.join(os.path.dirname(__file__), "../../docs/protocol.md")
 NEW = "new g.tgf HM Red human Blue human"
 KEYS = """ok error boxes help ended open caption record squares buttons terrainKey chkItems menus
     lblStatus lblDetailMore lblSummary lblTerrainDescription fraQuickDetails shpHighlight tmrAI
@@ -21,14 +22,15 @@ ACCEPTED = """seed 18446744073709551615; random 0 0.99 1e-3; answer yes no retry
     new h.tgf SB A human B human; open saved.tgf; press cmdMove; click 9 10; untick 1; tick 1;
     press cmdDoneSel; press cmdSquareDetails; click 18 1; press cmdSeeTerDet(0);
     menu mnuPeopleDetails; menu mnuHelp; press cmdMove; press cmdAttack; press cmdAttack;
-    saveas other.tgf; timer; timer 3; state; close"""
+    saveas other.tgf; timer; timer 3; reach 9 10; odds 9 10 10 10; state; close"""
 REFUSED_WITHOUT_GAME = """click 1 1; press cmdMove; tick 1; untick 1; menu mnuSave; timer;
-    saveas x.tgf; close"""
+    saveas x.tgf; reach; reach 1 1; odds 1 1 1 2; close"""
 REFUSED = """nonsense; Click 1 1; click 0 1; click 19 1; click 1 11; click 1; click 1 1 1;
     click one 1; click 1.5 1; press; press cmdDoneSel; press cmdNothing; press cmdSeeTerDet(9);
     press cmdSeeTerDet(8); press cmdSeeTerDet(); tick 1; tick 12; untick 0; menu mnuConvertFile;
     menu mnuNothing; menu File; timer 0; timer -1; answer; answer ok; answer yes maybe; random;
     random 1; random -0.1; random nan; random 0.5 x; seed; seed -1; seed 18446744073709551616;
+    reach; reach 1; reach 1 1; reach 19 1; reach 14 7 1; odds 14 7; odds 14 7 14 11;
     saveas ""; open ""; open; state now; help; quit now; click "1 1; new n.tgf HM A human B;
     new n.tgf hm A human B human; new n.tgf HM A man B human; new none/n.tgf HM A human B human;
     new n.tgf HM Łucja human B human; new n.tgf HM \udcff human B human;
@@ -140,6 +142,28 @@ class ConsoleTest(unittest.TestCase):
             self.assertIn(b"Usage: qarn-console", run.stderr)
         self.assertEqual(self.play(arguments=["none.tgf"], status=1), [])
         self.assertEqual(self.run_program("cancel\n", "none.tgf").returncode, 1)
+
+    def test_exit_statuses_of_the_page(self):
+        with open(PAGE, encoding="utf-8") as page:
+            rows = page.read().split("## Exit statuses")[1].splitlines()
+        told = {int(row.split("|")[1]) for row in rows if row[2:3].isdigit()}
+        seen = {self.run_program("", *arguments).returncode
+                for arguments in ([], ["--json", "none.tgf"], ["--nonsense"])}
+        self.assertEqual(told, seen)
+
+    def test_a_working_folder_that_has_gone(self):
+        gone = "The working folder can not be found: No such file or directory."
+        self.write("saved.tgf", saved_game((1, 9, 10), (9, 1, 1)))
+        for file in ([], ["g.tgf"]):
+            os.mkdir(self.path("gone"))
+            run = subprocess.run(
+                ["sh", "-c", 'rmdir "$PWD" && exec "$@"', "sh", PROGRAM, "--json", *file],
+                cwd=self.path("gone"), capture_output=True, text=True, timeout=60,
+                input=f"open x.tgf\n{NEW}\nopen {self.path('saved.tgf')}\nsaveas x.tgf\n")
+            objects = [json.loads(line) for line in run.stdout.splitlines()]
+            self.assertEqual([(o["error"], o["open"]) for o in objects],
+                             [(gone, False), (gone, False), ("", True), (gone, True)])
+            self.assertEqual((run.returncode, run.stderr), (0, gone + "\n" if file else ""))
 
     def test_boxes(self):
         [_, opened] = self.play("answer retry yes", "open none.tgf", status=1)

@@ -61,6 +61,7 @@ TEST(LabelText, LeavesOutTheMarksOfAccessKeysOnly) {
               "select Details from the Details menu.");
     EXPECT_EQ(ToLabelText("It is Rock & Roll's, R&B's, &'s turn."),
               "It is Rock & Roll's, R&B's, &'s turn.");
+    EXPECT_EQ(ToLabelText("It is &Bob's turn."), "It is &Bob's turn.");
 }
 
 }  // namespace

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "console/answers.h"
+
+namespace qarn {
+
+/// The square as a pair of column and row.
+nlohmann::ordered_json SquareJson(Square square);
+
+/// The squares of a path, in order.
+nlohmann::ordered_json PathJson(const Path& path);
+
+/// Adds the keys of the answers that were given, "reach" and "odds". Chances are numbers from 0 to
+/// 1.
+void AddAnswers(nlohmann::ordered_json& object, const Answers& answers);
+
+}  // namespace qarn

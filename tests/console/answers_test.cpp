@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include "support/console_game.h"
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+using Json = nlohmann::json;
+
+std::string Text(const Json& value) { return value.is_null() ? "none" : value.dump(); }
+
+// The squares with their costs, "!" behind those that are attacked.
+std::string Reached(const Json& object) {
+    if (!object.contains("reach")) return object["error"];
+    std::string text;
+    for (const Json& one : object["reach"]) {
+        text += Text(one["X"]) + "," + Text(one["Y"]) + "=" + Text(one["cost"]) +
+                (one["attack"] ? "! " : " ");
+    }
+    return text;
+}
+
+// Attack, defense, and the chances of win, tie, lose and the loss after a win.
+std::string Told(const Json& attack) {
+    if (attack.is_null()) return "none";
+    std::string text = Text(attack["attack"]) + ":" + Text(attack["defense"]);
+    for (const char* key : {"win", "tie", "lose", "lossAfterWin"}) text += " " + Text(attack[key]);
+    return text + (attack["burns"] ? " burns" : "");
+}
+
+TEST(Reach, OfTheGroupInMoveAndOfAStack) {
+    struct Row {
+        const char *position, *commands, *reached;
+    };
+    const char* corner = "Q@1,10 HF@1,10 BT@1,10 Z@3,10 HF.Side=1";
+    const Row rows[] = {
+        {corner, "reach", "No group is in move."},
+        {corner, "press cmdMove; reach", "No group is in move."},
+        {corner, "press cmdMove; click 1 10; reach", "No group is in move."},
+        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; press cmdDoneSel; reach",
+         "15,10=1 16,9=1 17,10=1 14,10=2 15,9=2 17,9=2 18,10=2 13,10=3 17,8=3 18,9=3 "},
+        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; press cmdDoneSel; click 17 10; reach",
+         "16,10=1 17,9=1 18,10=1 15,10=2 16,9=2 17,8=2 18,9=2 "},
+        {"Q@16,10 Z@1,1",
+         "press cmdMove; click 16 10; press cmdDoneSel; click 17 10; click 18 10; click 17 10; "
+         "reach",
+         ""},
+        {"Q@16,10 HF@17,10 Z@1,1",
+         "press cmdMove; click 16 10; press cmdDoneSel; click 17 10; reach", ""},  // joined
+        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; press cmdDoneSel; press cmdMove; reach",
+         "No group is in move."},
+        {"Q@16,10 Z@1,1", "reach 15 10", "There is no one on that square."},
+        {"Q@16,10 BT@15,10 Z@1,1", "reach 15 10", "The cart and/or boat can not go on its own."},
+        {"Q@16,10 Z@1,1", "reach 15", "A square has a column and a row."},
+        {"Q@16,10 Z@1,1", "reach 19 1", "\"19\" should be a whole number from 1 to 18."},
+        // The side that is not to move, in its own turn: it attacks Q and joins Z.
+        {"ZA1@18,10 Q@17,10 Z@18,9", "reach 18 10", "17,10=1! 18,9=1 "},
+    };
+    for (const Row& row : rows) {
+        const auto objects = ConsoleGame(SavedGame(row.position)).ForProgram(row.commands);
+        EXPECT_EQ(Reached(objects.back()), row.reached) << row.position << " " << row.commands;
+    }
+    const auto path = ConsoleGame(SavedGame("Q@16,10 Z@1,1")).ForProgram("reach 16 10; state");
+    EXPECT_EQ(path[0]["reach"][8]["path"], Json::parse("[[16,10],[16,9],[17,9],[17,8]]"));
+    EXPECT_TRUE(path[0]["happenings"].empty() && !path[1].contains("reach"));
+    EXPECT_EQ(path[0]["record"], path[1]["record"]);
+}
+
+TEST(OddsCommand, TellsBothWaysOfAttacking) {
+    struct Row {
+        const char *position, *squares, *byCommand, *direct;
+    };
+    const Row rows[] = {
+        {"LS@15,10 SK@15,10 ZA1@16,10", "15 10 16 10", "10:4 0.4 0.2 0.4 0.2",
+         "10:4 0.4 0.2 0.4 0.2"},
+        {"LS@15,10 SK@15,10 ZA1@16,10", "16 10 15 10", "4:11 0.0 0.0 1.0 0.0",
+         "4:11 0.0 0.0 1.0 0.0"},  // the side that is not to move
+        {"LS@13,7 SK@13,7 ZA1@14,7", "13 7 14 7", "none", "10:6 0.2 0.2 0.6 0.2"},
+        {"LS@15,10 WS@15,10 ZA1@17,10", "15 10 17 10", "none", "none"},
+        {"LS@15,10 BT@16,10", "15 10 16 10", "none", "none"},
+        {"LS@15,10 HF@16,10", "15 10 16 10", "7:2 0.2 0.2 0.6 0.2", "none"},   // of one's own side
+        {"LS@5,1 WS@5,1 ZA1@6,1", "5 1 6 1", "15:4 0.8 0.2 0.0 0.2", "none"},  // over water
+        {"LS@14,4 WS@14,4 WA@15,4", "14 4 15 4", "15:6 1.0 0.0 0.0 0.0 burns",
+         "15:6 1.0 0.0 0.0 0.0 burns"},
+        {"BT@15,10 ZA1@16,10", "15 10 16 10", "none", "none"},
+        {"LS@15,10 ZA1@16,10", "14 10 16 10", "none", "none"},
+    };
+    for (const Row& row : rows) {
+        const auto objects = ConsoleGame(SavedGame(row.position))
+                                 .ForProgram("state; odds " + std::string(row.squares));
+        ASSERT_TRUE(objects[1].contains("odds")) << objects[1]["error"];
+        EXPECT_EQ(Told(objects[1]["odds"]["command"]), row.byCommand) << row.position;
+        EXPECT_EQ(Told(objects[1]["odds"]["direct"]), row.direct) << row.position;
+        EXPECT_EQ(objects[1]["record"], objects[0]["record"]);
+        EXPECT_FALSE(objects[0].contains("odds"));
+    }
+}
+
+TEST(Answers, ForAPerson) {
+    ConsoleGame game(SavedGame("LS@14,4 SK@14,4 WA@15,4 ZA1@14,5 Z@9,1 BT@18,1"));
+    const std::string text =
+        game.ForPerson("odds 14 4 15 4; odds 14 4 14 5; odds 15 4 14 4; reach 9 1; reach 18 1");
+    for (const char* part :
+         {"\nBy the Attack command, 10 against 6: burns it down.\n",
+          "\nBy stepping in, 10 against 5: wins 20 %, ties 20 %, loses 60 %; after a win one in "
+          "five costs a character.\n",
+          "\nBy the Attack command, 3 against 12: wins 0 %, ties 0 %, loses 100 %.\n",
+          "> The cart and/or boat can not go on its own.\n"}) {
+        EXPECT_NE(text.find(part), text.npos) << part << "\n" << text;
+    }
+    EXPECT_NE(text.find("\nFor 2 mobility units:"), text.npos) << text;
+}
+
+}  // namespace
+}  // namespace qarn

@@ -1,0 +1,114 @@
+#include "console/front_end.h"
+
+#include <gtest/gtest.h>
+
+#include "console/session.h"
+#include "core/player_error.h"
+#include "support/console_game.h"
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+std::string Named(std::string game, const std::string& red, const std::string& blue) {
+    for (const auto& [name, other] : {std::pair{std::string("Red"), red}, {"Blue", blue}}) {
+        const std::size_t at = game.find("\n" + name) + 1;
+        game.replace(
+            at, std::max(name.size(), other.size()),
+            other + std::string(name.size() > other.size() ? name.size() - other.size() : 0, ' '));
+    }
+    return game;
+}
+
+TEST(Terminal, ShowsAmpersandsInNamesAndNoneInCaptions) {
+    ConsoleGame rockers(Named(SavedGame("turn1 WS@3,7 Z@1,1"), "Rock & Roll", "R&B"));
+    const std::string text = rockers.ForPerson(
+        "press cmdMove; click 3 7; press cmdDoneSel; click 2 7; click 2 6; click 2 7; click 2 6; "
+        "press "
+        "cmdMove");
+    for (const char* part : {" - game.tgf (Rock & Roll vs. R&B)\n", "\nIt is Rock & Roll's turn.\n",
+                             "\nYou have 0 mobility units left.\nClick Done Moving\n",
+                             "cmdMove (Done Moving)", "\nIt is R&B's turn.\n"}) {
+        EXPECT_NE(text.find(part), text.npos) << part << text;
+    }
+    ConsoleGame bob(Named(SavedGame("turn2 Q@3,7 Z@1,1"), "&", "&Bob"));
+    EXPECT_NE(bob.ForPerson("").find("(& vs. &Bob)"), std::string::npos);
+    EXPECT_NE(bob.ForPerson("").find("\nIt is &Bob's turn.\n"), std::string::npos);
+}
+
+TEST(Terminal, HelpNamesEveryCommand) {
+    const std::string help = ConsoleGame(SavedGame("HM")).ForPerson("help");
+    std::vector<std::string> names{"help", "quit"};
+    for (const Session::Command& command : Session::Commands()) names.emplace_back(command.name);
+    for (const std::string& name : names) {
+        const bool named =
+            help.find("  " + name + " ") != help.npos || help.find(" " + name + " I") != help.npos;
+        EXPECT_TRUE(named) << name;
+    }
+}
+
+// Fails when a key is to be created, and from then on when one is read, as a load does.
+class FailingFileTypes : public FakeFileTypes {
+public:
+    explicit FailingFileTypes(void (*fail)()) : fail_(fail) {}
+
+    bool CreateKey(const std::string&) override {
+        failing_ = true;
+        fail_();
+        return false;
+    }
+    std::optional<std::string> DefaultValue(const std::string&) override {
+        if (failing_) fail_();
+        return std::nullopt;
+    }
+
+private:
+    void (*fail_)();
+    bool failing_ = false;
+};
+
+TEST(FrontEnds, SurviveWhateverACommandThrows) {
+    struct Row {
+        void (*fail)();
+        std::string ofMenu, ofOpen;
+    };
+    const Row rows[] = {
+        {[] { throw PlayerError("The desk is on fire."); }, "The desk is on fire.",
+         "The desk is on fire."},
+        {[] { std::vector<int>().at(7); }, "Internal error in mnuTGF_Click.",
+         "Internal error in Form_Load."},
+        {[] { throw 7; }, "Internal error in mnuTGF_Click.", "Internal error in Form_Load."},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.ofOpen);
+        FailingFileTypes failing(row.fail);
+        ConsoleGame game(SavedGame("Q@9,10 Z@1,1"));
+        game.fileTypes = &failing;
+        const std::string commands =
+            "press cmdMove; menu mnuTGF; press cmdMove; click 9 10; "
+            "press cmdDoneSel; press cmdMove; state; open " +
+            game.path + "; press cmdMove";
+        const std::vector<nlohmann::json> objects = game.ForProgram(commands);
+        ASSERT_EQ(objects.size(), 9u);
+        EXPECT_EQ(objects[1]["boxes"][0]["text"], row.ofMenu);
+        EXPECT_EQ(objects[7]["boxes"][0]["text"], row.ofOpen);
+        EXPECT_EQ(objects[7]["error"], "The game could not be opened.");
+        EXPECT_EQ(objects[7]["record"], objects[6]["record"]);
+        EXPECT_EQ(objects[7]["lblStatus"], "It is Blue's turn.");
+        EXPECT_EQ(objects[8]["record"]["blnMoveMode"], true);
+        EXPECT_EQ(game.status, 0);
+
+        FailingFileTypes failingAgain(row.fail);
+        game.fileTypes = &failingAgain;
+        WriteFile(game.path, SavedGame("Q@9,10 Z@1,1"));
+        const std::string text = game.ForPerson(commands);
+        EXPECT_NE(text.find("--- " + row.ofMenu + "\n"), text.npos) << text;
+        EXPECT_NE(text.find("--- " + row.ofOpen + "\n"), text.npos) << text;
+        EXPECT_EQ(text.find("vector"), text.npos);
+        EXPECT_TRUE(text.ends_with("starting your move from.\n> ")) << text;
+        EXPECT_EQ(game.status, 0);
+    }
+}
+
+}  // namespace
+}  // namespace qarn
