@@ -62,7 +62,7 @@ private:
             people.LocationX = static_cast<std::uint8_t>(7 + Below(4) + people.Side);
             people.LocationY = static_cast<std::uint8_t>(4 + Below(4));
         }
-        for (const Terrain landmark : {Fortress, Fortress, Abbey}) {
+        for (const Terrain landmark : {Fortress, Fortress, Fortress, Fortress, Abbey}) {
             record.bytTerrain[static_cast<std::size_t>(8 + Below(4))]
                              [static_cast<std::size_t>(4 + Below(4))] = landmark;
         }

@@ -1,6 +1,7 @@
 #include "rules/questions/reach.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "rules/questions/occupancy.h"
@@ -70,6 +71,9 @@ std::vector<ReachedSquare> ReachOf(const Position& position, const MovingGroup& 
         for (const Square square : map.PathTo(way.square)) path.push_back(square);
         reached.push_back({way.square, way.cost, path, way.attack});
     }
+    std::sort(reached.begin(), reached.end(), [](const ReachedSquare& a, const ReachedSquare& b) {
+        return std::tie(a.cost, a.square.X, a.square.Y) < std::tie(b.cost, b.square.X, b.square.Y);
+    });
     return reached;
 }
 

@@ -55,7 +55,8 @@ struct ReachedSquare {
     bool attack = false;  ///< the last step would be a direct attack
 };
 
-/// The squares that a group of the side to move can still reach, the cheapest first.
+/// The squares that a group of the side to move can still reach, the cheapest first, those of equal
+/// cost column by column.
 std::vector<ReachedSquare> ReachOf(const Position& position, const MovingGroup& group);
 
 }  // namespace qarn
