@@ -4,12 +4,16 @@
 #include <array>
 
 #include "ai/classic/classic_choice.h"
+#include "ai/opponents/levels.h"
 
 namespace qarn {
 namespace {
 
 constexpr std::array opponents{
     Opponent{"classic", ChooseClassicMove},
+    Opponent{"scout", ChooseScoutTurn},
+    Opponent{"captain", ChooseCaptainTurn},
+    Opponent{"warlord", ChooseWarlordTurn},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ai/choosers.h"
 #include "ai/opponents/turns.h"
 #include "rules/play_turn.h"
 #include "support/played_game.h"
@@ -59,6 +60,32 @@ TEST(Turns, FightFairly) {
     EXPECT_EQ(Fights("Q@12,10 Z@12,10 WA@13,10"), "");          // not out of a shared square
     EXPECT_EQ(Fights("Q@12,10 Z@1,1 13,10=7"), "12,10!13,10");  // burns it down
     EXPECT_EQ(Fights("Q@12,10 BT@13,10 Z@1,1"), "");
+}
+
+// ---- Choices ----
+
+std::optional<Plan> ChoiceOf(std::string_view opponent, const std::string& position,
+                             std::uint64_t seed) {
+    const PlayedGame played(position);
+    return FindOpponent(opponent)->choose(PositionOf(played.game.record), seed);
+}
+
+TEST(Levels, ChooseTheSameForTheSameSeed) {
+    for (const char* name : {"scout", "captain", "warlord"}) {
+        const std::string position = "WS@12,10 TS@12,10 Q@9,10 Z@15,10 WA1@15,10 WA@18,9";
+        EXPECT_EQ(ChoiceOf(name, position, 7), ChoiceOf(name, position, 7)) << name;
+    }
+}
+
+// Treetop Squirrels and Slaves, 16 attack units, beat the Corsair, 3 defense units, for certain,
+// and with him the last of his side.
+TEST(Levels, TakeAWinThatIsThere) {
+    for (const char* name : {"captain", "warlord"}) {
+        const std::optional<Plan> plan = ChoiceOf(name, "WS@12,10 TS@12,10 Q@9,10 Z@15,10", 1);
+        const PlayedGame played("WS@12,10 TS@12,10 Q@9,10 Z@15,10");
+        Position after = PositionOf(played.game.record);
+        EXPECT_EQ(PlayTurn(after, *plan, {}).winner, 1) << name;
+    }
 }
 
 }  // namespace

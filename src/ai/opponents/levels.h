@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "core/plan.h"
+#include "core/position.h"
+
+namespace qarn {
+
+/// Sees one turn ahead, and errs now and then as a beginner does: in one turn of eight it takes any
+/// of the better half.
+std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed);
+
+/// Sees the opponent's answer.
+std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t seed);
+
+/// Sees its own next turn beyond that.
+std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t seed);
+
+}  // namespace qarn
