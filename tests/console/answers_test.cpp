@@ -33,7 +33,7 @@ TEST(Reach, OfTheGroupInMoveAndOfAStack) {
     struct Row {
         const char *position, *commands, *reached;
     };
-    const char* corner = "Q@1,10 HF@1,10 BT@1,10 Z@3,10 HF.Side=1";
+    const char* corner = "Q@1,10 HF@1,10 BT@1,10 Z@3,10";
     const Row rows[] = {
         {corner, "reach", "No group is in move."},
         {corner, "press cmdMove; reach", "No group is in move."},

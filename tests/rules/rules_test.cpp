@@ -1,10 +1,16 @@
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+#include <sstream>
 
 #include "rules/casualties.h"
 #include "rules/questions/casualties.h"
 #include "rules/questions/step.h"
 #include "rules/questions/terrain_effect.h"
 #include "rules/terrain.h"
+#include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "support/sequence.h"
 
@@ -18,6 +24,48 @@ TEST_P(Rules, GoAsPlayed) { ExpectSequence(GetParam()); }
 INSTANTIATE_TEST_SUITE_P(Moves, Rules, testing::ValuesIn(ReadSequences("rules/moves.txt")), NameOf);
 INSTANTIATE_TEST_SUITE_P(Attacks, Rules, testing::ValuesIn(ReadSequences("rules/attacks.txt")),
                          NameOf);
+
+// Its lines begin with a scenario's code, which holds for all of the line.
+std::set<std::string> LegendOfMoves() {
+    std::set<std::string> legend;
+    std::ifstream file(QARN_TESTS_FOLDER "/rules/moves.txt");
+    for (std::string line; std::getline(file, line) && !line.starts_with("== ");) {
+        const std::string code = line.substr(0, line.find(": "));
+        if (ScenarioNumber(code) == 0) continue;
+        std::istringstream groups(line.substr(code.size() + 1));
+        for (std::string group; std::getline(groups, group, ',');) legend.insert(code + group);
+    }
+    return legend;
+}
+
+TEST(Sequences, TheLegendHasTheStrengthsOfAllWhoPlay) {
+    std::set<std::string> strengths;
+    for (const char* file : {"rules/moves.txt", "rules/attacks.txt"}) {
+        for (const Sequence& sequence : ReadSequences(file)) {
+            const PositionWords words(sequence.position);
+            for (const auto& placed : words.placed) {
+                const RosterEntry& group =
+                    DataOfScenario(words.scenario).Roster.at(placed.group - 1);
+                std::string entry = words.code + " " + std::string(group.Code.Text());
+                for (const int units : {group.Mobility, group.Attack, group.Defense}) {
+                    entry += " " + std::to_string(units);
+                }
+                strengths.insert(entry);
+            }
+        }
+    }
+    EXPECT_EQ(LegendOfMoves(), strengths);
+}
+
+TEST(Sequences, RefuseWhatTheyDoNotKnow) {
+    for (const char* position : {"Q@13,4x", "Q@13", "QQ@1,1", "CT@1,1 CT@2,2", "turnip", "turn2x",
+                                 "Q.Attack=", "abbeys", "Q.Strength=5", "1,1", "computer3"}) {
+        EXPECT_ANY_THROW(PositionWords{position}) << position;
+    }
+    EXPECT_THROW(ReadSequences("rules/none.txt"), std::runtime_error);
+    EXPECT_THROW(ReadSequences("CMakeLists.txt"), std::runtime_error);
+    EXPECT_NONFATAL_FAILURE(ExpectSequence({"", "HM", "press cmdDoneSel", ""}), "refused");
+}
 
 // The cost of a step onto each terrain, codes 0 to 8, for those who go together. The landmarks are
 // made dear, so that it shows who pays for them.
@@ -119,25 +167,6 @@ TEST(Casualties, TheCountStopsAtTheFirstTransport) {
     CountPeople(played.game);
     EXPECT_EQ(played.game.record.bytPeopleLeft[1], 2);
     EXPECT_EQ(played.game.record.bytPeopleLeft[2], 1);
-}
-
-TEST(Terrain, DetailsButtons) {
-    PlayedGame played("HM");
-    Controls& controls = played.game.controls;
-    cmdSeeTerDet_Click(played.game, 1);
-    EXPECT_EQ(controls.lblTerrainDescription.Caption,
-              "Mountain\nMobility: 5\nAttack: 3\nDefense: 2\nComments: 5 to move, no indirect "
-              "attack, +3 to attack down, 2 for defense, and no indirect attack");
-    EXPECT_TRUE(controls.lblTerrainDescription.Visible);
-    EXPECT_EQ(controls.lblTerrainDescription.Top, 480);
-    for (std::size_t i = 0; i < terrainKindCount; ++i) {
-        EXPECT_EQ(controls.cmdSeeTerDet[i].Enabled, i == 1);
-        EXPECT_EQ(controls.cmdSeeTerDet[i].Caption, i == 1 ? "&X" : "...");
-    }
-    cmdSeeTerDet_Click(played.game, 1);
-    EXPECT_FALSE(controls.lblTerrainDescription.Visible);
-    EXPECT_EQ(controls.lblTerrainDescription.Caption, "");
-    for (const Button& button : controls.cmdSeeTerDet) EXPECT_TRUE(button.Enabled);
 }
 
 }  // namespace

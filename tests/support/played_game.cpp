@@ -6,8 +6,8 @@
 
 #include "core/board_display.h"
 #include "rules/terrain.h"
-#include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
+#include "support/facts.h"
 #include "window/board_clicks.h"
 #include "window/buttons.h"
 #include "window/load_game.h"
@@ -18,107 +18,6 @@
 namespace qarn {
 namespace {
 
-// One thing that a transcript tells when it has changed.
-struct Fact {
-    const char* sign;
-    std::string name;
-    std::string value;
-};
-
-std::string Pair(int first, int second) {
-    return std::to_string(first) + "," + std::to_string(second);
-}
-
-std::string OnOff(bool on) { return on ? "on" : "off"; }
-
-std::string ButtonFact(const Button& button) {
-    const std::string caption(button.Caption);
-    if (!button.Visible) return "hidden";
-    return button.Enabled ? "[" + caption + "]" : "(" + caption + ")";
-}
-
-std::string ItemsFact(const Controls& controls) {
-    std::string items;
-    for (const CheckBox& box : controls.chkItems) {
-        const std::string mark = box.Value ? "x" : " ";
-        if (!box.Visible) continue;
-        items += (box.Enabled ? "[" + mark + "]" : "(" + mark + ")").append(box.Caption);
-    }
-    return items.empty() ? "none" : "<" + items + ">";
-}
-
-std::string ModesFact(const GameRecord& record) {
-    const std::string modes = std::string(record.blnDetailsMode ? "+details" : "") +
-                              (record.blnMoveMode ? "+move" : "") +
-                              (record.blnAttackMode ? "+attack" : "");
-    return modes.empty() ? "none" : modes.substr(1);
-}
-
-std::string WindowFact(const Game& game) {
-    if (game.blnEnded) return "ended with " + std::to_string(game.exitStatus);
-    return game.blnOpen ? "open" : "closed";
-}
-
-// Scenario and side to move.
-std::string FileFact(const std::string& path) {
-    std::istringstream file(ReadFile(path));
-    std::string code, player, turn;
-    file >> code;
-    for (int line = 1; line <= 3; ++line) std::getline(file, player);
-    file >> turn;
-    return code.empty() ? "none" : code + turn;
-}
-
-std::vector<Fact> FactsOf(const Game& game) {
-    const GameRecord& record = game.record;
-    const Controls& controls = game.controls;
-    const Marker& frame = controls.fraQuickDetails;
-    std::vector<Fact> facts;
-    for (std::uint8_t X = 1; X <= columnCount; ++X) {
-        for (std::uint8_t Y = 1; Y <= rowCount; ++Y) {
-            const std::string square = Pair(X, Y);
-            facts.push_back({"@", square, '"' + CaptionOfSquare(game, X, Y) + '"'});
-            facts.push_back({"@", "terrain of " + square, std::to_string(record.bytTerrain[X][Y])});
-        }
-    }
-    const char* focus[] = {"-", "cmdMove", "chkFirst"};
-    for (const Fact& fact : {
-             Fact{"@", "turn", std::to_string(record.bytTurn)},
-             Fact{"@", "left", Pair(record.bytPeopleLeft[1], record.bytPeopleLeft[2])},
-             Fact{"@", "scenario", std::to_string(record.bytScenario)},
-             Fact{"@", "name", record.strGameName},
-             Fact{"@", "file", FileFact(record.strGamePath)},
-             Fact{"#", "window", WindowFact(game)},
-             Fact{"#", "caption", controls.Caption},
-             Fact{"#", "mode", ModesFact(record)},
-             Fact{"#", "cmdMove", ButtonFact(controls.cmdMove)},
-             Fact{"#", "cmdAttack", ButtonFact(controls.cmdAttack)},
-             Fact{"#", "cmdDoneSel", ButtonFact(controls.cmdDoneSel)},
-             Fact{"#", "items", ItemsFact(controls)},
-             Fact{"#", "File", OnOff(controls.File.Enabled)},
-             Fact{"#", "Details", controls.mnuPeopleDetails.Checked ? "checked" : "unchecked"},
-             Fact{"#", "mnuSummary", controls.mnuSummary.Checked ? "checked" : "unchecked"},
-             Fact{"#", "mnuConvertFile", OnOff(controls.mnuConvertFile.Visible)},
-             Fact{"#", "info", controls.lblDetailMore.Caption},
-             Fact{"#", "summary", Replaced(controls.lblSummary.Caption, "\n", " / ")},
-             Fact{"#", "frame", frame.Visible ? Pair(frame.Left, frame.Top) : "hidden"},
-             Fact{"#", "focus", focus[static_cast<int>(controls.SetFocus)]},
-         }) {
-        facts.push_back(fact);
-    }
-    return facts;
-}
-
-std::string Changes(const std::string& sign, const std::vector<Fact>& before,
-                    const std::vector<Fact>& after) {
-    std::string text;
-    for (std::size_t i = 0; i < after.size(); ++i) {
-        if (after[i].sign != sign || after[i].value == before[i].value) continue;
-        text += " " + after[i].name + "=" + after[i].value;
-    }
-    return text.empty() ? text : sign + text + "\n";
-}
-
 std::string Shown(const MessageBox& box, Answer answer) {
     const std::string title = box.Title.empty() ? "" : box.Title + ": ";
     const std::string text = title + Replaced(box.Text, "\n", "\n  ");
@@ -126,57 +25,20 @@ std::string Shown(const MessageBox& box, Answer answer) {
     return "? " + text + (answer == Answer::Yes ? " -> yes\n" : " -> no\n");
 }
 
-const std::map<std::string, std::uint8_t PeopleRecord::*> strengths{
-    {"Mobility", &PeopleRecord::Mobility},
-    {"Attack", &PeopleRecord::Attack},
-    {"Side", &PeopleRecord::Side}};
+// Gives false when the button can not be pressed.
+bool Press(Game& game, const std::string& name) {
+    int code = 0;
+    const bool ofKey = std::sscanf(name.c_str(), "cmdSeeTerDet(%d)", &code) == 1;
+    const WindowButton* found = FindButton(name);
+    if (!ofKey && found == nullptr) throw std::invalid_argument("There is no button " + name);
+    const Button& button = ofKey ? game.controls.cmdSeeTerDet.at(static_cast<std::size_t>(code))
+                                 : game.controls.*found->State;
+    if (!button.Visible || !button.Enabled) return false;
+    RunEvent(game, name, [&](Game& g) { ofKey ? cmdSeeTerDet_Click(g, code) : found->Click(g); });
+    return true;
+}
 
 }  // namespace
-
-std::string Replaced(std::string text, const std::string& what, const std::string& with) {
-    for (std::size_t at = text.find(what); at != text.npos; at = text.find(what, at)) {
-        text.replace(at, what.size(), with);
-        at += with.size();
-    }
-    return text;
-}
-
-std::string SavedGame(const std::string& position) {
-    std::istringstream words(position);
-    std::string code = "HM";
-    int scenario = 7, turn = 1, x = 0, y = 0, terrain = 0;
-    std::vector<int> places(2 * peopleCount), landmarks;
-    char group[4];
-    for (std::string word; words >> word;) {
-        if (ScenarioNumber(word) != 0) {
-            code = word;
-            scenario = ScenarioNumber(word);
-        } else if (std::sscanf(word.c_str(), "older%d", &scenario) == 1) {
-            code = word.substr(5);
-        } else if (std::sscanf(word.c_str(), "%3[^@]@%d,%d", group, &x, &y) == 3) {
-            const auto& roster = DataOfScenario(scenario).Roster;
-            std::size_t i = 0;
-            while (roster.at(i).Code.Text() != group || places[2 * i] != 0) ++i;
-            places[2 * i] = x;
-            places[2 * i + 1] = y;
-        } else if (std::sscanf(word.c_str(), "%d,%d=%d", &x, &y, &terrain) == 3) {
-            landmarks.insert(landmarks.end(), {x, y, terrain});
-        } else {
-            std::sscanf(word.c_str(), "turn%d", &turn);
-        }
-    }
-    std::string text = code + "\r\nRed" + std::string(51, ' ') + "False\r\nBlue" +
-                       std::string(50, ' ') + "False\r\n";
-    std::vector<int> numbers{turn};
-    if (position.find_first_of("@=") != position.npos) {
-        numbers.insert(numbers.end(), {9, 8});
-        numbers.insert(numbers.end(), places.begin(), places.end());
-        numbers.push_back(static_cast<int>(landmarks.size() / 3));
-        numbers.insert(numbers.end(), landmarks.begin(), landmarks.end());
-    }
-    for (const int number : numbers) text += " " + std::to_string(number) + " \r\n";
-    return text;
-}
 
 PlayedGame::PlayedGame() {
     dialogs.whileShown = [this] { statuses.push_back(game.controls.lblStatus.Caption); };
@@ -194,17 +56,11 @@ void PlayedGame::Open() {
 
 void PlayedGame::Load(const std::string& position) {
     Open(SavedGame(position));
-    std::istringstream words(position);
-    char code[4], strength[9];
-    int value = 0;
-    for (std::string word; words >> word;) {
-        if (word == "abbey") SetAbbeyTerrain(game, false);
-        if (word == "stonemantle") SetStonemantleTerrain(game, true);
-        if (std::sscanf(word.c_str(), "%3[^.].%8[^=]=%d", code, strength, &value) != 3) continue;
-        for (PeopleRecord& people : game.record.People) {
-            if (people.Code.find(code) != 0) continue;
-            people.*strengths.at(strength) = static_cast<std::uint8_t>(value);
-        }
+    const PositionWords words(position);
+    if (words.abbey) SetAbbeyTerrain(game, false);
+    if (words.stonemantle) SetStonemantleTerrain(game, true);
+    for (const auto& [group, strength, value] : words.changed) {
+        game.record.People[group].*strength = value;
     }
 }
 
@@ -249,11 +105,7 @@ bool PlayedGame::Do(const std::string& command) {
         RunEvent(game, "lblX_Click", [&](Game& g) { lblX_Click(g, X, Y); });
     } else if (verb == "press") {
         words >> name;
-        const WindowButton* button = FindButton(name);
-        if (button == nullptr) throw std::invalid_argument("There is no button " + name);
-        const Button& state = game.controls.*button->State;
-        if (!state.Visible || !state.Enabled) return false;
-        RunEvent(game, name, button->Click);
+        return Press(game, name);
     } else if (verb == "tick" || verb == "untick") {
         words >> X;
         CheckBox& box = game.controls.chkItems.at(static_cast<std::size_t>(X));

@@ -4,19 +4,12 @@
 #include <vector>
 
 #include "core/game.h"
+#include "support/facts.h"
 #include "support/fake_ports.h"
+#include "support/saved_game.h"
 #include "support/temp_folder.h"
 
 namespace qarn {
-
-/// The text with every occurrence of `what` replaced.
-std::string Replaced(std::string text, const std::string& what, const std::string& with);
-
-/// The text of a saved game in a position, told by words: a scenario's code first (else HM), or
-/// "older7" for a file of the older form; then "turn2" (else side 1 is to move), "Q@13,4" for a
-/// group, "13,5=1" for a square's terrain. Groups that are not named are off the board; without any
-/// named group and terrain, the text is that of a new game whose side to move has been drawn.
-std::string SavedGame(const std::string& position);
 
 /// A game that is played through the handlers that a person reaches. Red plays side 1, Blue side 2.
 class PlayedGame {
@@ -29,9 +22,7 @@ public:
     void Open(const std::string& contents);
     void Open();
 
-    /// Opens SavedGame(position). Further words change what no file can: "abbey" and "stonemantle"
-    /// set these landmarks' kinds of terrain up, "Q.Attack=200" gives a group another strength or
-    /// side.
+    /// Opens SavedGame(position) and changes what no file can, see PositionWords.
     void Load(const std::string& position);
 
     /// Carries out the commands of the lines that begin with "> ", which are separated by "; ", and

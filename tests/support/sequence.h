@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@ struct Sequence {
 };
 
 /// The sequences of a text file in the folder of the tests, in which they stand as its head says.
+/// Throws std::runtime_error when there is no such file, or no sequence in it.
 inline std::vector<Sequence> ReadSequences(const std::string& name) {
     std::vector<Sequence> sequences;
     std::ifstream file(QARN_TESTS_FOLDER "/" + name);
@@ -30,12 +32,14 @@ inline std::vector<Sequence> ReadSequences(const std::string& name) {
             sequences.back().transcript += line + "\n";
         }
     }
+    if (sequences.empty()) throw std::runtime_error("There are no sequences in " + name);
     return sequences;
 }
 
 inline void ExpectSequence(const Sequence& sequence) {
     PlayedGame played(sequence.position);
-    played.Play("> " + sequence.before);
+    const std::string before = played.Play("> " + sequence.before);
+    EXPECT_EQ(before.find("\nrefused"), before.npos) << before;
     EXPECT_EQ(played.Play(sequence.transcript), sequence.transcript);
 }
 
