@@ -1,5 +1,5 @@
 #!/bin/sh
-# Tells where the code is not laid out as .clang-format says, and then fails.
+# Reports where the code is not laid out as .clang-format says, and then fails.
 #   check_format.sh SOURCE_FOLDER
 set -eu
 cd "$1"

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds every include of src/ and tools/ against the tables of docs/architecture.md.
 
-check_includes.py SOURCE_FOLDER: tells each include that runs against an arrow, or that brings a
+check_includes.py SOURCE_FOLDER: reports each include that runs against an arrow, or that brings a
 library's header into a room where it does not stand, and then ends with status 1.
 """
 

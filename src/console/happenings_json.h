@@ -6,7 +6,7 @@
 
 namespace qarn {
 
-/// What happened, as a list of objects of which "what" tells the kind. Squares are pairs of column
+/// What happened, as a list of objects of which "what" names the kind. Squares are pairs of column
 /// and row.
 nlohmann::ordered_json HappeningsJson(const Happenings& happenings);
 

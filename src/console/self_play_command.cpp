@@ -22,7 +22,7 @@ double TurnsPerGame(const SelfPlayResult& result) {
     return PerGame(static_cast<double>(result.turns), result);
 }
 
-// The line that tells how far the games of one scenario are. Writes it a hundred times at most.
+// The line that shows how far the games of one scenario are. Writes it a hundred times at most.
 class ProgressLine {
 public:
     ProgressLine(std::ostream* out, std::string_view code, long games)

@@ -15,7 +15,7 @@ struct SelfPlayOptions {
 };
 
 /// Lets the computer play against itself and prints what came of it: a table, a line as soon as its
-/// scenario is done, or one JSON object in one line. Tells how far it is on `progress` in a line
+/// scenario is done, or one JSON object in one line. Reports how far it is on `progress` in a line
 /// that it removes again; null: nowhere. Throws std::runtime_error when a game stops for a failure
 /// of the program.
 void RunSelfPlay(const SelfPlayOptions& options, std::ostream& out, std::ostream* progress);

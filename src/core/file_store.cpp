@@ -113,7 +113,7 @@ bool IsNameOfSave(const std::string& name) {
            name.find_first_not_of("0123456789-", saveName.size()) == std::string::npos;
 }
 
-// Makes a new file and locks it. Its lock tells that it has an owner, until that closes it or is
+// Makes a new file and locks it. Its lock shows that it has an owner, until that closes it or is
 // killed. Where the file system knows no locks, no file is ever taken for abandoned.
 OpenFile CreateBeside(const fs::path& path) {
     for (int n = 0;; ++n) {

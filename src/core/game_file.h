@@ -9,7 +9,7 @@
 
 namespace qarn {
 
-/// What stopped the reading of a game file; the number stands in the title of the box that tells
+/// What stopped the reading of a game file; the number stands in the title of the box that reports
 /// it.
 enum class LoadErrorNumber {
     OutOfRange = 9,

@@ -65,7 +65,7 @@ public:
     virtual void ShowHelp(const std::string& strTopic) = 0;
 };
 
-/// The settings that outlive the program, one string a place. A place is told by application,
+/// The settings that outlive the program, one string a place. A place is named by application,
 /// section and key.
 class SettingsStore {
 public:

@@ -11,7 +11,7 @@ namespace qarn {
 std::string HelpPathIn(const std::string& folder);
 
 /// Shows the help in the viewer program that stands beside this one. A viewer that cannot be
-/// started is told in a box.
+/// started is reported in a box.
 class HelpProgram : public HelpViewer {
 public:
     /// `folder` holds the viewer program and the help file.

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view openCommandKey = "\\shell\\open\\command";
 constexpr auto mimeType = "application/x-qarn-game";
 
-// One file type as its entries tell it.
+// One file type as its entries describe it.
 struct FileType {
     std::string extension;  // with its point
     std::string className;

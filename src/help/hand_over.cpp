@@ -14,7 +14,7 @@ namespace {
 constexpr int patience = 2000;  // milliseconds
 constexpr auto streamVersion = QDataStream::Qt_6_0;
 
-// The folder belongs to the person alone; the name tells the file and the display.
+// The folder belongs to the person alone; the name stands for the file and the display.
 QString NameFor(const QString& helpFilePath) {
     const QFileInfo file(helpFilePath);
     QCryptographicHash hash(QCryptographicHash::Sha1);
@@ -24,7 +24,7 @@ QString NameFor(const QString& helpFilePath) {
     return QDir(folder).filePath("qarn-help-" + hash.result().toHex().left(16));
 }
 
-// The answer tells the sender that the topic has arrived.
+// The answer assures the sender that the topic has arrived.
 void TakeTopic(QLocalSocket* socket, HandOver* receiver) {
     QDataStream stream(socket);
     stream.setVersion(streamVersion);

@@ -45,7 +45,7 @@ private:
     void FitColumn();
 
     const HelpFile& file_;
-    QUrl page_;  // source() still tells the page before while a page is loaded
+    QUrl page_;  // source() still names the page before while a page is loaded
     qreal usualFontSize_;
     int zoom_ = 100;
     QStringList markedWords_;

@@ -17,7 +17,7 @@
 namespace qarn {
 namespace {
 
-// Tells why the click counts for nothing.
+// Says why the click counts for nothing.
 void Refuse(Game& game, AttackRefusal refusal) {
     switch (refusal) {
         case AttackRefusal::OnItself:
@@ -182,7 +182,7 @@ void EliminateDefenders(Game& game, Square S) {
     CountPeople(game);
 }
 
-// The attack is the last one that this event tells of.
+// The attack is the last one of this event.
 void NoteSecondRoll(Game& game, int roll) {
     for (Happening& happening : game.happenings) {
         if (auto* attack = std::get_if<Attacked>(&happening)) attack->secondRoll = roll;

@@ -15,10 +15,10 @@ const ScenarioData& DataOfScenario(int scenario);
 void SetupScenario(Game& game);
 
 /// Sets terrain kind 7 up as the mountain fortress Stonemantle and shows its row of the terrain
-/// key. `blnOnly` tells that the scenario has no abbey: its row is then hidden, otherwise shown.
+/// key. `blnOnly` means that the scenario has no abbey: its row is then hidden, otherwise shown.
 void SetStonemantleTerrain(Game& game, bool blnOnly);
 
-/// Sets terrain kind 8 up as the abbey and shows its row of the terrain key. `blnOnly` tells that
+/// Sets terrain kind 8 up as the abbey and shows its row of the terrain key. `blnOnly` means that
 /// the scenario has no fortress: the fortress's row is then hidden and the abbey's takes its
 /// place, otherwise the fortress's is shown.
 void SetAbbeyTerrain(Game& game, bool blnOnly);

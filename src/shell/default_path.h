@@ -13,7 +13,7 @@ struct Ports;
 std::string DefaultPath(const Ports& ports);
 
 /// The menu item Options > Default Filepath: asks for the folder and stores what was typed, unless
-/// that is empty. A setting that cannot be stored is told in a box.
+/// that is empty. A setting that cannot be stored is reported in a box.
 void mnuDefaultFilepath_Click(Game& game);
 
 }  // namespace qarn

@@ -8,7 +8,7 @@ struct Game;
 struct Ports;
 
 /// Registers a file type: its extension (with the point), the path of the program that opens its
-/// files, its class, description and icon (none when empty). What cannot be written is told in
+/// files, its class, description and icon (none when empty). What cannot be written is reported in
 /// boxes, and everything that would follow it is left out; what was written stays.
 void CreateFileType(const Ports& ports, const std::string& strExtension,
                     const std::string& strCommand, const std::string& strClassName,
@@ -22,7 +22,7 @@ void IsFileTypeRegistered(const Ports& ports, const std::string& strKey, bool& b
 void LoadFileTypeMark(Game& game);
 
 /// The menu item Options > Add and Remove the TGF Filetype: registers the type of the game files
-/// or, while it is checked, opens the help page that tells how to remove the registration.
+/// or, while it is checked, opens the help page that explains how to remove the registration.
 void mnuTGF_Click(Game& game);
 
 }  // namespace qarn

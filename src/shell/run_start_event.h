@@ -9,7 +9,7 @@
 namespace qarn {
 
 /// Runs the handler of one event of the start window; `name` is the event's ("cmdNew_Click"). When
-/// it fails, the window is as it was before the event, and a box tells why: a PlayerError in its
+/// it fails, the window is as it was before the event, and a box says why: a PlayerError in its
 /// own words, anything else as an internal error of that event.
 void RunEvent(StartWindow& window, const std::string& name,
               const std::function<void(StartWindow&)>& handler);

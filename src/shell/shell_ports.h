@@ -33,7 +33,7 @@ public:
     virtual std::optional<DisplayMode> Mode(int number) = 0;
 
     /// Switches to a mode of that width and height, for this session or, with `permanent`, for
-    /// those that follow too. Restart tells that the change needs a restart of the computer.
+    /// those that follow too. Restart means that the change needs a restart of the computer.
     virtual DisplayChange Change(const DisplayMode& request, bool permanent) = 0;
 };
 

@@ -19,7 +19,7 @@ struct StartUpWindow {
     DisplaySettings& display;
     Computer& computer;
     std::string strCommandLine;  ///< the program's arguments, as one text
-    DisplayMode screen;          ///< the size of the screen now, 0 x 0 when it cannot be told
+    DisplayMode screen;          ///< the size of the screen now, 0 x 0 when it is not known
 
     std::string Caption = "Screen Resolution";
     Label lblPrompt{.Caption = "Would you like to set the resolution to 1024x768?"};
@@ -35,7 +35,7 @@ struct StartUpWindow {
     std::string strGamePath = {};  ///< absolute, once the game window is next
 };
 
-/// The program starts: either tells at once which window is next, or shows this one and waits for
+/// The program starts: either says at once which window is next, or shows this one and waits for
 /// its buttons. Ends the program with a box when no mode of the display is large enough.
 void Form_Load(StartUpWindow& window);
 
@@ -49,7 +49,7 @@ void cmdNo_Click(StartUpWindow& window);
 /// Opens the help page on changing the display by hand. The window stays.
 void cmdHelp_Click(StartUpWindow& window);
 
-/// The width and the height of the screen in pixels, 0 when they cannot be told.
+/// The width and the height of the screen in pixels, 0 when they are not known.
 int CurrentHRes(const StartUpWindow& window);
 int CurrentVRes(const StartUpWindow& window);
 
@@ -57,7 +57,7 @@ int CurrentVRes(const StartUpWindow& window);
 int MaxHRes(const StartUpWindow& window);
 int MaxVRes(const StartUpWindow& window);
 
-/// Tells which window is next: the game window when the command line names a game file, else the
+/// Which window is next: the game window when the command line names a game file, else the
 /// start window.
 void CommandCheck(StartUpWindow& window);
 

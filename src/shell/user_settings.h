@@ -14,14 +14,14 @@ std::string GetUserKey(const std::string& loginName);
 std::string ReadSetting(const Ports& ports, const std::string& section,
                         const std::string& defaultValue);
 
-/// Stores the person's setting of this section. A failure is told in a box.
+/// Stores the person's setting of this section. A failure is reported in a box.
 void StoreSetting(const Ports& ports, const std::string& section, const std::string& value);
 
 /// Sets the check mark of mnuSummary from the person's setting; checked when there is none.
 void LoadSummarySetting(Game& game);
 
 /// Stores whether square summaries are shown, and sets the check mark again from the setting. A
-/// setting that cannot be stored is told in a box.
+/// setting that cannot be stored is reported in a box.
 void SaveSummarySetting(Game& game, bool blnChecked);
 
 }  // namespace qarn

@@ -10,7 +10,7 @@
 namespace qarn {
 namespace {
 
-// Consecutive equal names are told once, with their number.
+// Consecutive equal names are named once, with their number.
 std::string Enumerate(const std::vector<std::string_view>& names) {
     std::string text;
     for (std::size_t first = 0; first < names.size();) {

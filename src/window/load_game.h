@@ -8,7 +8,7 @@ struct Game;
 struct GameRecord;
 
 /// Opens the game window on the game file `strGamePath` (absolute): loads it, draws the board and
-/// starts the turn. A file that cannot be loaded is told in a box with Retry and Cancel; Cancel
+/// starts the turn. A file that cannot be loaded is reported in a box with Retry and Cancel; Cancel
 /// ends the program (throws ProgramEnd).
 void Form_Load(Game& game, const std::string& strGamePath);
 

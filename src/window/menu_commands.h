@@ -15,11 +15,11 @@ struct MenuState;
 void New_Click(Game& game);
 void Open_Click(Game& game);
 
-/// File > Save: saves the game under its name. A failure is told in a box.
+/// File > Save: saves the game under its name. A failure is reported in a box.
 void mnuSave_Click(Game& game);
 
 /// File > Save As: asks for a file, saves the game there and goes on under that name, which the
-/// caption then tells. Changes nothing when no file is named or the game cannot be saved there.
+/// caption then shows. Changes nothing when no file is named or the game cannot be saved there.
 void mnuSaveAs_Click(Game& game);
 
 /// File > Exit: closes the window, see Form_Unload.

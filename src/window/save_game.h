@@ -10,7 +10,7 @@ struct Game;
 /// with the reason; the old file is then untouched.
 void SaveGame(const Game& game);
 
-/// SaveGame, telling a failure in a box. Gives false after one.
+/// SaveGame, reporting a failure in a box. Gives false after one.
 bool TrySaveGame(Game& game);
 
 /// Closes the window: saves the game, then ends the program (throws ProgramEnd), unless blnLeaving

@@ -189,7 +189,7 @@ private:
         ASSERT_TRUE(!counted || record.bytPeopleLeft == PeopleLeft(position_));
     }
 
-    // Wherever a march comes without a fight is told beforehand, at no more than it paid; and a
+    // Wherever a march comes without a fight is known beforehand, at no more than it paid; and a
     // square that it was chosen for is where it then stands, a bird over water aside.
     void CheckReached(const Position& before, const Plan& plan, const TurnOutcome& outcome) {
         if (plan.kind != PlanKind::March || outcome.attack) return;

@@ -25,7 +25,7 @@ public:
         if (game.controls.tmrAI.Enabled) qarn::Tick(game);
     }
 
-    // Lets the timer tick while it is enabled in side 1's turn. Tells after each tick where the
+    // Lets the timer tick while it is enabled in side 1's turn. Gives after each tick where the
     // highlight is, and the first line of the status.
     std::string TickOn() {
         std::string ticks;

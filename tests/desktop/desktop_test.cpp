@@ -34,7 +34,7 @@ std::string OutputOf(const std::string& command) {
     return output;
 }
 
-/// A program that only tells with which arguments it was started.
+/// A program that only reports with which arguments it was started.
 class TellingProgram {
 public:
     explicit TellingProgram(const std::string& path) : path_(path) {

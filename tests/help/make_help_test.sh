@@ -38,7 +38,7 @@ mustFail() {
 }
 
 freshPages
-# A time that the file told would now be another.
+# A time that the file holds would now be another.
 while [ "$(date +%s)" -le "$(stat -c %Y "$helpFile")" ]; do sleep 0.1; done
 build
 cmp "$folder/Help.chm" "$helpFile"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# What tells the history of the game begins with the version that is built.
+# Every history of the game begins with the version that is built.
 #   version_test.sh VERSION SOURCE_FOLDER
 set -eu
 version=$1

@@ -52,7 +52,7 @@ std::string SquaresOf(Terrain code, const GameRecord& record) {
     return squares;
 }
 
-// The row of the terrain key as a person reads it: caption, place, and what the button tells.
+// The row of the terrain key as a person reads it: caption, place, and what the button shows.
 std::string KeyRow(Terrain code, const Game& game) {
     const KeyLabel& label = game.controls.lblTerrKey[code];
     const Button& button = game.controls.cmdSeeTerDet[code];

@@ -7,7 +7,7 @@
 
 namespace qarn {
 
-/// One thing that a transcript tells when it has changed.
+/// One thing that a transcript shows when it has changed.
 struct Fact {
     const char* sign;  ///< "@" for what is played, "#" for the controls
     std::string name;

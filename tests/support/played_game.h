@@ -27,7 +27,7 @@ public:
 
     /// Carries out the commands of the lines that begin with "> ", which are separated by "; ", and
     /// gives these lines back, each followed by what came of it, as the head of rules/moves.txt
-    /// tells. Checks after each line that every square shows what stands on it.
+    /// explains. Checks after each line that every square shows what stands on it.
     std::string Play(const std::string& script);
 
     /// One command: press, tick, untick, menu, saveas, click or close; answer or roll, for boxes

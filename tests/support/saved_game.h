@@ -8,7 +8,7 @@
 
 namespace qarn {
 
-/// A position as tests tell it in words: a scenario's code first (else HM), or "older7" for a file
+/// A position as tests put it into words: a scenario's code first (else HM), or "older7" for a file
 /// of the older form; then "turn2" (else side 1 is to move), "computer2" for a side that the
 /// computer plays, "Q@13,4" for a group, "13,5=1" for a square's terrain. Further words change what
 /// no file can: "abbey" and "stonemantle" set these landmarks' kinds of terrain up, "Q.Attack=200"

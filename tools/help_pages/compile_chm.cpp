@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where a compiled help file tells when it was made.
+// Where a compiled help file holds the time of its making.
 constexpr std::size_t headerStamp = 0x10;
 constexpr std::size_t contentOffset = 0x58;
 const std::string systemStampMark("\x0A\x00\x04\x00", 4);
@@ -51,7 +51,7 @@ void ClearStamps(std::string& bytes) {
         content = content << 8 | static_cast<unsigned char>(bytes.at(contentOffset + i));
     }
     const std::size_t mark = bytes.find(systemStampMark, content);
-    if (mark == bytes.npos) throw PageError("Help.chm does not tell when it was made");
+    if (mark == bytes.npos) throw PageError("Help.chm does not say when it was made");
     ClearStamp(bytes, mark + systemStampMark.size());
 }
 

@@ -1,4 +1,4 @@
-// Plays the game that the pages tell of in the real window and takes their pictures of it. Needs a
+// Plays the game that the pages show in the real window and takes their pictures of it. Needs a
 // display; run with QT_SCALE_FACTOR=2. The pictures are kept with the pages.
 
 #include <QAbstractButton>

@@ -5,7 +5,7 @@
 
 namespace qarn {
 
-/// A game that nobody plays: the pages tell what its record and controls hold.
+/// A game that nobody plays: the pages show what its record and controls hold.
 class TrialGame : private Dialogs, RandomNumbers, NoHelp, NoSettings, NoFileTypes {
 public:
     /// An empty board of plain, with nobody on it.
