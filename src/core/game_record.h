@@ -97,6 +97,7 @@ struct GameRecord {
     bool blnTargetPhase = false;
     std::uint8_t bytAnchorX = 0, bytAnchorY = 0;  ///< the attacking square
     std::uint8_t bytLastX = 0, bytLastY = 0;      ///< the square of the last accepted click
+    bool blnAttacking = false;  ///< the attack is being carried out, until attack mode is left
     std::uint8_t bytAttackUnits = 0;
     std::uint8_t bytDefenseUnits = 0;
     std::uint8_t bytThreshold = 0;

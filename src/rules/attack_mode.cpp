@@ -28,6 +28,7 @@ void LeaveAttackMode(Game& game) {
     LeaveDetailsMode(game);
     record.blnAttackMode = false;
     record.blnAttackerChosen = false;
+    record.blnAttacking = false;
     if (record.Action.blnAttacks) record.Action.blnOwnMove = false;
     controls.cmdAttack.Caption = "&Attack";
     controls.cmdAttack.Enabled = true;

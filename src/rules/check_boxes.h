@@ -16,6 +16,7 @@ void ListInCheckBoxes(Game& game, const SquareList& people, bool ticked);
 /// The people whose boxes are on screen and ticked, in the order of the boxes.
 std::vector<std::uint8_t> TickedPeople(const Game& game);
 
+/// Hides all check boxes; what is ticked stays so.
 void HideCheckBoxes(Controls& controls);
 
 }  // namespace qarn

@@ -112,6 +112,7 @@ void BeginAttack(Game& game) {
     game.controls.cmdAttack.Caption = "Attacking...";
     record.blnAttackerChosen = false;
     record.blnTargetPhase = false;
+    record.blnAttacking = true;
     if (record.bytAttackUnits < record.bytDefenseUnits) {
         record.bytDefenseUnits = record.bytAttackUnits;
     }

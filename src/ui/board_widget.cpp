@@ -91,7 +91,7 @@ void BoardWidget::BringUpToDate() {
 }
 
 void BoardWidget::ShowRoles() {
-    std::vector<MarkedSquare> roles = MarkedSquares(game_);
+    std::vector<MarkedSquare> roles = MarkedSquares(game_.record);
     if (roles == roles_) return;
     roles_.swap(roles);
     for (const MarkedSquare& mark : roles) UpdateSquare({mark.X, mark.Y});

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/game.h"
+#include "core/game_record.h"
 
 namespace qarn {
 namespace {
@@ -15,19 +15,16 @@ void Mark(std::vector<MarkedSquare>& marks, int X, int Y, SquareRole role) {
     if (!marked) marks.push_back({X, Y, role});
 }
 
-// While the dice roll, no attacker is chosen any more; then only the button tells of the attack.
-bool IsAttackUnderWay(const Game& game) {
-    const GameRecord& record = game.record;
-    return record.blnAttackMode && (record.blnAttackerChosen || record.blnCasualtyPending ||
-                                    game.controls.cmdAttack.Caption == "Attacking...");
+// Once the attack is carried out no attacker is chosen any more.
+bool IsAttackUnderWay(const GameRecord& record) {
+    return record.blnAttackMode && (record.blnAttackerChosen || record.blnAttacking);
 }
 
 }  // namespace
 
-std::vector<MarkedSquare> MarkedSquares(const Game& game) {
-    const GameRecord& record = game.record;
+std::vector<MarkedSquare> MarkedSquares(const GameRecord& record) {
     std::vector<MarkedSquare> marks;
-    const bool attacks = IsAttackUnderWay(game);
+    const bool attacks = IsAttackUnderWay(record);
     if (record.blnMoveUnderWay) {
         Mark(marks, record.bytGroupX, record.bytGroupY, SquareRole::Acting);
     } else if (attacks) {

@@ -4,7 +4,7 @@
 
 namespace qarn {
 
-struct Game;
+struct GameRecord;
 
 /// What a square is in the move or the attack that is under way.
 enum class SquareRole {
@@ -22,7 +22,7 @@ struct MarkedSquare {
 };
 
 /// The squares that are marked while a move or an attack is under way, each of them once; none
-/// between moves. Reads the game only.
-std::vector<MarkedSquare> MarkedSquares(const Game& game);
+/// between moves.
+std::vector<MarkedSquare> MarkedSquares(const GameRecord& record);
 
 }  // namespace qarn

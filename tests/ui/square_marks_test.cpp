@@ -8,7 +8,7 @@ namespace {
 std::string MarksOf(const Game& game) {
     const char* names[] = {"start", "acting", "target"};
     std::string text;
-    for (const MarkedSquare& mark : MarkedSquares(game)) {
+    for (const MarkedSquare& mark : MarkedSquares(game.record)) {
         text += std::string(text.empty() ? "" : "; ") + names[static_cast<int>(mark.Role)] + " " +
                 std::to_string(mark.X) + "," + std::to_string(mark.Y);
     }

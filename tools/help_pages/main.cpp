@@ -5,6 +5,7 @@
 #include <fstream>
 #include <set>
 
+#include "core/captions.h"
 #include "help_pages/board_picture.h"
 #include "help_pages/compile_chm.h"
 #include "help_pages/fill.h"
@@ -63,19 +64,14 @@ void DrawPictures(const fs::path& folder) {
     SavePicture(folder, "chip-0", [](int ratio) { return DrawChip(0, "BT", ratio); });
 }
 
-std::string WithoutAccessKey(std::string caption) {
-    std::erase(caption, '&');
-    return caption;
-}
-
 // The first two cells of a row about a menu item: its caption and its shortcut key.
 std::string MenuCells(const std::string& name, std::set<std::string>& told) {
     const MenuCommand* command = FindMenuCommand(name);
     if (command == nullptr) throw PageError("There is no menu item " + name);
     told.insert(name);
     const std::string shortcut(command->Shortcut);
-    return "<td class=\"text\"><b>" + Escape(WithoutAccessKey(std::string(command->Caption))) +
-           "</b></td><td>" + (shortcut.empty() ? "&ndash;" : Escape(shortcut)) + "</td>";
+    return "<td class=\"text\"><b>" + Escape(PlainCaption((command->Caption))) + "</b></td><td>" +
+           (shortcut.empty() ? "&ndash;" : Escape(shortcut)) + "</td>";
 }
 
 void CheckAllMenusAreTold(const std::set<std::string>& told) {
