@@ -155,7 +155,7 @@ TEST(TurnDriver, ForgetsTheAttackerThatThePersonNamed) {
 // What a person does after some ticks of the computer's action takes its move away. When the turn
 // comes back, the computer forgets that action, and chooses afresh what can still be done.
 TEST(TurnDriver, ForgetsAnActionWhoseMoveIsGone) {
-    const std::string pass = "; press cmdMove; click 17 10; press cmdDoneSel; press cmdMove";
+    const std::string pass = "\n> press cmdMove; click 17 10; press cmdDoneSel; press cmdMove";
     struct Row {
         const char* whatEndsIt;
         int ticks;
@@ -179,7 +179,10 @@ TEST(TurnDriver, ForgetsAnActionWhoseMoveIsGone) {
         }
         for (int tick = 0; tick < row.ticks; ++tick) played.Tick();
         EXPECT_TRUE(played.game.record.Action.blnAIBusy);
-        played.Play("> " + row.meddling);
+        const std::string meddling = played.Play("> " + row.meddling);
+        EXPECT_EQ(meddling.find("refused"), meddling.npos) << meddling;
+        EXPECT_LT(meddling.find(" items=none"), meddling.find("\n> ")) << meddling;
+        EXPECT_EQ(played.game.controls.cmdMove.Caption, "&Move");
         EXPECT_EQ(played.game.record.bytTurn, 1);
         EXPECT_TRUE(played.game.controls.tmrAI.Enabled);
         played.Tick();

@@ -5,7 +5,9 @@
 #include <set>
 #include <sstream>
 
+#include "rules/attack_mode.h"
 #include "rules/casualties.h"
+#include "rules/movement.h"
 #include "rules/questions/casualties.h"
 #include "rules/questions/step.h"
 #include "rules/questions/terrain_effect.h"
@@ -98,6 +100,33 @@ TEST(Movement, TheCurrentSquareComesBack) {
         EXPECT_EQ(played.game.record.bytCurrentX, 13) << look;
         EXPECT_EQ(played.game.record.bytCurrentY, 7) << look;
     }
+}
+
+// The computer can press a button that is disabled for a person who looks around.
+TEST(Modes, AreLeftTogetherWithDetailsMode) {
+    for (const auto press : {cmdMove_Click, cmdAttack_Click}) {
+        PlayedGame played("Q@9,10 Z@1,1");
+        const Controls& controls = played.game.controls;
+        press(played.game);
+        played.Play("> press cmdSquareDetails; click 1 1");
+        press(played.game);
+        EXPECT_FALSE(played.game.record.blnDetailsMode || controls.mnuPeopleDetails.Checked ||
+                     controls.fraQuickDetails.Visible);
+        EXPECT_TRUE(controls.cmdMove.Enabled && controls.cmdAttack.Enabled &&
+                    controls.File.Enabled);
+    }
+}
+
+// So it can while the items are chosen: then nobody has moved, though a bird moved last.
+TEST(Modes, AMoveIsLeftWhileItsItemsAreChosen) {
+    PlayedGame played("J@4,2 Q@6,1 BT@6,1 Z@1,10");
+    played.Play("> press cmdMove; click 4 2; press cmdDoneSel; press cmdMove");
+    played.Play("> press cmdMove; click 1 10; press cmdDoneSel; press cmdMove");
+    played.Play("> press cmdMove; click 6 1");
+    cmdMove_Click(played.game);
+    EXPECT_TRUE(played.dialogs.boxes.empty());
+    EXPECT_EQ(played.game.record.bytTurn, 2);
+    EXPECT_FALSE(played.game.record.blnMoveUnderWay || played.game.controls.chkItems[1].Visible);
 }
 
 // What becomes of 10 attack and 10 defense units: under a defender who is attacked by command, and
