@@ -91,6 +91,16 @@ TEST(Movement, CostsOfSteps) {
     }
 }
 
+// A step back to where the group still stands in the position: it does not meet itself there.
+TEST(Movement, AGroupIsWhereTheQuestionPutsIt) {
+    const Position alone = PositionOf(PlayedGame("Q@9,10 Z@1,1").game.record);
+    const Position both = PositionOf(PlayedGame("Q@9,10 HF@9,10 Z@1,1").game.record);
+    EXPECT_EQ(AskStep(alone, {{1}, {10, 10}, 2}, {9, 10}).result, StepResult::PlainStep);
+    EXPECT_EQ(AskStep(both, {{1}, {10, 10}, 2}, {9, 10}).result, StepResult::JoinedOwn);
+    EXPECT_EQ(AskStep(both, {{1, 17}, {10, 10}, 2}, {9, 10}).result, StepResult::PlainStep);
+    EXPECT_EQ(AskStep(both, {{1}, {10, 10}, 0}, {9, 10}).result, StepResult::NotEnoughMobility);
+}
+
 TEST(Movement, TheCurrentSquareComesBack) {
     for (const char* look :
          {"click 14 7", "press cmdSquareDetails; click 1 1"}) {  // too dear, away
@@ -130,18 +140,19 @@ TEST(Modes, AMoveIsLeftWhileItsItemsAreChosen) {
 }
 
 // What becomes of 10 attack and 10 defense units: under a defender who is attacked by command, and
-// directly, and under an attacker.
+// directly, and under an attacker, directly and by command.
 TEST(Combat, TerrainModifiers) {
     PlayedGame played("abbey HM");
     GameRecord& record = played.game.record;
-    const char* rows[] = {"10/10 10/10 10/10", "barred 10/12 13/10", "10/10 10/12 10/10",
-                          "10/10 10/10 10/10", "10/11 10/11 10/10",  "10/10 10/10 10/10",
-                          "10/12 10/12 10/10", "10/13 10/13 10/13",  "10/14 10/14 10/14"};
+    const char* rows[] = {
+        "10/10 10/10 10/10 10/10", "barred 10/12 13/10 10/10", "10/10 10/12 10/10 10/10",
+        "10/10 10/10 10/10 10/10", "10/11 10/11 10/10 10/10",  "10/10 10/10 10/10 10/10",
+        "10/12 10/12 10/10 10/10", "10/13 10/13 10/13 10/13",  "10/14 10/14 10/14 10/14"};
     for (std::uint8_t T = Plain; T <= Abbey; ++T) {
         record.bytTerrain[1][1] = T;
         std::string row;
         for (const auto& [defending, direct] :
-             {std::pair{true, false}, {true, true}, {false, true}}) {
+             {std::pair{true, false}, {true, true}, {false, true}, {false, false}}) {
             const TerrainEffect effect =
                 TerrainModifiers(PositionOf(record), {1, 1}, defending, 10, 10, direct);
             row += effect.blnAllowed ? std::to_string(effect.bytAttackOut) + "/" +
