@@ -127,14 +127,13 @@ TEST(Modes, AreLeftTogetherWithDetailsMode) {
     }
 }
 
-// So it can while the items are chosen: then nobody has moved, though a bird moved last.
+// So it can while the items are chosen: then nobody lands on water, though a bird did before.
 TEST(Modes, AMoveIsLeftWhileItsItemsAreChosen) {
-    PlayedGame played("J@4,2 Q@6,1 BT@6,1 Z@1,10");
-    played.Play("> press cmdMove; click 4 2; press cmdDoneSel; press cmdMove");
-    played.Play("> press cmdMove; click 1 10; press cmdDoneSel; press cmdMove");
-    played.Play("> press cmdMove; click 6 1");
+    PlayedGame played("J@5,1 Q@16,1 BT@16,1 Z@1,10");
+    played.Play("> press cmdMove; click 5 1; press cmdDoneSel; click 6 1; press cmdMove");
+    played.Play("> press cmdMove; click 16 1");
     cmdMove_Click(played.game);
-    EXPECT_TRUE(played.dialogs.boxes.empty());
+    EXPECT_EQ(played.dialogs.boxes.size(), 1u);  // which put the bird back
     EXPECT_EQ(played.game.record.bytTurn, 2);
     EXPECT_FALSE(played.game.record.blnMoveUnderWay || played.game.controls.chkItems[1].Visible);
 }
