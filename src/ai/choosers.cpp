@@ -5,6 +5,7 @@
 
 #include "ai/classic/classic_choice.h"
 #include "ai/opponents/levels.h"
+#include "ai/opponents/random.h"
 
 namespace qarn {
 namespace {
@@ -14,6 +15,7 @@ constexpr std::array opponents{
     Opponent{"scout", ChooseScoutTurn},
     Opponent{"captain", ChooseCaptainTurn},
     Opponent{"warlord", ChooseWarlordTurn},
+    Opponent{"random", ChooseRandomTurn, false},
 };
 
 }  // namespace

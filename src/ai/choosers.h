@@ -18,6 +18,7 @@ using Chooser = std::optional<Plan> (*)(const Position& position, std::uint64_t 
 struct Opponent {
     std::string_view name;
     Chooser choose;
+    bool forPeople = true;  ///< offered to a person; else for matches and tests alone
 };
 
 /// All opponents. A new one is a line in this table.

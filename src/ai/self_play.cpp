@@ -2,12 +2,10 @@
 
 #include <stdexcept>
 
+#include "ai/starting_position.h"
 #include "ai/turn_driver.h"
 #include "core/board_display.h"
 #include "core/turn_cycle.h"
-#include "rules/terrain.h"
-#include "scenarios/catalogue.h"
-#include "scenarios/setup.h"
 
 namespace qarn {
 namespace {
@@ -34,13 +32,9 @@ void Count(SelfPlayResult& result, Outcome outcome) {
 
 SelfPlayedGame::SelfPlayedGame(int scenario, std::uint64_t seed)
     : ports_(seed), game_{.record = {}, .controls = {}, .ports = ports_.All()} {
-    NamesOfScenario(scenario);  // throws for a scenario that is none
-    GameRecord& record = game_.record;
-    record.bytScenario = static_cast<std::uint8_t>(scenario);
-    record.blnComputer = {false, true, true};
+    SetUpNewGame(game_, scenario);
+    game_.record.blnComputer = {false, true, true};
     game_.ports.random.Seed();
-    InitTerrainKinds(record);
-    SetupScenario(game_);
     for (int i = 1; i <= peopleCount; ++i) PlacePeople(game_, i);
     game_.blnOpen = true;
     StartTurns(game_);

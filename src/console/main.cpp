@@ -13,13 +13,20 @@ namespace {
 
 constexpr auto usage =
     "Usage: qarn-console [--json] [FILE.tgf]\n"
-    "       qarn-console --selfplay N [--scenario CODE|all] [--seed S] [--json]\n";
+    "       qarn-console --selfplay N [--scenario CODE|all] [--seed S] [--json]\n"
+    "       qarn-console --match A B [--games N] [--scenario CODE|all] [--seed S] [--turns T]\n"
+    "                    [--sprt] [--json]\n"
+    "           plays N seeds, 100 unless told, twice each: 2 N games of each scenario\n";
 
 int Run(const qarn::Options& options) {
     using namespace qarn;
+    std::ostream* progress = isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr;
     if (options.selfPlay) {
-        RunSelfPlay(*options.selfPlay, std::cout,
-                    isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr);
+        RunSelfPlay(*options.selfPlay, std::cout, progress);
+        return 0;
+    }
+    if (options.match) {
+        RunMatch(*options.match, std::cout, progress);
         return 0;
     }
     LinuxDesktop desktop;

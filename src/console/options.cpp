@@ -1,5 +1,6 @@
 #include "console/options.h"
 
+#include <array>
 #include <limits>
 #include <string_view>
 
@@ -44,44 +45,99 @@ private:
     std::span<char* const> rest_;
 };
 
-// What belongs to self-play alone.
-struct SelfPlayArguments {
+// What belongs to the series of games that opponents play among themselves.
+struct SeriesArguments {
+    std::optional<long> selfPlay;
+    std::optional<std::array<std::string, 2>> match;
     std::optional<long> games;
     std::optional<std::string> scenario;
     std::optional<std::uint64_t> seed;
+    std::optional<long> turns;
+    bool sprt = false;
 };
 
-std::optional<SelfPlayOptions> SelfPlayOf(const SelfPlayArguments& given, const Options& options) {
-    if (!given.games) {
-        if (given.scenario || given.seed) {
-            throw Refusal("The options --scenario and --seed go with --selfplay.");
-        }
-        return std::nullopt;
+constexpr long mostGames = std::numeric_limits<long>::max();
+constexpr std::uint64_t largestSeed = std::numeric_limits<std::uint64_t>::max();
+
+// Gives false when the option is none of these.
+bool TakeSeriesOption(const std::string& option, Arguments& rest, SeriesArguments& given) {
+    if (option == "--selfplay") {
+        given.selfPlay = ParseNumber<long>(rest.TakeValueOf(option), 1, mostGames);
+    } else if (option == "--match") {
+        const std::string first = rest.TakeValueOf(option);
+        given.match = {first, rest.TakeValueOf(option)};
+    } else if (option == "--games") {
+        given.games = ParseNumber<long>(rest.TakeValueOf(option), 1, mostGames);
+    } else if (option == "--scenario") {
+        given.scenario = rest.TakeValueOf(option);
+    } else if (option == "--seed") {
+        given.seed = ParseNumber<std::uint64_t>(rest.TakeValueOf(option), 0, largestSeed);
+    } else if (option == "--turns") {
+        given.turns = ParseNumber<long>(rest.TakeValueOf(option), 1, mostGames);
+    } else if (option == "--sprt") {
+        given.sprt = true;
+    } else {
+        return false;
     }
-    if (!options.file.empty()) throw Refusal("Self-play opens no game file.");
-    return SelfPlayOptions{.games = *given.games,
-                           .scenarios = ParseScenarios(given.scenario.value_or("all")),
-                           .seed = given.seed.value_or(1),
-                           .json = options.json};
+    return true;
+}
+
+void RefuseStrayOptions(const SeriesArguments& given, const Options& options) {
+    if (given.selfPlay && given.match) throw Refusal("Self-play and a match do not go together.");
+    if (!given.match && (given.games || given.turns || given.sprt)) {
+        throw Refusal("The options --games, --turns and --sprt go with --match.");
+    }
+    const bool series = given.selfPlay || given.match;
+    if (!series && (given.scenario || given.seed)) {
+        throw Refusal("The options --scenario and --seed go with --selfplay or --match.");
+    }
+    if (series && !options.file.empty()) {
+        throw Refusal("Self-play and matches open no game file.");
+    }
+}
+
+const Opponent* ParseOpponent(const std::string& name) {
+    if (const Opponent* opponent = FindOpponent(name)) return opponent;
+    std::string names;
+    for (const Opponent& one : Opponents()) {
+        names += (names.empty() ? "" : ", ") + std::string(one.name);
+    }
+    throw Refusal("There is no opponent \"" + name + "\". There are: " + names + ".");
+}
+
+void SetSeries(const SeriesArguments& given, Options& options) {
+    RefuseStrayOptions(given, options);
+    const std::string scenario = given.scenario.value_or("all");
+    if (given.selfPlay) {
+        options.selfPlay = SelfPlayOptions{.games = *given.selfPlay,
+                                           .scenarios = ParseScenarios(scenario),
+                                           .seed = given.seed.value_or(1),
+                                           .json = options.json};
+    }
+    if (given.match) {
+        const MatchOptions usual;
+        options.match = MatchOptions{.a = ParseOpponent((*given.match)[0]),
+                                     .b = ParseOpponent((*given.match)[1]),
+                                     .seeds = given.games.value_or(usual.seeds),
+                                     .scenarios = ParseScenarios(scenario),
+                                     .seed = given.seed.value_or(usual.seed),
+                                     .mostTurns = given.turns.value_or(usual.mostTurns),
+                                     .sprt = given.sprt,
+                                     .json = options.json};
+    }
 }
 
 }  // namespace
 
 Options ParseOptions(std::span<char* const> arguments) {
-    constexpr long mostGames = std::numeric_limits<long>::max();
-    constexpr std::uint64_t largestSeed = std::numeric_limits<std::uint64_t>::max();
     Options options;
-    SelfPlayArguments selfPlay;
+    SeriesArguments series;
     for (Arguments rest(arguments); !rest.Empty();) {
         const std::string argument = rest.Take();
         if (argument == "--json") {
             options.json = true;
-        } else if (argument == "--selfplay") {
-            selfPlay.games = ParseNumber<long>(rest.TakeValueOf(argument), 1, mostGames);
-        } else if (argument == "--scenario") {
-            selfPlay.scenario = rest.TakeValueOf(argument);
-        } else if (argument == "--seed") {
-            selfPlay.seed = ParseNumber<std::uint64_t>(rest.TakeValueOf(argument), 0, largestSeed);
+        } else if (TakeSeriesOption(argument, rest, series)) {
+            continue;
         } else if (argument.starts_with("--")) {
             throw Refusal("There is no option " + argument + ".");
         } else if (!options.file.empty()) {
@@ -90,7 +146,7 @@ Options ParseOptions(std::span<char* const> arguments) {
             options.file = argument;
         }
     }
-    options.selfPlay = SelfPlayOf(selfPlay, options);
+    SetSeries(series, options);
     return options;
 }
 

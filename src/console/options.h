@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 
+#include "console/match_command.h"
 #include "console/self_play_command.h"
 
 namespace qarn {
@@ -13,6 +14,7 @@ struct Options {
     bool json = false;
     std::string file;  ///< empty: no game is opened at the start
     std::optional<SelfPlayOptions> selfPlay;
+    std::optional<MatchOptions> match;
 };
 
 /// Reads the arguments behind the program's name. Throws Refusal for a wrong command line.

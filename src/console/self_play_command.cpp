@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "ai/self_play.h"
+#include "console/progress_line.h"
 #include "scenarios/catalogue.h"
 
 namespace qarn {
@@ -21,31 +22,6 @@ double MillisecondsPerGame(const SelfPlayResult& result) {
 double TurnsPerGame(const SelfPlayResult& result) {
     return PerGame(static_cast<double>(result.turns), result);
 }
-
-// The line that shows how far the games of one scenario are. Writes it a hundred times at most.
-class ProgressLine {
-public:
-    ProgressLine(std::ostream* out, std::string_view code, long games)
-        : out_(out), code_(code), games_(games) {}
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-    ~ProgressLine() {
-        if (out_ != nullptr) *out_ << '\r' << std::string(30, ' ') << '\r' << std::flush;
-    }
-
-    void Show(long played) {
-        const long percent = 100 * played / games_;
-        if (out_ == nullptr || percent == percent_) return;
-        percent_ = percent;
-        *out_ << '\r' << std::setw(3) << code_ << ": " << percent << " % played" << std::flush;
-    }
-
-private:
-    std::ostream* out_;
-    std::string_view code_;
-    long games_;
-    long percent_ = -1;
-};
 
 SelfPlayResult Play(const SelfPlayOptions& options, int scenario, std::ostream* progress) {
     ProgressLine line(progress, NamesOfScenario(scenario).Code, options.games);

@@ -12,6 +12,7 @@
 #include "rules/questions/casualties.h"
 #include "rules/questions/reach.h"
 #include "rules/questions/start.h"
+#include "rules/questions/turn.h"
 #include "scenarios/catalogue.h"
 #include "support/played_game.h"
 
@@ -42,6 +43,7 @@ public:
         Replay(plan);
         Compare(outcome);
         CheckReached(before, plan, outcome);
+        CheckAllowed(before, plan, dice);
         ++kinds_[KindOf(plan, outcome)];
     }
 
@@ -206,6 +208,22 @@ private:
         const bool returns = IsLoneBirdOnWater(before, plan.people, chosenFor_.square);
         ASSERT_EQ(at == chosenFor_.square, !returns);
         ASSERT_TRUE(returns || paid == chosenFor_.cost);
+    }
+
+    // What the rules leave of a plan does what the plan does, only that nothing left passes the
+    // turn; and they leave all of a march to a square that can be reached.
+    void CheckAllowed(Position before, const Plan& plan, Dice dice) {
+        const Plan allowed = AllowedPart(before, plan);
+        if (plan.kind == PlanKind::March && chosenFor_.square != Square{}) {
+            const bool returns = IsLoneBirdOnWater(before, plan.people, chosenFor_.square);
+            ASSERT_EQ(allowed == plan, !returns || chosenFor_.attack);
+        }
+        PlayTurn(before, allowed, dice);
+        for (std::size_t i = 1; i <= peopleCount; ++i) {
+            ASSERT_EQ(SquareOf(before.People[i]), SquareOf(position_.People[i])) << "group " << i;
+        }
+        ASSERT_EQ(before.bytTerrain, position_.bytTerrain);
+        ASSERT_TRUE(before.bytTurn == position_.bytTurn || allowed.kind == PlanKind::Pass);
     }
 
     static std::string KindOf(const Plan& plan, const TurnOutcome& outcome) {

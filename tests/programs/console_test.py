@@ -136,7 +136,8 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(self.play(NEW, "close", "click 1 1")[1:], [
             {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False,
              "happenings": []} for error in ("", "The program has ended.")])
-        for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"]):
+        for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"],
+                          ["--match", "classic", "nobody"]):
             run = self.run_program("", *arguments)
             self.assertEqual((run.returncode, run.stdout), (2, b""))
             self.assertIn(b"Usage: qarn-console", run.stderr)
