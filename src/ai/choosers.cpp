@@ -11,10 +11,8 @@ namespace qarn {
 namespace {
 
 constexpr std::array opponents{
-    Opponent{"classic", ChooseClassicMove},
-    Opponent{"scout", ChooseScoutTurn},
-    Opponent{"captain", ChooseCaptainTurn},
-    Opponent{"warlord", ChooseWarlordTurn},
+    Opponent{"classic", ChooseClassicMove},      Opponent{"scout", ChooseScoutTurn},
+    Opponent{"captain", ChooseCaptainTurn},      Opponent{"warlord", ChooseWarlordTurn},
     Opponent{"random", ChooseRandomTurn, false},
 };
 

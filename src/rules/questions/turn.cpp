@@ -31,10 +31,10 @@ public:
             if (!CanAttack(position_, group_.at, to, true)) return;
             attacks_ = stopped_ = true;
             path_.push_back(to);
-        } else if (step.enters) {
-            Enter(to, step.cost);
-            stopped_ = step.result == StepResult::JoinedOwn;
+            return;
         }
+        if (step.enters) Enter(to, step.cost);
+        stopped_ = step.result == StepResult::JoinedOwn;
     }
 
     bool IsAny() const {
