@@ -22,7 +22,8 @@ std::string Shown(const MessageBox& box, Answer answer) {
     const std::string title = box.Title.empty() ? "" : box.Title + ": ";
     const std::string text = title + Replaced(box.Text, "\n", "\n  ");
     if (box.Offered == Buttons::OK) return "! " + text + "\n";
-    return "? " + text + (answer == Answer::Yes ? " -> yes\n" : " -> no\n");
+    return "? " + text + (box.DeclinedByDefault ? " [No]" : "") +
+           (answer == Answer::Yes ? " -> yes\n" : " -> no\n");
 }
 
 // Gives false when the button can not be pressed.
