@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <random>
 
+#include "ai/action.h"
 #include "core/board_display.h"
 #include "core/turn_cycle.h"
 #include "support/played_game.h"
@@ -89,6 +90,27 @@ TEST(TurnDriver, EndsTheMoveWhenThePersonCallsTheAttackOff) {
     played.TickOn();
     EXPECT_EQ(played.Square(11, 10), "TS   WS   ");
     EXPECT_EQ(played.game.controls.lblStatus.Caption, "It is Blue's turn.");
+}
+
+TEST(TurnDriver, CallsOffAnAttackByCommandThatThePersonRefuses) {
+    ComputerGame played("LS@15,10 WA1@16,10 Z@1,1");
+    StartAction(played.game, {.kind = PlanKind::Attack, .start = {15, 10}, .target = {16, 10}});
+    played.dialogs.queued = {Answer::No};
+    for (int stage = 0; stage < 2; ++stage) played.Tick();
+    EXPECT_EQ(played.dialogs.boxes.size(), 1u);
+    const GameRecord& record = played.game.record;
+    EXPECT_FALSE(record.blnAttackMode || record.blnAttackerChosen || record.Action.blnAIBusy);
+    EXPECT_EQ(record.bytTurn, 1);
+}
+
+TEST(TurnDriver, TakesEveryPathThatAPlanCanHold) {
+    ComputerGame played("Q@10,10 Z@1,1");
+    Plan plan{.kind = PlanKind::March, .start = {10, 10}, .people = {1}};
+    while (plan.path.size() < longestPath) {
+        plan.path.push_back({static_cast<std::uint8_t>(plan.path.size() % 2 == 0 ? 11 : 10), 10});
+    }
+    EXPECT_THROW(plan.path.push_back({11, 10}), std::length_error);
+    EXPECT_NO_THROW(StartAction(played.game, plan));
 }
 
 // Burning passes the turn, and so does the end of the move: the side that burned plays on.
@@ -188,7 +210,8 @@ TEST(TurnDriver, ForgetsAnActionWhoseMoveIsGone) {
         played.Tick();
         const ActionRecord& action = played.game.record.Action;
         const bool chose = action.blnAIBusy && action.bytAIStep == 1;
-        EXPECT_TRUE(chose || played.dialogs.boxes.back().Text == "No good move!");
+        EXPECT_TRUE(chose ||
+                    (played.dialogs.boxes.back().Text == "No good move!" && !action.blnAIBusy));
         EXPECT_FALSE(played.game.controls.shpHighlight.Visible);
     }
 }

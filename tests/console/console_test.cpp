@@ -51,5 +51,19 @@ TEST(ConsoleDialogs, AnswersComeFromTheQueueThenFromAPerson) {
     EXPECT_EQ(dialogs.Show(yesNo), Answer::Yes);
 }
 
+TEST(ConsoleRandomNumbers, ComeFromTheQueueThenFromTheSeed) {
+    ConsoleRandomNumbers random;
+    random.SetSeed(5);
+    const double first = random.Next(), second = random.Next();
+    EXPECT_NE(first, second);
+    random.SetSeed(5);  // now
+    random.QueueNumber(0.25);
+    EXPECT_EQ(random.Next(), 0.25);
+    EXPECT_EQ(random.Next(), first);
+    random.Seed();  // and at a load
+    EXPECT_EQ(random.Next(), first);
+    EXPECT_EQ(random.Next(), second);
+}
+
 }  // namespace
 }  // namespace qarn
