@@ -2,7 +2,6 @@
 
 #include <map>
 #include <nlohmann/json.hpp>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -39,10 +38,10 @@ Tables ReadPage() {
 
 // What stands between backticks.
 std::vector<std::string> Quoted(const std::string& text) {
-    static const std::regex quoted("`([^`]+)`");
     std::vector<std::string> found;
-    for (std::sregex_iterator at(text.begin(), text.end(), quoted), end; at != end; ++at) {
-        found.push_back((*at)[1]);
+    std::istringstream parts(text);
+    for (std::string between, part; std::getline(parts, between, '`');) {
+        if (std::getline(parts, part, '`')) found.push_back(part);
     }
     return found;
 }
