@@ -47,8 +47,7 @@ Plan Choose(const Position& position, Chooser choose, std::uint64_t seed, Player
 
 void CountStrengths(const Position& position, MatchGame& game) {
     for (const Group& group : position.People) {
-        if (!OnBoard(group) || IsTransport(group)) continue;
-        game.players[group.Side].strengthLeft += group.Attack + group.Defense;
+        if (OnBoard(group)) game.players[group.Side].strengthLeft += group.Attack + group.Defense;
     }
 }
 

@@ -20,7 +20,7 @@ struct PlayerRecord {
 struct MatchGame {
     std::uint8_t winner = 0;  ///< side 1 or 2; 0: cut off
     long turns = 0;
-    std::array<PlayerRecord, 3> players;  ///< by side, used from index 1
+    std::array<PlayerRecord, 3> players;  ///< by side, from index 1; no side's are in 0
 
     /// The score of a side: 1 for a win, 0.5 when the game was cut off.
     double Score(std::uint8_t side) const;

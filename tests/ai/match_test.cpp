@@ -15,14 +15,17 @@ namespace {
 
 std::optional<Plan> FindNothing(const Position&, std::uint64_t) { return std::nullopt; }
 
-// Takes its enemies off to a corner.
+// Marches with its whole side, wherever they stand, two squares to the right of the last of them.
 std::optional<Plan> Cheat(const Position& position, std::uint64_t) {
-    Plan plan{.kind = PlanKind::March, .path = {{1, 1}, {1, 2}}};
+    Plan plan{.kind = PlanKind::March};
     for (std::uint8_t i = 1; i <= peopleCount; ++i) {
-        const Group& group = position.People[i];
-        if (group.Side == position.bytTurn) plan.start = SquareOf(group);
-        if (group.Side == OtherSide(position.bytTurn)) plan.people.Add(i);
+        if (position.People[i].Side != position.bytTurn) continue;
+        plan.people.Add(i);
+        plan.start = SquareOf(position.People[i]);
     }
+    const auto [X, Y] = plan.start;
+    for (std::uint8_t k = 1; k <= 2; ++k)
+        plan.path.push_back({static_cast<std::uint8_t>(X + k), Y});
     return plan;
 }
 
@@ -85,6 +88,17 @@ TEST(MatchGame, IsJudgedByTheStrengthsLeftWhenItIsCutOff) {
     const MatchGame passed = PlayMatchGame(position, {nullptr, FindNothing, FindNothing}, 1, 3);
     const Group& Q = position.People[PeopleOn(position, {9, 10}).First()];
     EXPECT_EQ(passed.players[1].strengthLeft, Q.Attack + Q.Defense);
+}
+
+// It would win at once with its whole side.
+TEST(MatchGame, PassesForWhoBreaksTheRules) {
+    const PlayedGame played("Q@1,1 V@9,10 Z@11,10");
+    Position position = PositionOf(played.game.record);
+    position.People[PeopleOn(position, {1, 1}).First()].Attack = 50;
+    const MatchGame game = PlayMatchGame(position, {nullptr, Cheat, FindNothing}, 1, 4);
+    EXPECT_EQ(game.winner, 0);
+    EXPECT_EQ(game.players[1].refused, 2);
+    EXPECT_EQ(game.players[2].refused, 0);
 }
 
 // ---- Matches ----

@@ -265,5 +265,24 @@ TEST(PlayTurn, DoesWhatTheHandlersDo) {
     }
 }
 
+TEST(AllowedPart, LeavesOutWhatTheRulesRefuse) {
+    const PlayedGame played("Q@9,10 BT@9,10 Z@11,10");
+    const Position position = PositionOf(played.game.record);
+    const PeopleSet Q{PeopleOn(position, {9, 10}).First()};
+    const auto march = [&](PeopleSet people, const Path& path) {
+        const Plan plan{.kind = PlanKind::March, .start = {9, 10}, .people = people, .path = path};
+        return AllowedPart(position, plan);
+    };
+    const Path intoTheEnemy{{10, 10}, {11, 10}};
+    EXPECT_EQ(march(Q, {{10, 10}, {12, 10}, {11, 10}, {12, 10}}), march(Q, intoTheEnemy));
+    EXPECT_EQ(march(Q, intoTheEnemy).path, intoTheEnemy);
+    EXPECT_EQ(march(Q, {}), Plan());
+    EXPECT_EQ(march({}, intoTheEnemy), Plan());
+    EXPECT_EQ(march(PeopleOn(position, {9, 10}) - Q, intoTheEnemy), Plan());
+    EXPECT_EQ(
+        AllowedPart(position, {.kind = PlanKind::Attack, .start = {9, 10}, .target = {9, 10}}),
+        Plan());
+}
+
 }  // namespace
 }  // namespace qarn

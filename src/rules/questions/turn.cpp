@@ -9,8 +9,7 @@ namespace {
 
 bool CanSetOut(const Position& position, const Plan& plan) {
     const PeopleSet strangers = plan.people - ListedOn(position, plan.start);
-    return AskStart(position, plan.start) == StartRefusal::None && strangers.Empty() &&
-           !CharactersOf(position, plan.people).Empty();
+    return AskStart(position, plan.start) == StartRefusal::None && strangers.Empty();
 }
 
 bool CanAttack(const Position& position, Square from, Square to, bool blnDirect) {
