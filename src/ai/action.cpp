@@ -140,6 +140,20 @@ Stage StageAfterSquare(Game& game) {
     return action.blnAttacks ? StageAfterAttack(game) : FinishMove;
 }
 
+// While it lives, an opponent that answers for itself does so.
+class OwnAnswers {
+public:
+    explicit OwnAnswers(Game& game) : dialogs_(game.ports.dialogs) {
+        dialogs_.LetOpponentAnswer(game.record.Action.blnAnswersItself);
+    }
+    OwnAnswers(const OwnAnswers&) = delete;
+    OwnAnswers& operator=(const OwnAnswers&) = delete;
+    ~OwnAnswers() { dialogs_.LetOpponentAnswer(false); }
+
+private:
+    Dialogs& dialogs_;
+};
+
 // Gives the stage that follows.
 Stage ReplayStage(Game& game) {
     ActionRecord& action = game.record.Action;
@@ -191,6 +205,7 @@ void StartAction(Game& game, const Plan& plan) {
 }
 
 void StepAction(Game& game) {
+    const OwnAnswers answers(game);
     const Stage stage = ReplayStage(game);
     game.record.Action.bytAIStep = stage;
     if (!IsEnd(stage)) game.controls.tmrAI.Enabled = true;

@@ -4,9 +4,8 @@ namespace qarn {
 
 struct Game;
 
-/// Decides what the side to move, played by the computer, does in its turn, and starts that action:
-/// a stack marches onto an enemy square or, when no attack promises enough, onto another stack of
-/// its side. Shows the box "No good move!" and starts nothing when there is neither.
+/// Has the opponent that plays the side to move choose its turn, and starts that action. Shows the
+/// box "No good move!" and starts nothing when it finds nothing to do.
 void ChooseMove(Game& game);
 
 }  // namespace qarn

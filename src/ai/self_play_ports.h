@@ -22,10 +22,11 @@ public:
 
 private:
     struct ConsentingDialogs : Dialogs {
-        Answer Show(const MessageBox& box) override {
+        Answer Ask(const MessageBox& box) override {
             lastText = box.Text;
             return box.Offered == Buttons::YesNo ? Answer::Yes : Answer::OK;
         }
+        void ShowAnswered(const MessageBox&, Answer) override {}
         std::string AskSaveFileName(const std::string&) override { return {}; }
         std::string AskOpenFileName(const std::string&) override { return {}; }
         std::string InputPrompt(const std::string&, const std::string&,

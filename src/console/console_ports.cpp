@@ -45,10 +45,15 @@ bool Offers(Buttons offered, Answer answer) {
     }
 }
 
-Answer ConsoleDialogs::Show(const MessageBox& box) {
+Answer ConsoleDialogs::Ask(const MessageBox& box) {
     const Answer answer = Choose(box);
     shown_.push_back({box, answer});
     return answer;
+}
+
+void ConsoleDialogs::ShowAnswered(const MessageBox& box, Answer answer) {
+    if (tellPerson_) tellPerson_(box, answer);
+    shown_.push_back({box, answer});
 }
 
 Answer ConsoleDialogs::Choose(const MessageBox& box) {

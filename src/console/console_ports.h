@@ -34,8 +34,8 @@ bool Offers(Buttons offered, Answer answer);
 class ConsoleDialogs : public Dialogs {
 public:
     using AskPerson = std::function<std::optional<Answer>(const MessageBox&)>;
+    using TellPerson = std::function<void(const MessageBox&, Answer)>;
 
-    Answer Show(const MessageBox& box) override;
     std::string AskSaveFileName(const std::string& path) override;
     std::string AskOpenFileName(const std::string& folder) override;
     std::string InputPrompt(const std::string& text, const std::string& title,
@@ -46,16 +46,21 @@ public:
     void SetSaveFileName(const std::string& path) { saveFileName_ = path; }
     /// Shows every box to a person; the function gives nothing when nobody answers.
     void SetAskPerson(AskPerson ask) { askPerson_ = std::move(ask); }
+    /// Shows a person every box that an opponent has answered itself.
+    void SetTellPerson(TellPerson tell) { tellPerson_ = std::move(tell); }
 
     /// The boxes shown since the last call.
     std::vector<ShownBox> TakeShown() { return std::exchange(shown_, {}); }
 
 private:
+    Answer Ask(const MessageBox& box) override;
+    void ShowAnswered(const MessageBox& box, Answer answer) override;
     Answer Choose(const MessageBox& box);
 
     std::deque<Answer> answers_;
     std::string saveFileName_;
     AskPerson askPerson_;
+    TellPerson tellPerson_;
     std::vector<ShownBox> shown_;
 };
 

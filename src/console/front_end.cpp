@@ -117,6 +117,9 @@ int RunForPerson(std::istream& in, std::ostream& out, const DesktopPorts& deskto
                  const std::string& file, bool colors) {
     Session session(desktop);
     session.Dialogs().SetAskPerson([&](const MessageBox& box) { return AskPerson(in, out, box); });
+    session.Dialogs().SetTellPerson([&](const MessageBox& box, Answer answer) {
+        out << "\n--- " << box.Text << " (" << WordOf(answer) << ")\n";
+    });
     Terminal terminal(out, colors);
     if (file.empty()) {
         PrintHelp(out);

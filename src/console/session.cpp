@@ -8,6 +8,7 @@
 #include <optional>
 #include <system_error>
 
+#include "ai/choosers.h"
 #include "ai/turn_driver.h"
 #include "console/words.h"
 #include "core/failure_text.h"
@@ -104,7 +105,7 @@ Session::Session(const DesktopPorts& desktop)
                       desktop.folders}} {}
 
 std::span<const Session::Command> Session::Commands() {
-    static constexpr std::array<Command, 16> commands{{
+    static constexpr std::array<Command, 17> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -116,6 +117,7 @@ std::span<const Session::Command> Session::Commands() {
         {"answer", 1, anyNumber, false, &Session::QueueAnswers},
         {"random", 1, anyNumber, false, &Session::QueueNumbers},
         {"seed", 1, 1, false, &Session::Seed},
+        {"level", 1, 2, false, &Session::ChooseLevel},
         {"saveas", 1, 1, true, &Session::SaveAs},
         {"state", 0, 0, false, &Session::ShowState},
         {"reach", 0, 2, true, &Session::AskReach},
@@ -257,6 +259,16 @@ void Session::QueueNumbers(const Words& words) {
 void Session::Seed(const Words& words) {
     random_.SetSeed(
         ParseNumber<std::uint64_t>(words[1], 0, std::numeric_limits<std::uint64_t>::max()));
+}
+
+void Session::ChooseLevel(const Words& words) {
+    const Opponent* opponent = FindOpponent(words[1]);
+    if (opponent == nullptr || !opponent->forPeople) {
+        throw Refusal("There is no opponent \"" + words[1] + "\".");
+    }
+    const int side = words.size() > 2 ? ParseNumber<int>(words[2], 1, 2) : 0;
+    if (side != 2) game_.opponent[1] = opponent->name;
+    if (side != 1) game_.opponent[2] = opponent->name;
 }
 
 void Session::SaveAs(const Words& words) {

@@ -59,6 +59,7 @@ private:
     void QueueAnswers(const Words& words);
     void QueueNumbers(const Words& words);
     void Seed(const Words& words);
+    void ChooseLevel(const Words& words);
     void SaveAs(const Words& words);
     void ShowState(const Words& words);
     void AskReach(const Words& words);

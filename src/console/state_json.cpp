@@ -177,6 +177,7 @@ nlohmann::ordered_json StateJson(const CommandOutcome& outcome, const Game& game
                 {"open", game.blnOpen}};
     if (game.blnOpen) AddGame(object, game);
     object["happenings"] = HappeningsJson(outcome.happenings);
+    object["level"] = FromIndex1(game.opponent);
     AddAnswers(object, outcome.answers);
     return object;
 }

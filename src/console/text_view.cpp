@@ -113,6 +113,7 @@ void PrintHelp(std::ostream& out) {
   answer WORD...   answers for the next boxes: yes, no, retry, cancel
   random R...      numbers from 0 to below 1 for the next draws
   seed N           the seed of the numbers after these
+  level NAME [SIDE] who plays the computer's sides: classic, scout, captain or warlord
   state            show the board again
   help             show this again
   close            save and end          quit   end without saving

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <string_view>
+
 #include "core/controls.h"
 #include "core/game_record.h"
 #include "core/happenings.h"
@@ -22,6 +25,10 @@ struct Game {
     Ports ports;
     Happenings happenings =
         {};  ///< what the event that is under way, or the last one, brought about
+
+    /// Who plays each side while the computer does, by the name in the table of choosers. Stays as
+    /// it is when another game is opened.
+    std::array<std::string_view, 3> opponent{"", "classic", "classic"};
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have

@@ -31,8 +31,9 @@ struct TerrainKindRecord : TerrainValues {
 /// The action that the computer is replaying through the window's controls.
 struct ActionRecord {
     bool blnAIBusy = false;
-    bool blnAttacks = false;  ///< with the Attack command: the path leads to the target
-    bool blnOwnMove = false;  ///< the move or attack that the action began is still under way
+    bool blnAttacks = false;        ///< with the Attack command: the path leads to the target
+    bool blnAnswersItself = false;  ///< its boxes are not the person's to answer
+    bool blnOwnMove = false;        ///< the move or attack that the action began is still under way
     std::uint8_t bytAIStartX = 0, bytAIStartY = 0;
     PeopleSet goes = {};        ///< who moves; none: everybody on the starting square
     std::uint8_t casualty = 0;  ///< who is to die if someone must; 0: the weakest

@@ -25,7 +25,17 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    virtual Answer Show(const MessageBox& box) = 0;
+    /// Shows a box and gives the answer to it: the person's or, while an opponent answers for
+    /// itself, that it agrees.
+    Answer Show(const MessageBox& box) {
+        if (!opponentAnswers_) return Ask(box);
+        const Answer answer = box.Offered == Buttons::YesNo ? Answer::Yes : Answer::OK;
+        ShowAnswered(box, answer);
+        return answer;
+    }
+
+    /// From now on the opponent answers the boxes itself, or the person does again.
+    void LetOpponentAnswer(bool answers) { opponentAnswers_ = answers; }
 
     /// Asks for a file to save to; `path` is where the dialog starts. Gives an absolute path, or an
     /// empty string when the person cancelled.
@@ -42,6 +52,16 @@ public:
 
     /// A box with the text alone and OK.
     void Tell(const std::string& text) { Show({.Title = {}, .Text = text}); }
+
+protected:
+    /// Shows the box to a person, who answers it.
+    virtual Answer Ask(const MessageBox& box) = 0;
+
+    /// Shows what an opponent was asked and has answered, without waiting.
+    virtual void ShowAnswered(const MessageBox& box, Answer answer) = 0;
+
+private:
+    bool opponentAnswers_ = false;
 };
 
 /// Uniform random numbers.

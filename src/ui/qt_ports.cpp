@@ -69,7 +69,7 @@ std::string ChosenFile(QFileDialog& dialog) {
 QtDialogs::QtDialogs(QWidget* window, std::function<void()> beforeBox)
     : window_(window), beforeBox_(std::move(beforeBox)) {}
 
-Answer QtDialogs::Show(const MessageBox& box) {
+Answer QtDialogs::Ask(const MessageBox& box) {
     beforeBox_();
     const BoxButtons buttons = ButtonsFor(box.Offered);
     QMessageBox widget(window_);

@@ -14,13 +14,16 @@ public:
     /// `beforeBox` runs before each box, so that what the box comments on is on screen.
     QtDialogs(QWidget* window, std::function<void()> beforeBox);
 
-    Answer Show(const MessageBox& box) override;
     std::string AskSaveFileName(const std::string& path) override;
     std::string AskOpenFileName(const std::string& folder) override;
     std::string InputPrompt(const std::string& text, const std::string& title,
                             const std::string& prefilled) override;
 
 private:
+    Answer Ask(const MessageBox& box) override;
+    // The windows offer no opponent yet that answers for itself.
+    void ShowAnswered(const MessageBox&, Answer) override {}
+
     QWidget* window_;
     std::function<void()> beforeBox_;
 };

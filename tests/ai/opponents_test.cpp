@@ -3,8 +3,12 @@
 #include <algorithm>
 
 #include "ai/choosers.h"
+#include "ai/match_game.h"
+#include "ai/opponents/levels.h"
 #include "ai/opponents/turns.h"
+#include "ai/starting_position.h"
 #include "rules/play_turn.h"
+#include "scenarios/catalogue.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -74,6 +78,15 @@ TEST(Levels, ChooseTheSameForTheSameSeed) {
     for (const char* name : {"scout", "captain", "warlord"}) {
         const std::string position = "WS@12,10 TS@12,10 Q@9,10 Z@15,10 WA1@15,10 WA@18,9";
         EXPECT_EQ(ChoiceOf(name, position, 7), ChoiceOf(name, position, 7)) << name;
+    }
+}
+
+TEST(Levels, PlanOnlyWhatTheRulesAllow) {
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        const MatchGame game =
+            PlayMatchGame(StartOf(scenario), {nullptr, ChooseScoutTurn, ChooseCaptainTurn}, 3, 8);
+        EXPECT_EQ(game.players[1].refused + game.players[2].refused, 0) << scenario;
+        EXPECT_EQ(game.turns, 8);
     }
 }
 

@@ -13,7 +13,7 @@ PAGE = os.path.join(os.path.dirname(__file__), "../../docs/protocol.md")
 NEW = "new g.tgf HM Red human Blue human"
 KEYS = """ok error boxes help ended open caption record squares buttons terrainKey chkItems menus
     lblStatus lblDetailMore lblSummary lblTerrainDescription fraQuickDetails shpHighlight tmrAI
-    blnAIBusy happenings""".split()
+    blnAIBusy happenings level""".split()
 RECORD_KEYS = """bytScenario bytTurn strPlayerName blnComputer bytPeopleLeft strGameName strGamePath
     bytCurrentX bytCurrentY blnMoveMode blnAttackMode blnDetailsMode bytMobilityLeft
     bytSelectedPeople bytTerrain People""".split()
@@ -81,7 +81,7 @@ class ConsoleTest(unittest.TestCase):
         objects = self.play("random 0", "# a comment", "", NEW, "press cmdMove", "click 14 7",
                             "press cmdDoneSel", "  state  ")
         self.assertEqual(len(objects), 6)
-        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings"])
+        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings", "level"])
         last = objects[4]
         self.assertEqual({**last, "happenings": []}, objects[5])
         self.assertEqual((list(last), list(last["record"])), (KEYS, RECORD_KEYS))
@@ -135,7 +135,7 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(len(self.play(NEW, "quit", "state")), 1)
         self.assertEqual(self.play(NEW, "close", "click 1 1")[1:], [
             {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False,
-             "happenings": []} for error in ("", "The program has ended.")])
+             "happenings": [], "level": ["classic", "classic"]} for error in ("", "The program has ended.")])
         for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"],
                           ["--match", "classic", "nobody"]):
             run = self.run_program("", *arguments)
@@ -197,6 +197,19 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(objects[-1]["record"]["blnComputer"], [False, True])
         self.assertEqual(objects[-1]["caption"],
                          f"Cinderfell Tactical Game - a b.tgf ({name} vs. )")
+
+    def test_opponents_play_whole_turns_and_answer_for_themselves(self):
+        new = 'new g.tgf VD Red computer Blue computer'
+        one, *_ = self.play("level scout 1", "level warlord 2", "level classic 1", "level nobody")
+        self.assertEqual(one["level"], ["scout", "classic"])
+        games = [self.play("seed 5", "level scout", new, *(400 * ["timer 20"])) for _ in range(2)]
+        self.assertEqual(games[0], games[1])
+        boxes = [box for done in games[0] for box in done["boxes"]]
+        happened = [h["what"] for done in games[0] for h in done["happenings"]]
+        self.assertTrue(boxes and {box["answer"] for box in boxes} <= {"yes", "ok"})
+        self.assertNotIn("No good move!", [box["text"] for box in boxes])
+        self.assertGreater(happened.count("turn"), 20)
+        self.assertEqual(happened[-1], "end")
 
     def test_same_seed_same_game(self):
         def attacks(seed):

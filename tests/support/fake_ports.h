@@ -19,7 +19,7 @@ namespace qarn {
 /// the test.
 class FakeDialogs : public Dialogs {
 public:
-    Answer Show(const MessageBox& box) override {
+    Answer Ask(const MessageBox& box) override {
         boxes.push_back(box);
         if (whileShown) whileShown();
         answers.push_back(Answer::OK);
@@ -31,6 +31,11 @@ public:
         answers.back() = queued.front();
         queued.pop_front();
         return answers.back();
+    }
+    void ShowAnswered(const MessageBox& box, Answer answer) override {
+        boxes.push_back(box);
+        if (whileShown) whileShown();
+        answers.push_back(answer);
     }
     std::string AskSaveFileName(const std::string&) override { return saveFileName; }
     std::string AskOpenFileName(const std::string&) override { return openFileName; }

@@ -17,7 +17,8 @@ public:
     Game game;
 
 private:
-    Answer Show(const MessageBox&) override { return Answer::OK; }
+    Answer Ask(const MessageBox&) override { return Answer::OK; }
+    void ShowAnswered(const MessageBox&, Answer) override {}
     std::string AskSaveFileName(const std::string&) override { return {}; }
     std::string AskOpenFileName(const std::string&) override { return {}; }
     std::string InputPrompt(const std::string&, const std::string&, const std::string&) override {
