@@ -103,6 +103,19 @@ TEST(TurnDriver, CallsOffAnAttackByCommandThatThePersonRefuses) {
     EXPECT_EQ(record.bytTurn, 1);
 }
 
+// It attacks, and is asked whether it wants to; afterwards the person is asked again.
+TEST(TurnDriver, LetsAnOpponentAnswerItsOwnBoxesOnly) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@11,10 ZA1@1,1");
+    played.game.opponent[1] = "captain";
+    for (const int roll : {1, 1}) played.random.QueueRoll(roll);
+    played.TickOn();
+    EXPECT_EQ(played.game.record.bytPeopleLeft[2], 1);
+    EXPECT_GE(played.dialogs.answers.size(), 3u);
+    played.dialogs.queued = {Answer::No};
+    EXPECT_EQ(played.dialogs.Show({.Title = {}, .Text = "?", .Offered = Buttons::YesNo}),
+              Answer::No);
+}
+
 TEST(TurnDriver, TakesEveryPathThatAPlanCanHold) {
     ComputerGame played("Q@10,10 Z@1,1");
     Plan plan{.kind = PlanKind::March, .start = {10, 10}, .people = {1}};
