@@ -26,7 +26,9 @@ std::uint64_t SeedOf(const Position& position) {
 void ChooseMove(Game& game) {
     const std::string_view name = game.opponent.at(game.record.bytTurn);
     const Position position = PositionOf(game.record);
-    const std::optional<Plan> plan = FindOpponent(name)->choose(position, SeedOf(position));
+    Thinking thinking;
+    const std::optional<Plan> plan =
+        FindOpponent(name)->choose(position, SeedOf(position), thinking);
     if (!plan) {
         game.ports.dialogs.Tell("No good move!");
         return;

@@ -1,18 +1,11 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <span>
 #include <string_view>
 
-#include "core/plan.h"
-#include "core/position.h"
+#include "ai/chooser.h"
 
 namespace qarn {
-
-/// Decides what the side to move does in its turn; nothing when it finds nothing to do. The same
-/// position and seed give the same plan everywhere.
-using Chooser = std::optional<Plan> (*)(const Position& position, std::uint64_t seed);
 
 /// An opponent, by the name that it is chosen with.
 struct Opponent {

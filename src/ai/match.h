@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "ai/choice_times.h"
-#include "ai/choosers.h"
+#include "ai/chooser.h"
 #include "ai/match_game.h"
 #include "ai/pair_scores.h"
 

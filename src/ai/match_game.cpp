@@ -38,8 +38,9 @@ private:
 // What the chooser of the side to move does, as far as the rules let it.
 Plan Choose(const Position& position, Chooser choose, std::uint64_t seed, PlayerRecord& player) {
     const auto start = std::chrono::steady_clock::now();
-    const Plan plan = choose(position, seed).value_or(Plan{});
-    player.times.Add(std::chrono::steady_clock::now() - start);
+    Thinking thinking;
+    const Plan plan = choose(position, seed, thinking).value_or(Plan{});
+    player.times.Add(std::chrono::steady_clock::now() - start, thinking.positions);
     const Plan allowed = AllowedPart(position, plan);
     if (allowed != plan) ++player.refused;
     return allowed;

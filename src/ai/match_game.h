@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "ai/choice_times.h"
-#include "ai/choosers.h"
+#include "ai/chooser.h"
 #include "core/position.h"
 
 namespace qarn {

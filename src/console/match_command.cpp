@@ -45,14 +45,22 @@ std::string TimesText(const ChoiceTimes& times) {
     return text.str();
 }
 
+std::string SpeedText(const ChoiceTimes& times) {
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(0) << times.PositionsPerSecond();
+    return text.str();
+}
+
 void PrintHead(std::ostream& out, const MatchOptions& options) {
     out << "A: " << options.a->name << ", B: " << options.b->name << ". Won, drawn (cut off after "
         << options.mostTurns << " turns) and lost by A.\n"
         << "Score of A in %, and with games cut off judged by the strengths left, each with its 95 "
            "% interval.\n"
-        << "Milliseconds a choice of A and of B: median/95 %/worst.\n"
+        << "Milliseconds a choice of A and of B: median/95 %/worst; and positions evaluated a "
+           "second.\n"
         << "Scenario      Games     Won   Drawn    Lost               Score              Judged"
-           "   Turns/game                   ms of A                   ms of B\n";
+           "   Turns/game                   ms of A  Positions/s                   ms of B  "
+           "Positions/s\n";
 }
 
 void PrintRow(std::ostream& out, std::string_view head, const MatchTally& tally) {
@@ -60,8 +68,11 @@ void PrintRow(std::ostream& out, std::string_view head, const MatchTally& tally)
         << std::setw(8) << tally.won << std::setw(8) << tally.drawn << std::setw(8) << tally.lost
         << std::setw(20) << ShareText(tally.scores.Mean()) << std::setw(20)
         << ShareText(tally.judged.Mean()) << std::fixed << std::setprecision(2) << std::setw(13)
-        << TurnsPerGame(tally) << std::setw(26) << TimesText(tally.times[0]) << std::setw(26)
-        << TimesText(tally.times[1]) << '\n';
+        << TurnsPerGame(tally);
+    for (const ChoiceTimes& times : tally.times) {
+        out << std::setw(26) << TimesText(times) << std::setw(13) << SpeedText(times);
+    }
+    out << '\n';
 }
 
 void PrintRefused(std::ostream& out, const Opponent& opponent, long refused) {
@@ -108,7 +119,8 @@ Json PlayerJson(const MatchTally& tally, std::size_t player) {
     return {{"refused", tally.refused[player]},
             {"msMedian", times.Quantile(0.5).count()},
             {"ms95", times.Quantile(0.95).count()},
-            {"msWorst", times.Quantile(1).count()}};
+            {"msWorst", times.Quantile(1).count()},
+            {"positionsPerSecond", times.PositionsPerSecond()}};
 }
 
 Json TallyJson(std::string_view head, const MatchTally& tally) {

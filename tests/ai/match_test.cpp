@@ -13,10 +13,10 @@ namespace {
 
 // ---- Players ----
 
-std::optional<Plan> FindNothing(const Position&, std::uint64_t) { return std::nullopt; }
+std::optional<Plan> FindNothing(const Position&, std::uint64_t, Thinking&) { return std::nullopt; }
 
 // Marches with its whole side, wherever they stand, two squares to the right of the last of them.
-std::optional<Plan> Cheat(const Position& position, std::uint64_t) {
+std::optional<Plan> Cheat(const Position& position, std::uint64_t, Thinking&) {
     Plan plan{.kind = PlanKind::March};
     for (std::uint8_t i = 1; i <= peopleCount; ++i) {
         if (position.People[i].Side != position.bytTurn) continue;
@@ -31,7 +31,7 @@ std::optional<Plan> Cheat(const Position& position, std::uint64_t) {
 
 // Finds nothing a number of times, then attacks from column 9 or 10 of the last row the other.
 int turnsToPass = 0;
-std::optional<Plan> AttackLater(const Position& position, std::uint64_t) {
+std::optional<Plan> AttackLater(const Position& position, std::uint64_t, Thinking&) {
     if (turnsToPass-- > 0) return std::nullopt;
     const Square left{9, 10};
     const Square right{10, 10};
@@ -194,7 +194,8 @@ TEST(PairScores, GiveTheIntervalAndTheRatioWorkedOutByHand) {
 TEST(ChoiceTimes, TellTheMedianTheTailAndTheWorst) {
     ChoiceTimes times;
     EXPECT_EQ(times.Quantile(1).count(), 0);
-    for (int k = 0; k < 20; ++k) times.Add(ChoiceTimes::Milliseconds(1 + (7 * k) % 20));
+    for (int k = 0; k < 20; ++k) times.Add(ChoiceTimes::Milliseconds(1 + (7 * k) % 20), 30);
+    EXPECT_NEAR(times.PositionsPerSecond(), 20 * 30 / 0.210, 0.01);
     EXPECT_EQ(times.Quantile(0.5).count(), 10);
     EXPECT_EQ(times.Quantile(0.95).count(), 19);
     EXPECT_EQ(times.Quantile(1).count(), 20);

@@ -71,7 +71,8 @@ TEST(Turns, FightFairly) {
 std::optional<Plan> ChoiceOf(std::string_view opponent, const std::string& position,
                              std::uint64_t seed) {
     const PlayedGame played(position);
-    return FindOpponent(opponent)->choose(PositionOf(played.game.record), seed);
+    Thinking thinking;
+    return FindOpponent(opponent)->choose(PositionOf(played.game.record), seed, thinking);
 }
 
 TEST(Levels, ChooseTheSameForTheSameSeed) {

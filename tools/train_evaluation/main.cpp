@@ -70,7 +70,8 @@ private:
     int Die() { return static_cast<int>(chance_.Next() * 5) + 1; }
 
     Plan Choose(const Position& position) {
-        Search search(position, state_.weights);
+        Thinking thinking;
+        Search search(position, state_.weights, thinking);
         const std::vector<RatedTurn> turns = search.RateTurns(position);
         if (chance_.Next() >= explores) return turns.front().plan;
         return turns[static_cast<std::size_t>(chance_.Next() * static_cast<double>(turns.size()))]

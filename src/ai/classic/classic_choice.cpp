@@ -101,7 +101,7 @@ Path PathOf(const March& march) {
 
 }  // namespace
 
-std::optional<Plan> ChooseClassicMove(const Position& position, std::uint64_t) {
+std::optional<Plan> ChooseClassicMove(const Position& position, std::uint64_t, Thinking&) {
     const RankedSquares Targets = RankTargets(position, position.bytTurn);
     const RankedSquares Stacks = RankStacks(position, position.bytTurn);
     PathTable Paths;

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-
-#include "core/plan.h"
-#include "core/position.h"
+#include "ai/chooser.h"
 
 namespace qarn {
 
@@ -12,6 +8,7 @@ namespace qarn {
 /// attack promises enough, onto another stack of its side. Finds nothing when there is neither.
 /// Needs no chance, so the seed does not count. Throws EightBitOverflow when a sum of units passes
 /// 255.
-std::optional<Plan> ChooseClassicMove(const Position& position, std::uint64_t seed);
+std::optional<Plan> ChooseClassicMove(const Position& position, std::uint64_t seed,
+                                      Thinking& thinking);
 
 }  // namespace qarn

@@ -12,21 +12,23 @@ constexpr SearchWidth warlordsWidth{.replies = 12, .followUps = 4};
 
 }  // namespace
 
-std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed) {
+std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed,
+                                    Thinking& thinking) {
     UniformGenerator chance;
     chance.Seed(seed);
-    const std::vector<RatedTurn> turns = Search(position, learnedWeights).RateTurns(position);
+    Search search(position, learnedWeights, thinking);
+    const std::vector<RatedTurn> turns = search.RateTurns(position);
     if (chance.Next() >= errs) return turns.front().plan;
     const auto half = static_cast<double>((turns.size() + 1) / 2);
     return turns[static_cast<std::size_t>(chance.Next() * half)].plan;
 }
 
-std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t) {
-    return Search(position, learnedWeights).Best(position, captainsWidth).plan;
+std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t, Thinking& thinking) {
+    return Search(position, learnedWeights, thinking).Best(position, captainsWidth).plan;
 }
 
-std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t) {
-    return Search(position, learnedWeights).Best(position, warlordsWidth).plan;
+std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t, Thinking& thinking) {
+    return Search(position, learnedWeights, thinking).Best(position, warlordsWidth).plan;
 }
 
 }  // namespace qarn

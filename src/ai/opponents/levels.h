@@ -1,21 +1,20 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-
-#include "core/plan.h"
-#include "core/position.h"
+#include "ai/chooser.h"
 
 namespace qarn {
 
 /// Sees one turn ahead, and errs now and then as a beginner does: in one turn of eight it takes any
 /// of the better half.
-std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed);
+std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed,
+                                    Thinking& thinking);
 
 /// Sees the opponent's answer.
-std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t seed);
+std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t seed,
+                                      Thinking& thinking);
 
 /// Sees its own next turn beyond that.
-std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t seed);
+std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t seed,
+                                      Thinking& thinking);
 
 }  // namespace qarn

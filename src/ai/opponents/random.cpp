@@ -5,7 +5,7 @@
 
 namespace qarn {
 
-std::optional<Plan> ChooseRandomTurn(const Position& position, std::uint64_t seed) {
+std::optional<Plan> ChooseRandomTurn(const Position& position, std::uint64_t seed, Thinking&) {
     std::vector<Plan> turns;
     ListTurns(position, turns);
     UniformGenerator chance;

@@ -18,12 +18,12 @@ bool Rolls(const TurnOutcome& outcome) { return outcome.attack && outcome.attack
 
 }  // namespace
 
-Search::Search(const Position& position, const Weights& weights)
-    : distances_(DistancesFor(position)), weights_(weights) {}
+Search::Search(const Position& position, const Weights& weights, Thinking& thinking)
+    : distances_(DistancesFor(position)), weights_(weights), thinking_(thinking) {}
 
 // Worth to the side to move.
 float Search::Value(const Position& position) {
-    ++positions_;
+    ++thinking_.positions;
     return Evaluate(position, distances_, weights_);
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "ai/chooser.h"
 #include "ai/opponents/evaluation.h"
 #include "core/plan.h"
 #include "core/position.h"
@@ -27,16 +28,14 @@ struct SearchWidth {
 /// ordered and cut off by their value one ply ahead.)
 class Search {
 public:
-    Search(const Position& position, const Weights& weights);
+    /// Counts the positions in `thinking`.
+    Search(const Position& position, const Weights& weights, Thinking& thinking);
 
     /// All turns of the side to move, the best first, each by its value one ply ahead.
     std::vector<RatedTurn> RateTurns(const Position& position);
 
     /// The best turn with the answers of the opponent looked at as far as the width tells.
     RatedTurn Best(const Position& position, const SearchWidth& width);
-
-    /// The positions evaluated so far.
-    std::uint64_t Positions() const { return positions_; }
 
 private:
     float Value(const Position& position);
@@ -46,7 +45,7 @@ private:
 
     const Distances& distances_;
     const Weights& weights_;
-    std::uint64_t positions_ = 0;
+    Thinking& thinking_;
 };
 
 }  // namespace qarn
