@@ -9,9 +9,11 @@
 namespace qarn {
 namespace {
 
-// The position as it is when the side of the first of those on the square is to move.
+// The position as it is when the side of those on the square is to move: that of the first of them,
+// unless the side to move can set out from there.
 Position PositionInTurnOf(const GameRecord& record, Square square) {
     Position position = PositionOf(record);
+    if (AskStart(position, square) == StartRefusal::None) return position;
     const PeopleSet people = PeopleOn(position, square);
     if (!people.Empty()) position.bytTurn = position.People[people.First()].Side;
     return position;

@@ -18,6 +18,7 @@
 #include "scenarios/catalogue.h"
 #include "window/board_clicks.h"
 #include "window/buttons.h"
+#include "window/house_rules.h"
 #include "window/load_game.h"
 #include "window/menu_commands.h"
 #include "window/run_event.h"
@@ -80,10 +81,10 @@ void RequireUsable(bool enabled, bool visible, std::string_view name) {
     if (!enabled) throw Refusal(std::string(name) + " is disabled.");
 }
 
-const MenuCommand& RequireChoosable(const Controls& controls, const std::string& name) {
+const MenuCommand& RequireChoosable(const Game& game, const std::string& name) {
     const MenuCommand* command = FindMenuCommand(name);
     if (command == nullptr) throw Refusal("There is no menu item \"" + name + "\".");
-    if (!CanChoose(controls, *command)) throw Refusal(name + " can not be chosen now.");
+    if (!CanChoose(game, *command)) throw Refusal(name + " can not be chosen now.");
     return *command;
 }
 
@@ -102,10 +103,12 @@ Session::Session(const DesktopPorts& desktop)
     : game_{.record = {},
             .controls = {},
             .ports = {dialogs_, random_, help_, desktop.settings, desktop.fileTypes,
-                      desktop.folders}} {}
+                      desktop.folders}} {
+    LoadHouseRules(game_);
+}
 
 std::span<const Session::Command> Session::Commands() {
-    static constexpr std::array<Command, 17> commands{{
+    static constexpr std::array<Command, 18> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -118,6 +121,7 @@ std::span<const Session::Command> Session::Commands() {
         {"random", 1, anyNumber, false, &Session::QueueNumbers},
         {"seed", 1, 1, false, &Session::Seed},
         {"level", 1, 2, false, &Session::ChooseLevel},
+        {"house", 2, 2, false, &Session::ChooseHouseRule},
         {"saveas", 1, 1, true, &Session::SaveAs},
         {"state", 0, 0, false, &Session::ShowState},
         {"reach", 0, 2, true, &Session::AskReach},
@@ -225,7 +229,7 @@ void Session::SetTick(const std::string& word, bool ticked) {
 }
 
 void Session::ChooseMenu(const Words& words) {
-    const MenuCommand& command = RequireChoosable(game_.controls, words[1]);
+    const MenuCommand& command = RequireChoosable(game_, words[1]);
     Run(std::string(command.Name) + "_Click", command.Click);
 }
 
@@ -271,9 +275,23 @@ void Session::ChooseLevel(const Words& words) {
     if (side != 1) game_.opponent[2] = opponent->name;
 }
 
+void Session::ChooseHouseRule(const Words& words) {
+    RequireRunning();
+    const auto rules = AllHouseRules();
+    const auto rule = std::find_if(rules.begin(), rules.end(),
+                                   [&](const HouseRule& one) { return one.Name == words[1]; });
+    if (rule == rules.end()) throw Refusal("There is no house rule \"" + words[1] + "\".");
+    if (words[2] != "on" && words[2] != "off") {
+        throw Refusal("A house rule is on or off, not \"" + words[2] + "\".");
+    }
+    const MenuCommand& item = RequireChoosable(game_, std::string(rule->Item));
+    Run(std::string(item.Name) + "_Click",
+        [&](Game& game) { qarn::ChooseHouseRule(game, *rule, words[2] == "on"); });
+}
+
 void Session::SaveAs(const Words& words) {
     const std::string path = AbsolutePath(words[1]);
-    const MenuCommand& mnuSaveAs = RequireChoosable(game_.controls, "mnuSaveAs");
+    const MenuCommand& mnuSaveAs = RequireChoosable(game_, "mnuSaveAs");
     dialogs_.SetSaveFileName(path);
     Run("mnuSaveAs_Click", mnuSaveAs.Click);
 }

@@ -60,6 +60,7 @@ private:
     void QueueNumbers(const Words& words);
     void Seed(const Words& words);
     void ChooseLevel(const Words& words);
+    void ChooseHouseRule(const Words& words);
     void SaveAs(const Words& words);
     void ShowState(const Words& words);
     void AskReach(const Words& words);

@@ -3,6 +3,7 @@
 #include "console/answers_json.h"
 #include "console/happenings_json.h"
 #include "core/board_display.h"
+#include "window/house_rules.h"
 
 namespace qarn {
 namespace {
@@ -178,6 +179,9 @@ nlohmann::ordered_json StateJson(const CommandOutcome& outcome, const Game& game
     if (game.blnOpen) AddGame(object, game);
     object["happenings"] = HappeningsJson(outcome.happenings);
     object["level"] = FromIndex1(game.opponent);
+    for (const HouseRule& rule : AllHouseRules()) {
+        object["house"][std::string(rule.Name)] = game.record.house.*rule.Chosen;
+    }
     AddAnswers(object, outcome.answers);
     return object;
 }

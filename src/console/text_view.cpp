@@ -114,6 +114,7 @@ void PrintHelp(std::ostream& out) {
   random R...      numbers from 0 to below 1 for the next draws
   seed N           the seed of the numbers after these
   level NAME [SIDE] who plays the computer's sides: classic, scout, captain or warlord
+  house NAME on|off  a house rule: ownGroups, oneTurnForBurning
   state            show the board again
   help             show this again
   close            save and end          quit   end without saving

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/group.h"
+#include "core/house_rules.h"
 #include "core/path.h"
 #include "core/people_set.h"
 #include "core/square.h"
@@ -66,6 +67,7 @@ struct GameRecord {
     /// scenario's setup names another one.
     bool blnFortressBurns = true;
     std::array<PeopleRecord, peopleCount + 1> People;
+    HouseRules house;  ///< the person's choice, which no file holds
 
     std::uint8_t bytCurrentX = 0, bytCurrentY = 0;  ///< the square last clicked
     std::uint8_t bytClickX = 0, bytClickY = 0;      ///< the click last given to a move or an attack

@@ -13,6 +13,7 @@ Position PositionOf(const GameRecord& record) {
     }
     position.bytTurn = record.bytTurn;
     position.blnFortressBurns = record.blnFortressBurns;
+    position.house = record.house;
     return position;
 }
 

@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "core/group.h"
+#include "core/house_rules.h"
 #include "core/people_set.h"
 #include "core/square.h"
 
@@ -20,6 +21,7 @@ struct Position {
     std::array<TerrainValues, terrainKindCount> TerrainKinds{};
     std::uint8_t bytTurn = 0;       ///< the side to move
     bool blnFortressBurns = false;  ///< the fortress is one that can be burned down
+    HouseRules house;
 };
 static_assert(std::is_trivially_copyable_v<Position> && sizeof(Position) < 640);
 

@@ -10,6 +10,7 @@
 #include "rules/check_boxes.h"
 #include "rules/end_move.h"
 #include "rules/questions/casualties.h"
+#include "rules/questions/start.h"
 
 namespace qarn {
 namespace {
@@ -31,8 +32,9 @@ void DisableTransportBoxes(Game& game) {
 
 bool StartCasualtyChoice(Game& game) {
     GameRecord& record = game.record;
-    const SquareList attackers = LocationOfPeople(record, record.bytAnchorX, record.bytAnchorY);
-    if (attackers.bytTotalPeople == 0) return false;
+    const Position position = PositionOf(record);
+    const PeopleSet attackers = ListedOn(position, {record.bytAnchorX, record.bytAnchorY});
+    if (CharactersOf(position, attackers).Empty()) return false;
 
     record.blnMoveMode = false;
     record.blnCasualtyPending = true;

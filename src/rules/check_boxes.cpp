@@ -1,18 +1,15 @@
 #include "rules/check_boxes.h"
 
-#include <algorithm>
-
 #include "core/game.h"
 
 namespace qarn {
 
-void ListInCheckBoxes(Game& game, const SquareList& people, bool ticked) {
+void ListInCheckBoxes(Game& game, PeopleSet people, bool ticked) {
     GameRecord& record = game.record;
     HideCheckBoxes(game.controls);
-    record.bytListedCount =
-        std::min(people.bytNumberofPeople, static_cast<std::uint8_t>(checkBoxCount));
-    for (std::size_t box = 1; box <= record.bytListedCount; ++box) {
-        const std::uint8_t i = people.bytPeopleNumbers[box];
+    record.bytListedCount = 0;
+    for (const std::uint8_t i : people) {
+        const std::size_t box = ++record.bytListedCount;
         record.bytListedPeople[box] = i;
         game.controls.chkItems[box] = {
             .Caption = record.People[i].Code, .Enabled = true, .Visible = true, .Value = ticked};

@@ -11,6 +11,7 @@
 #include "rules/end_move.h"
 #include "rules/questions/attack.h"
 #include "rules/questions/odds.h"
+#include "rules/questions/sides.h"
 #include "rules/terrain.h"
 #include "rules/texts.h"
 
@@ -33,6 +34,11 @@ void Refuse(Game& game, AttackRefusal refusal) {
             Status(game, game.record.blnAttackerChosen
                              ? "You can not attack an inanimate thing."
                              : "Inanimate things can not attack another thing.");
+            break;
+        case AttackRefusal::WrongSide:
+            Status(game, game.record.blnAttackerChosen
+                             ? "You can only attack your opponent's groups."
+                             : "You can only attack with your own groups.");
             break;
         case AttackRefusal::Barred:
             Status(game, "You can not attack that square due to geographical barriers.");
@@ -130,19 +136,20 @@ Attacked DescribeAttack(const GameRecord& record, bool blnDirect, Square S) {
             .threshold = record.bytThreshold};
 }
 
-void BurnDown(Game& game, bool blnDirect, Square S, Terrain ruins, AttackResult& bytResult) {
+void BurnDown(Game& game, bool blnDirect, Square S, const AttackAnswer& target,
+              AttackResult& bytResult) {
     GameRecord& record = game.record;
     const bool fortress = record.bytTerrain[S.X][S.Y] == Fortress;
-    record.bytTerrain[S.X][S.Y] = ruins;
+    record.bytTerrain[S.X][S.Y] = target.ruins;
     PaintSquare(game, S.X, S.Y);
     game.happenings.emplace_back(DescribeAttack(record, blnDirect, S));
-    game.happenings.emplace_back(Burned{S, ruins});
+    game.happenings.emplace_back(Burned{S, target.ruins});
     game.ports.dialogs.Tell(fortress ? "You have burned down Gallowrock."
                                      : "You have burned down the Abbey.");
     cmdAttack_Click(game);
     bytResult = AttackResult::Won;
     record.blnAttackWon = true;
-    ShowTurn(game, true);
+    ShowTurn(game, !target.turnStays);
 }
 
 void ShowOdds(Game& game) {
@@ -179,7 +186,7 @@ AttackResult Roll(Game& game, bool blnDirect, Square S) {
 
 void EliminateDefenders(Game& game, Square S) {
     const Position position = PositionOf(game.record);
-    EliminateAll(game, CharactersOf(position, PeopleOn(position, S)));
+    EliminateAll(game, CharactersOf(position, DefendersOf(position, PeopleOn(position, S))));
     CountPeople(game);
 }
 
@@ -224,7 +231,7 @@ void AttackTarget(Game& game, bool blnDirect, Square S, AttackResult& bytResult)
         Status(game, "Your attack units can not penetrate your enemy's defense.");
     } else {
         if (target.burns) {
-            BurnDown(game, blnDirect, S, target.ruins, bytResult);
+            BurnDown(game, blnDirect, S, target, bytResult);
             return;
         }
         ShowOdds(game);

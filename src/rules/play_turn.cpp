@@ -7,6 +7,7 @@
 #include "rules/questions/attack.h"
 #include "rules/questions/casualties.h"
 #include "rules/questions/odds.h"
+#include "rules/questions/sides.h"
 #include "rules/questions/start.h"
 #include "rules/questions/step.h"
 
@@ -119,7 +120,7 @@ private:
             .threshold = static_cast<std::uint8_t>(ThresholdOf(attack.attackUnits, defense))};
         if (attack.burns) {
             position_.bytTerrain[to.X][to.Y] = attack.ruins;
-            PassTurn(position_);
+            if (!attack.turnStays) PassTurn(position_);
             return false;
         }
         return Roll(to);
@@ -130,7 +131,7 @@ private:
         attack.roll = dice_.roll;
         attack.result = ResultOfRoll(dice_.roll, attack.threshold);
         if (attack.result == AttackResult::Won) {
-            Lose(CharactersOf(position_, PeopleOn(position_, to)));
+            Lose(CharactersOf(position_, DefendersOf(position_, PeopleOn(position_, to))));
             if (IsOver()) return false;
             attack.secondRoll = dice_.secondRoll;
             return dice_.secondRoll == rollThatCosts;

@@ -46,7 +46,8 @@ void ChooseStart(Game& game) {
     record.blnMoveUnderWay = true;
 
     const Square start{record.bytStartX, record.bytStartY};
-    switch (AskStart(PositionOf(record), start)) {
+    const Position position = PositionOf(record);
+    switch (AskStart(position, start)) {
         case StartRefusal::NobodyThere:
             RefuseStart(game, "There is no one here." + pickStart);
             break;
@@ -58,7 +59,7 @@ void ChooseStart(Game& game) {
             break;
         case StartRefusal::None:
             Status(game, "Choose the item(s) you would like to move.");
-            ListInCheckBoxes(game, LocationOfPeople(record, start.X, start.Y), true);
+            ListInCheckBoxes(game, ListedOn(position, start), true);
             game.controls.SetFocus = Control::chkFirst;
             record.blnMoveMode = false;
             record.blnChoosing = true;

@@ -90,7 +90,7 @@ void FrmGame::ShowWidgets() {
     setWindowTitle(ToQt(game_.controls.Caption));
     board_->BringUpToDate();
     panel_.Show(game_);
-    menus_.Show(game_.controls);
+    menus_.Show(game_);
     if (game_.blnOpen && isHidden()) {
         show();
         activateWindow();
@@ -124,7 +124,7 @@ void FrmGame::End() {
 }
 
 void FrmGame::Choose(const MenuCommand& command) {
-    if (!CanChoose(game_.controls, command)) return;
+    if (!CanChoose(game_, command)) return;
     Run(std::string(command.Name) + "_Click", command.Click);
 }
 

@@ -12,11 +12,21 @@ bool IsVisible(const Controls& controls, const MenuCommand& command) {
     return command.State == nullptr || (controls.*command.State).Visible;
 }
 
+// The menu that `holder`, the bar or a menu, holds last if it has this caption, else a new one.
+template <typename Holder>
+QMenu* LastMenuOf(Holder* holder, std::string_view caption) {
+    const QList<QAction*> actions = holder->actions();
+    QMenu* last = actions.isEmpty() ? nullptr : actions.last()->menu();
+    const bool same = last != nullptr && last->title() == ToQt(caption);
+    return same ? last : holder->addMenu(ToQt(caption));
+}
+
 // A menu is there while one of its items is, and opens while one of them can be chosen.
 void ShowMenu(QMenu* menu) {
     bool visible = false;
     bool enabled = false;
     for (const QAction* action : menu->actions()) {
+        if (action->menu() != nullptr) ShowMenu(action->menu());
         if (action->isSeparator() || !action->isVisible()) continue;
         visible = true;
         enabled = enabled || action->isEnabled();
@@ -29,16 +39,19 @@ void ShowMenu(QMenu* menu) {
 
 GameMenus::GameMenus(QMenuBar* bar, std::function<void(const MenuCommand&)> choose)
     : bar_(bar), choose_(std::move(choose)) {
-    QMenu* menu = nullptr;
     for (const MenuCommand& command : MenuCommands()) {
-        const QString caption = ToQt(command.Menu);
-        if (menu == nullptr || menu->title() != caption) menu = bar->addMenu(caption);
+        QMenu* menu = MenuOf(command);
         if (command.Name.empty()) {
             menu->addSeparator();
         } else {
             items_.push_back({&command, MakeAction(menu, command)});
         }
     }
+}
+
+QMenu* GameMenus::MenuOf(const MenuCommand& command) {
+    QMenu* menu = LastMenuOf(bar_, command.Menu);
+    return command.Submenu.empty() ? menu : LastMenuOf(menu, command.Submenu);
 }
 
 QAction* GameMenus::MakeAction(QMenu* menu, const MenuCommand& command) {
@@ -50,12 +63,12 @@ QAction* GameMenus::MakeAction(QMenu* menu, const MenuCommand& command) {
     return action;
 }
 
-void GameMenus::Show(const Controls& controls) {
+void GameMenus::Show(const Game& game) {
     for (const Item& item : items_) {
-        item.action->setVisible(IsVisible(controls, *item.command));
-        item.action->setEnabled(CanChoose(controls, *item.command));
+        item.action->setVisible(IsVisible(game.controls, *item.command));
+        item.action->setEnabled(CanChoose(game, *item.command));
         if (item.action->isCheckable()) {
-            item.action->setChecked((controls.*item.command->State).Checked);
+            item.action->setChecked(IsTicked(game, *item.command));
         }
     }
     for (const QAction* menu : bar_->actions()) ShowMenu(menu->menu());

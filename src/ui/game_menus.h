@@ -15,7 +15,7 @@ public:
     GameMenus(QMenuBar* bar, std::function<void(const MenuCommand&)> choose);
 
     /// Brings check marks, enabled and visible states up to date.
-    void Show(const Controls& controls);
+    void Show(const Game& game);
 
 private:
     struct Item {
@@ -23,6 +23,7 @@ private:
         QAction* action;
     };
 
+    QMenu* MenuOf(const MenuCommand& command);
     QAction* MakeAction(QMenu* menu, const MenuCommand& command);
 
     QMenuBar* bar_;

@@ -13,6 +13,7 @@
 #include "scenarios/setup.h"
 #include "shell/file_commands.h"
 #include "shell/user_settings.h"
+#include "window/house_rules.h"
 
 namespace qarn {
 namespace {
@@ -32,6 +33,7 @@ void ClearGame(Game& game) {
     game.controls = Controls();
     game.controls.mnuAbout = mnuAbout;
     LoadSummarySetting(game);
+    LoadHouseRules(game);
     LoadFileTypeMark(game);
     game.ports.random.Seed();
     ClearBoard(game);
@@ -189,6 +191,7 @@ void Form_Load(Game& game, const std::string& strGamePath) {
     DrawBoard(game);
     game.blnOpen = true;
     StartTurns(game);
+    TellHouseRules(game);
     TellUnknownScenario(game);
 }
 

@@ -12,6 +12,7 @@
 #include "shell/item_details.h"
 #include "shell/user_settings.h"
 #include "window/board_clicks.h"
+#include "window/house_rules.h"
 #include "window/load_game.h"
 #include "window/save_game.h"
 
@@ -22,9 +23,21 @@ constexpr std::string_view fileMenu = "&File";
 constexpr std::string_view detailsMenu = "&Details";
 constexpr std::string_view toolsMenu = "&Tools";
 constexpr std::string_view optionsMenu = "&Options";
+constexpr std::string_view playMenu = "&Play";
 constexpr std::string_view helpMenu = "&Help";
 
+constexpr std::string_view houseRulesMenu = "House &Rules";
+
 constexpr bool checkable = true;
+
+// The File menu rests while a move or an attack is under way.
+bool IsBetweenMoves(const Game& game) { return game.controls.File.Enabled; }
+
+constexpr MenuCommand HouseRuleItem(std::string_view name, std::string_view caption,
+                                    void (*click)(Game&), bool (*ticked)(const Game&)) {
+    return {playMenu,  name,           caption,        "",    click, nullptr,
+            checkable, houseRulesMenu, IsBetweenMoves, ticked};
+}
 
 constexpr std::array menuCommands{
     MenuCommand{fileMenu, "New", "&New...", "Ctrl+N", New_Click},
@@ -47,6 +60,10 @@ constexpr std::array menuCommands{
                 mnuDefaultFilepath_Click},
     MenuCommand{optionsMenu, "mnuTGF", "Add and Remove the &TGF Filetype", "", mnuTGF_Click,
                 &Controls::mnuTGF, checkable},
+    HouseRuleItem("mnuOwnGroupsOnly", "&Own Groups Only", mnuOwnGroupsOnly_Click,
+                  [](const Game& game) { return game.record.house.ownGroupsOnly; }),
+    HouseRuleItem("mnuOneTurnForABurning", "One &Turn for a Burning", mnuOneTurnForABurning_Click,
+                  [](const Game& game) { return game.record.house.oneTurnForABurning; }),
     MenuCommand{helpMenu, "mnuGetStarted", "&Getting Started", "", mnuGetStarted_Click},
     MenuCommand{helpMenu, "mnuHelp", "&Help", "F1", mnuHelp_Click},
     MenuCommand{helpMenu, "", "", "", nullptr},
@@ -141,11 +158,17 @@ const MenuCommand* FindMenuCommand(std::string_view name) {
     return found == menuCommands.end() ? nullptr : &*found;
 }
 
-bool CanChoose(const Controls& controls, const MenuCommand& command) {
-    if (command.Menu == fileMenu && !controls.File.Enabled) return false;
+bool CanChoose(const Game& game, const MenuCommand& command) {
+    if (command.Menu == fileMenu && !IsBetweenMoves(game)) return false;
+    if (command.Offered != nullptr && !command.Offered(game)) return false;
     if (command.State == nullptr) return true;
-    const MenuState& state = controls.*command.State;
+    const MenuState& state = game.controls.*command.State;
     return state.Enabled && state.Visible;
+}
+
+bool IsTicked(const Game& game, const MenuCommand& command) {
+    return command.Ticked != nullptr ? command.Ticked(game)
+                                     : (game.controls.*command.State).Checked;
 }
 
 }  // namespace qarn

@@ -60,6 +60,10 @@ struct MenuCommand {
     /// menu is.
     MenuState Controls::*State = nullptr;
     bool Checkable = false;  ///< shows a check mark while its state is checked
+    /// The caption of the submenu of its menu that holds it; empty: none.
+    std::string_view Submenu = {};
+    bool (*Offered)(const Game&) = nullptr;  ///< whether it can be chosen now; null: always
+    bool (*Ticked)(const Game&) = nullptr;   ///< whether it is checked, of one without a state
 };
 
 /// All items, menu by menu, in their order.
@@ -68,7 +72,10 @@ std::span<const MenuCommand> MenuCommands();
 /// The item with this name; null when there is none.
 const MenuCommand* FindMenuCommand(std::string_view name);
 
-/// True when a person can choose the item as the controls now stand.
-bool CanChoose(const Controls& controls, const MenuCommand& command);
+/// True when a person can choose the item as the game now stands.
+bool CanChoose(const Game& game, const MenuCommand& command);
+
+/// True when the item, one that shows check marks, shows one now.
+bool IsTicked(const Game& game, const MenuCommand& command);
 
 }  // namespace qarn

@@ -23,9 +23,10 @@ namespace {
 // and beside that on a position, and compares what comes of both.
 class TwoGames {
 public:
-    TwoGames(int scenario, unsigned seed) : chance_(seed) {
+    TwoGames(int scenario, unsigned seed, HouseRules house) : chance_(seed) {
         played_.Load(std::string(NamesOfScenario(scenario).Code) + " turn1");
         played_.game.record.blnComputer = {false, true, true};
+        played_.game.record.house = house;
         BringTogether();
     }
 
@@ -141,6 +142,7 @@ private:
             std::vector<Plan> turns;
             ListTurns(position_, turns);
             plan = OneOf(turns);
+            EXPECT_EQ(AllowedPart(position_, plan), plan);
             chosenFor_ = {};
         } else if (AskStart(position_, plan.start) == StartRefusal::None) {
             plan = RandomMarch(plan.start);
@@ -243,13 +245,15 @@ private:
     std::map<std::string, int> kinds_;
 };
 
-TEST(PlayTurn, DoesWhatTheHandlersDo) {
+class PlayTurnByHouseRules : public testing::TestWithParam<HouseRules> {};
+
+TEST_P(PlayTurnByHouseRules, DoesWhatTheHandlersDo) {
     int turns = 0;
     std::map<std::string, int> kinds;
     for (unsigned seed = 1; turns < 60000; ++seed) {
         const int scenario = 1 + static_cast<int>(seed % scenarioCount);
         SCOPED_TRACE("seed " + std::to_string(seed));
-        TwoGames games(scenario, seed);
+        TwoGames games(scenario, seed, GetParam());
         for (int turn = 0; turn < 100 && !games.IsOver(); ++turn, ++turns) {
             SCOPED_TRACE("turn " + std::to_string(turn));
             games.PlayTurnInBoth();
@@ -264,6 +268,9 @@ TEST(PlayTurn, DoesWhatTheHandlersDo) {
         EXPECT_GE(kinds[kind], 10) << kind;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Rows, PlayTurnByHouseRules,
+                         testing::Values(HouseRules{}, HouseRules{true, true}));
 
 TEST(AllowedPart, LeavesOutWhatTheRulesRefuse) {
     const PlayedGame played("Q@9,10 BT@9,10 Z@11,10");

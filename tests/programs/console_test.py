@@ -13,7 +13,7 @@ PAGE = os.path.join(os.path.dirname(__file__), "../../docs/protocol.md")
 NEW = "new g.tgf HM Red human Blue human"
 KEYS = """ok error boxes help ended open caption record squares buttons terrainKey chkItems menus
     lblStatus lblDetailMore lblSummary lblTerrainDescription fraQuickDetails shpHighlight tmrAI
-    blnAIBusy happenings level""".split()
+    blnAIBusy happenings level house""".split()
 RECORD_KEYS = """bytScenario bytTurn strPlayerName blnComputer bytPeopleLeft strGameName strGamePath
     bytCurrentX bytCurrentY blnMoveMode blnAttackMode blnDetailsMode bytMobilityLeft
     bytSelectedPeople bytTerrain People""".split()
@@ -22,7 +22,8 @@ ACCEPTED = """seed 18446744073709551615; random 0 0.99 1e-3; answer yes no retry
     new h.tgf SB A human B human; open saved.tgf; press cmdMove; click 9 10; untick 1; tick 1;
     press cmdDoneSel; press cmdSquareDetails; click 18 1; press cmdSeeTerDet(0);
     menu mnuPeopleDetails; menu mnuHelp; press cmdMove; press cmdAttack; press cmdAttack;
-    saveas other.tgf; timer; timer 3; reach 9 10; odds 9 10 10 10; state; close"""
+    saveas other.tgf; timer; timer 3; reach 9 10; odds 9 10 10 10;
+    house ownGroups off; state; close"""
 REFUSED_WITHOUT_GAME = """click 1 1; press cmdMove; tick 1; untick 1; menu mnuSave; timer;
     saveas x.tgf; reach; reach 1 1; odds 1 1 1 2; close"""
 REFUSED = """nonsense; Click 1 1; click 0 1; click 19 1; click 1 11; click 1; click 1 1 1;
@@ -31,7 +32,7 @@ REFUSED = """nonsense; Click 1 1; click 0 1; click 19 1; click 1 11; click 1; cl
     menu mnuNothing; menu File; timer 0; timer -1; answer; answer ok; answer yes maybe; random;
     random 1; random -0.1; random nan; random 0.5 x; seed; seed -1; seed 18446744073709551616;
     reach; reach 1; reach 1 1; reach 19 1; reach 14 7 1; odds 14 7; odds 14 7 14 11;
-    saveas ""; open ""; open; state now; help; quit now; click "1 1; new n.tgf HM A human B;
+    house ownGroups; house ownGroups yes; house nothing on; saveas ""; open ""; open; state now; help; quit now; click "1 1; new n.tgf HM A human B;
     new n.tgf hm A human B human; new n.tgf HM A man B human; new none/n.tgf HM A human B human;
     new n.tgf HM Łucja human B human; new n.tgf HM \udcff human B human;
     new n.tgf HM """ + 55 * "A" + " human B human"
@@ -81,7 +82,7 @@ class ConsoleTest(unittest.TestCase):
         objects = self.play("random 0", "# a comment", "", NEW, "press cmdMove", "click 14 7",
                             "press cmdDoneSel", "  state  ")
         self.assertEqual(len(objects), 6)
-        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings", "level"])
+        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings", "level", "house"])
         last = objects[4]
         self.assertEqual({**last, "happenings": []}, objects[5])
         self.assertEqual((list(last), list(last["record"])), (KEYS, RECORD_KEYS))
@@ -135,7 +136,8 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(len(self.play(NEW, "quit", "state")), 1)
         self.assertEqual(self.play(NEW, "close", "click 1 1")[1:], [
             {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False,
-             "happenings": [], "level": ["classic", "classic"]} for error in ("", "The program has ended.")])
+             "happenings": [], "level": ["classic", "classic"],
+             "house": {"ownGroups": False, "oneTurnForBurning": False}} for error in ("", "The program has ended.")])
         for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"],
                           ["--match", "classic", "nobody"]):
             run = self.run_program("", *arguments)
@@ -210,6 +212,15 @@ class ConsoleTest(unittest.TestCase):
         self.assertNotIn("No good move!", [box["text"] for box in boxes])
         self.assertGreater(happened.count("turn"), 20)
         self.assertEqual(happened[-1], "end")
+
+    def test_house_rules_are_kept_and_told(self):
+        self.addCleanup(self.play, "house ownGroups off")
+        on = {"ownGroups": True, "oneTurnForBurning": False}
+        self.assertEqual(self.play("house ownGroups on")[0]["house"], on)
+        *_, last = self.play("random 0", "state", NEW, "press cmdMove", "house ownGroups off")
+        self.assertEqual((last["house"], last["ok"]), (on, False))
+        self.assertEqual(_[1]["house"], on)
+        self.assertEqual(_[2]["lblStatus"], "It is Red's turn.\nHouse rules: own groups only.")
 
     def test_same_seed_same_game(self):
         def attacks(seed):

@@ -115,7 +115,7 @@ bool PlayedGame::Do(const std::string& command) {
     } else if (verb == "menu") {
         words >> name;
         const MenuCommand* item = FindMenuCommand(name);
-        if (item == nullptr || !CanChoose(game.controls, *item)) return false;
+        if (item == nullptr || !CanChoose(game, *item)) return false;
         RunEvent(game, name, item->Click);
     } else if (verb == "saveas") {
         words >> name;

@@ -6,37 +6,44 @@
 namespace qarn {
 namespace {
 
+// The items of a menu, those of its submenus two blanks to the right.
+std::string ItemsOf(const QList<QAction*>& items, const std::string& margin = "") {
+    std::string text;
+    for (const QAction* item : items) {
+        text += margin + (item->isSeparator() ? "--"
+                                              : item->text().toStdString() + "  " +
+                                                    item->shortcut().toString().toStdString());
+        text += item->isVisible() ? "\n" : "  (hidden)\n";
+        if (item->menu() != nullptr) text += ItemsOf(item->menu()->actions(), margin + "  ");
+    }
+    return text;
+}
+
 TEST_F(GameWindow, HasItsMenus) {
     Open("Q@9,5 WA@17,2");
-    std::string text;
-    for (const QAction* menu : window->menuBar()->actions()) {
-        text += menu->text().toStdString() + "\n";
-        for (const QAction* item : menu->menu()->actions()) {
-            text += item->isSeparator() ? "  --"
-                                        : "  " + item->text().toStdString() + "  " +
-                                              item->shortcut().toString().toStdString();
-            text += item->isVisible() ? "\n" : "  (hidden)\n";
-        }
-    }
-    EXPECT_EQ(text, R"(&File
+    EXPECT_EQ(ItemsOf(window->menuBar()->actions()), R"(&File  
   &New...  Ctrl+N
   &Open...  Ctrl+O
   &Save  Ctrl+S
   Save &As...  F12
   --
   E&xit  Ctrl+X
-&Details
+&Details  
   &Details  Ctrl+D
   &Item Details  Ctrl+I
   Summary &Terrain Details  Ctrl+T
-&Tools
+&Tools  
   &Replay  Ctrl+R
   &Convert File    (hidden)
-&Options
+&Options  
   &Display Summary  
   Default &Filepath  
   Add and Remove the &TGF Filetype  
-&Help
+&Play  
+  House &Rules  
+    &Own Groups Only  
+    One &Turn for a Burning  
+&Help  
   &Getting Started  
   &Help  F1
   --
@@ -52,6 +59,7 @@ TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
     EXPECT_FALSE(file->isEnabled());
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(ReadFile(path), saved);
+    EXPECT_FALSE(MenuItem("mnuOwnGroupsOnly")->isEnabled());
 
     ClickSquare(9, 5);
     Key(Qt::Key_S, Qt::AltModifier);
@@ -69,20 +77,21 @@ TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
 
 TEST_F(GameWindow, ShowsCheckMarksInItsMenus) {
     Open("Q@9,5 WA@17,2");
-    const std::vector<const char*> items{"mnuPeopleDetails", "mnuSummary", "mnuTGF"};
+    const std::vector<const char*> items{"mnuPeopleDetails", "mnuSummary", "mnuTGF",
+                                         "mnuOwnGroupsOnly", "mnuOneTurnForABurning"};
     const auto marks = [&] {
         std::string text;
         for (const char* item : items) text += MenuItem(item)->isChecked() ? 'x' : '-';
         return text;
     };
-    EXPECT_EQ(marks(), "-x-");
+    EXPECT_EQ(marks(), "-x---");
     std::string after;
     AnswerBoxes({Qt::Key_Return});
     for (const char* item : items) {
         MenuItem(item)->trigger();
         after += marks() + " ";
     }
-    EXPECT_EQ(after, "xx- x-- x-x ");
+    EXPECT_EQ(after, "xx--- x---- x-x-- x-xx- x-xxx ");
     for (const QAction* action : window->findChildren<QAction*>()) {
         const bool checkable =
             std::find(items.begin(), items.end(), action->objectName()) != items.end();

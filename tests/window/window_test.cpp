@@ -27,6 +27,23 @@ TEST(MenuCommands, HelpTopics) {
     EXPECT_FALSE(played.Do("menu mnusave") || played.Do("menu"));
 }
 
+TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
+    PlayedGame played("HM");
+    EXPECT_TRUE(played.Do("menu mnuOneTurnForABurning") && played.Do("menu mnuOwnGroupsOnly"));
+    EXPECT_EQ(played.game.controls.lblStatus.Caption, "It is Red's turn.");
+    played.Open();
+    EXPECT_EQ(played.game.record.house, (HouseRules{true, true}));
+    EXPECT_EQ(played.game.controls.lblStatus.Caption,
+              "It is Red's turn.\nHouse rules: own groups only, one turn for a burning.");
+    EXPECT_TRUE(played.Do("menu mnuOneTurnForABurning"));
+    played.settings.writeError = "No space left on device";
+    EXPECT_TRUE(played.Do("menu mnuOwnGroupsOnly"));
+    EXPECT_EQ(played.dialogs.boxes.back().Text,
+              "The setting can not be stored: No space left on device");
+    played.Open();
+    EXPECT_EQ(played.game.record.house, (HouseRules{true, false}));
+}
+
 TEST(MenuCommands, ConvertFile) {
     PlayedGame played("older9");
     std::string walked;

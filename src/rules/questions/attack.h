@@ -13,15 +13,17 @@ enum class AttackRefusal : std::uint8_t {
     NotAdjacent,  ///< the target is no neighbour of it
     NobodyThere,  ///< nobody stands there, and it is no landmark to be attacked
     Inanimate,    ///< only things without attack units stand there
+    WrongSide,    ///< the attackers are not those of the side to move, or the attacked are
     Barred,       ///< by the terrain of the target
 };
 
 /// What an attack would set against each other.
 struct AttackAnswer {
     AttackRefusal refusal = AttackRefusal::None;
-    std::uint8_t attackUnits = 0;   ///< of everybody on the attacking square
-    std::uint8_t defenseUnits = 0;  ///< of everybody on the target, its terrain included
+    std::uint8_t attackUnits = 0;   ///< of those who act on the attacking square
+    std::uint8_t defenseUnits = 0;  ///< of those attacked, the terrain included
     bool burns = false;             ///< the target burns down, without a roll
+    bool turnStays = false;         ///< ... and the turn stays until the move is ended
     Terrain ruins = Plain;          ///< what it then is
 };
 

@@ -1,6 +1,7 @@
 #include "rules/questions/start.h"
 
 #include "core/game_record.h"
+#include "rules/questions/sides.h"
 
 namespace qarn {
 
@@ -8,13 +9,14 @@ StartRefusal AskStart(const Position& position, Square square) {
     const PeopleSet people = PeopleOn(position, square);
     if (people.Empty()) return StartRefusal::NobodyThere;
     if (CharactersOf(position, people).Empty()) return StartRefusal::OnlyTransports;
-    const bool own = position.People[people.First()].Side == position.bytTurn;
+    const PeopleSet actors = ActorsOf(position, people);
+    const bool own = !actors.Empty() && position.People[actors.First()].Side == position.bytTurn;
     return own ? StartRefusal::None : StartRefusal::OpponentsPieces;
 }
 
 PeopleSet ListedOn(const Position& position, Square square) {
     PeopleSet listed;
-    for (const std::uint8_t i : PeopleOn(position, square)) {
+    for (const std::uint8_t i : ActorsOf(position, PeopleOn(position, square))) {
         if (listed.Count() < checkBoxCount) listed.Add(i);
     }
     return listed;

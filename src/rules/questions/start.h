@@ -11,14 +11,14 @@ enum class StartRefusal : std::uint8_t {
     None,
     NobodyThere,
     OnlyTransports,
-    OpponentsPieces,  ///< the first of those who stand there is the opponent's
+    OpponentsPieces,  ///< the first of those who could act there is the opponent's, or nobody could
 };
 
 /// Whether a move of the side to move can start on the square.
 StartRefusal AskStart(const Position& position, Square square);
 
-/// The people of a square whom the check boxes list, the first eleven: who can be chosen to move,
-/// or to have died.
+/// Those who act on a square whom the check boxes list, the first eleven: who can be chosen to
+/// move, or to have died.
 PeopleSet ListedOn(const Position& position, Square square);
 
 }  // namespace qarn
