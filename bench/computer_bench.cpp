@@ -9,7 +9,6 @@
 #include <chrono>
 #include <vector>
 
-#include "ai/choose_move.h"
 #include "ai/self_play.h"
 #include "ai/turn_driver.h"
 #include "rules/play_turn.h"
@@ -27,7 +26,7 @@ double TimeOfChoice(const Game& position) {
     for (int run = 0; run < 5; ++run) {
         Game game = position;
         const auto start = std::chrono::steady_clock::now();
-        ChooseMove(game);
+        tmrAI_Timer(game);
         const Microseconds time = std::chrono::steady_clock::now() - start;
         shortest = std::min(shortest, time.count());
     }

@@ -11,9 +11,9 @@ namespace qarn {
 namespace {
 
 constexpr std::array opponents{
-    Opponent{"classic", ChooseClassicMove},      Opponent{"scout", ChooseScoutTurn},
-    Opponent{"captain", ChooseCaptainTurn},      Opponent{"warlord", ChooseWarlordTurn},
-    Opponent{"random", ChooseRandomTurn, false},
+    Opponent{"classic", ChooseClassicMove}, Opponent{"scout", ChooseScoutTurn},
+    Opponent{"captain", ChooseCaptainTurn}, Opponent{"warlord", ChooseWarlordTurn},
+    Opponent{"random", ChooseRandomTurn},
 };
 
 }  // namespace

@@ -7,11 +7,11 @@
 
 namespace qarn {
 
-/// An opponent, by the name that it is chosen with.
+/// An opponent, by the name that it is chosen with. Those that a person can choose stand in
+/// core/opponents.h too.
 struct Opponent {
     std::string_view name;
     Chooser choose;
-    bool forPeople = true;  ///< offered to a person; else for matches and tests alone
 };
 
 /// All opponents. A new one is a line in this table.

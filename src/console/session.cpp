@@ -8,12 +8,12 @@
 #include <optional>
 #include <system_error>
 
-#include "ai/choosers.h"
 #include "ai/turn_driver.h"
 #include "console/words.h"
 #include "core/failure_text.h"
 #include "core/file_store.h"
 #include "core/game_file.h"
+#include "core/opponents.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 #include "window/board_clicks.h"
@@ -266,13 +266,11 @@ void Session::Seed(const Words& words) {
 }
 
 void Session::ChooseLevel(const Words& words) {
-    const Opponent* opponent = FindOpponent(words[1]);
-    if (opponent == nullptr || !opponent->forPeople) {
-        throw Refusal("There is no opponent \"" + words[1] + "\".");
-    }
+    const OpponentChoice* opponent = FindOpponentChoice(words[1]);
+    if (opponent == nullptr) throw Refusal("There is no opponent \"" + words[1] + "\".");
     const int side = words.size() > 2 ? ParseNumber<int>(words[2], 1, 2) : 0;
-    if (side != 2) game_.opponent[1] = opponent->name;
-    if (side != 1) game_.opponent[2] = opponent->name;
+    if (side != 2) game_.opponent[1] = opponent->Name;
+    if (side != 1) game_.opponent[2] = opponent->Name;
 }
 
 void Session::ChooseHouseRule(const Words& words) {

@@ -6,6 +6,7 @@
 #include "core/controls.h"
 #include "core/game_record.h"
 #include "core/happenings.h"
+#include "core/opponents.h"
 #include "core/ports.h"
 
 namespace qarn {
@@ -28,7 +29,7 @@ struct Game {
 
     /// Who plays each side while the computer does, by the name in the table of choosers. Stays as
     /// it is when another game is opened.
-    std::array<std::string_view, 3> opponent{"", "classic", "classic"};
+    std::array<std::string_view, 3> opponent{"", classicOpponent, classicOpponent};
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have

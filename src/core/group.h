@@ -43,6 +43,8 @@ struct Group {
     std::int16_t Ability1 = 0;  ///< three digits, read one by one; 0 = none
     std::int16_t Ability2 = 0;
     GroupKind Kind = GroupKind::Ordinary;
+
+    friend bool operator==(const Group&, const Group&) = default;
 };
 
 /// What one kind of terrain costs and gives.
@@ -53,6 +55,8 @@ struct TerrainValues {
     bool DirectAttack = false;    ///< may be attacked by stepping into it
     bool IndirectAttack = false;  ///< may be attacked with the Attack command (shown only)
     bool NeedsBoat = false;
+
+    friend bool operator==(const TerrainValues&, const TerrainValues&) = default;
 };
 
 /// Mobility, attack and defense added up.

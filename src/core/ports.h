@@ -18,6 +18,7 @@ struct MessageBox {
     Buttons Offered = Buttons::OK;
     Icon Shown = Icon::None;
     bool DeclinedByDefault = false;  ///< Enter alone says No, where Yes would lose something
+    bool ForThePerson = false;       ///< no opponent answers it, whoever acts
 };
 
 /// Modal boxes and prompts. Each call returns when the person has answered.
@@ -28,7 +29,7 @@ public:
     /// Shows a box and gives the answer to it: the person's or, while an opponent answers for
     /// itself, that it agrees.
     Answer Show(const MessageBox& box) {
-        if (!opponentAnswers_) return Ask(box);
+        if (!opponentAnswers_ || box.ForThePerson) return Ask(box);
         const Answer answer = box.Offered == Buttons::YesNo ? Answer::Yes : Answer::OK;
         ShowAnswered(box, answer);
         return answer;

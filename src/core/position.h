@@ -22,6 +22,8 @@ struct Position {
     std::uint8_t bytTurn = 0;       ///< the side to move
     bool blnFortressBurns = false;  ///< the fortress is one that can be burned down
     HouseRules house;
+
+    friend bool operator==(const Position&, const Position&) = default;
 };
 static_assert(std::is_trivially_copyable_v<Position> && sizeof(Position) < 640);
 

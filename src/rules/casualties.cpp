@@ -97,12 +97,15 @@ void EndGame(Game& game) {
     const GameRecord& record = game.record;
     const std::uint8_t winner = record.bytPeopleLeft[1] > 0 ? 1 : 2;
     game.happenings.emplace_back(Ended{winner});
-    game.ports.dialogs.Tell(std::string(record.strVictoryText[winner]));
+    const auto tell = [&](const std::string& text) {
+        game.ports.dialogs.Show({.Title = {}, .Text = text, .ForThePerson = true});
+    };
+    tell(std::string(record.strVictoryText[winner]));
     try {
         DeleteFile(record.strGamePath);
     } catch (const std::system_error& error) {
-        game.ports.dialogs.Tell("The game file can not be deleted: " + error.code().message() +
-                                ".\n" + record.strGamePath);
+        tell("The game file can not be deleted: " + error.code().message() + ".\n" +
+             record.strGamePath);
     }
     throw ProgramEnd{};
 }

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <utility>
 
-#include "ai/turn_driver.h"
 #include "shell/about.h"
 #include "ui/design.h"
 #include "ui/frm_about.h"
@@ -46,10 +45,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
     });
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
 
-    tmrAI_.setObjectName("tmrAI");
-    tmrAI_.setInterval(tmrAIInterval);
-    tmrAI_.setSingleShot(true);
-    tmrAI_.callOnTimeout(this, [this] { RunAlone([this] { Tick(game_); }); });
+    PrepareTimer();
     RestoreWindowPlace(*this, desktop.settings);
 }
 
@@ -78,11 +74,7 @@ void FrmGame::BringUpToDate() {
     ShowWidgets();
     ShowAbout();
     panel_.FocusOn(std::exchange(game_.controls.SetFocus, Control::None));
-    if (!game_.controls.tmrAI.Enabled) {
-        tmrAI_.stop();
-    } else if (!tmrAI_.isActive()) {
-        tmrAI_.start();
-    }
+    FollowComputer();
 }
 
 void FrmGame::ShowWidgets() {
@@ -118,6 +110,7 @@ void FrmGame::ShowAbout() {
 
 void FrmGame::End() {
     tmrAI_.stop();
+    if (thinker_) thinker_->Drop();
     StoreWindowPlace(*this, game_.ports.settings);
     hide();
     QCoreApplication::exit(game_.exitStatus);

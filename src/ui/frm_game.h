@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "core/game.h"
@@ -14,6 +15,7 @@
 #include "ui/game_menus.h"
 #include "ui/qt_ports.h"
 #include "ui/scaled_area.h"
+#include "ui/thinker.h"
 
 namespace qarn {
 
@@ -44,6 +46,12 @@ private:
     void ShowAbout();
     void End();
 
+    void PrepareTimer();
+    void FollowComputer();
+    bool BeginsToThink();
+    bool IsThinking() const;
+    void TimeIsUp();
+
     QtDialogs dialogs_;
     HelpProgram help_;
     Game game_;
@@ -55,6 +63,7 @@ private:
     ControlPanel panel_;
     GameMenus menus_;
     QTimer tmrAI_{this};
+    std::unique_ptr<Thinker> thinker_;  // of opponents that look ahead, once one has played
     QPointer<QDialog> about_;
 };
 

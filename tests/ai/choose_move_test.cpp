@@ -1,4 +1,4 @@
-#include "ai/choose_move.h"
+#include "ai/turn_driver.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,8 @@ void PrintTo(const Choice& choice, std::ostream* out) { *out << choice.position;
 
 std::string ChosenIn(const std::string& position) {
     PlayedGame played(position);
-    ChooseMove(played.game);
+    played.game.record.blnComputer[played.game.record.bytTurn] = true;
+    tmrAI_Timer(played.game);
     const ActionRecord& action = played.game.record.Action;
     if (!action.blnAIBusy) return played.dialogs.boxes.back().Text;
     std::string text =

@@ -1,0 +1,25 @@
+#include "window/opponents_turn.h"
+
+#include "core/game.h"
+#include "core/opponents.h"
+
+namespace qarn {
+
+bool IsOwnMoveUnderWay(const GameRecord& record) {
+    return record.Action.blnAIBusy && record.Action.blnOwnMove;
+}
+
+bool IsPersonsMoveUnderWay(const GameRecord& record) {
+    const bool any = record.blnMoveMode || record.blnAttackMode || record.blnMoveUnderWay ||
+                     record.blnCasualtyPending;
+    return any && !IsOwnMoveUnderWay(record);
+}
+
+bool OpponentActs(const Game& game) {
+    const GameRecord& record = game.record;
+    if (!IsComputersTurn(record) || !game.controls.tmrAI.Enabled) return false;
+    if (IsOwnMoveUnderWay(record)) return record.Action.blnAnswersItself;
+    return AnswersItself(game.opponent.at(record.bytTurn)) && !IsPersonsMoveUnderWay(record);
+}
+
+}  // namespace qarn

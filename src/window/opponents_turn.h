@@ -1,0 +1,18 @@
+#pragma once
+
+namespace qarn {
+
+struct Game;
+struct GameRecord;
+
+/// True while the move or attack that the computer's action began goes on.
+bool IsOwnMoveUnderWay(const GameRecord& record);
+
+/// True while a person has begun a move or an attack and not ended it.
+bool IsPersonsMoveUnderWay(const GameRecord& record);
+
+/// True while an opponent that answers for itself has its turn in hand, be it that it thinks or
+/// acts. What would meddle with it waits; looking, leaving and saving do not.
+bool OpponentActs(const Game& game);
+
+}  // namespace qarn
