@@ -21,6 +21,7 @@
 #include "window/house_rules.h"
 #include "window/load_game.h"
 #include "window/menu_commands.h"
+#include "window/opponents_turn.h"
 #include "window/run_event.h"
 #include "window/save_game.h"
 
@@ -269,8 +270,8 @@ void Session::ChooseLevel(const Words& words) {
     const OpponentChoice* opponent = FindOpponentChoice(words[1]);
     if (opponent == nullptr) throw Refusal("There is no opponent \"" + words[1] + "\".");
     const int side = words.size() > 2 ? ParseNumber<int>(words[2], 1, 2) : 0;
-    if (side != 2) game_.opponent[1] = opponent->Name;
-    if (side != 1) game_.opponent[2] = opponent->Name;
+    if (side != 2) ChooseOpponent(game_, 1, *opponent);
+    if (side != 1) ChooseOpponent(game_, 2, *opponent);
 }
 
 void Session::ChooseHouseRule(const Words& words) {

@@ -8,10 +8,6 @@
 namespace qarn {
 namespace {
 
-bool IsVisible(const Controls& controls, const MenuCommand& command) {
-    return command.State == nullptr || (controls.*command.State).Visible;
-}
-
 // The menu that `holder`, the bar or a menu, holds last if it has this caption, else a new one.
 template <typename Holder>
 QMenu* LastMenuOf(Holder* holder, std::string_view caption) {
@@ -41,11 +37,9 @@ GameMenus::GameMenus(QMenuBar* bar, std::function<void(const MenuCommand&)> choo
     : bar_(bar), choose_(std::move(choose)) {
     for (const MenuCommand& command : MenuCommands()) {
         QMenu* menu = MenuOf(command);
-        if (command.Name.empty()) {
-            menu->addSeparator();
-        } else {
-            items_.push_back({&command, MakeAction(menu, command)});
-        }
+        QAction* action = command.Name.empty() ? menu->addSection(ToQt(command.Caption))
+                                               : MakeAction(menu, command);
+        items_.push_back({&command, action});
     }
 }
 
@@ -65,7 +59,7 @@ QAction* GameMenus::MakeAction(QMenu* menu, const MenuCommand& command) {
 
 void GameMenus::Show(const Game& game) {
     for (const Item& item : items_) {
-        item.action->setVisible(IsVisible(game.controls, *item.command));
+        item.action->setVisible(IsShown(game, *item.command));
         item.action->setEnabled(CanChoose(game, *item.command));
         if (item.action->isCheckable()) {
             item.action->setChecked(IsTicked(game, *item.command));

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "core/game.h"
+#include "core/opponents.h"
 #include "scenarios/catalogue.h"
 #include "shell/about.h"
 #include "shell/default_path.h"
@@ -14,6 +15,7 @@
 #include "window/board_clicks.h"
 #include "window/house_rules.h"
 #include "window/load_game.h"
+#include "window/opponents_turn.h"
 #include "window/save_game.h"
 
 namespace qarn {
@@ -26,6 +28,7 @@ constexpr std::string_view optionsMenu = "&Options";
 constexpr std::string_view playMenu = "&Play";
 constexpr std::string_view helpMenu = "&Help";
 
+constexpr std::string_view opponentMenu = "&Opponent";
 constexpr std::string_view houseRulesMenu = "House &Rules";
 
 constexpr bool checkable = true;
@@ -37,6 +40,35 @@ constexpr MenuCommand HouseRuleItem(std::string_view name, std::string_view capt
                                     void (*click)(Game&), bool (*ticked)(const Game&)) {
     return {playMenu,  name,           caption,        "",    click, nullptr,
             checkable, houseRulesMenu, IsBetweenMoves, ticked};
+}
+
+template <std::size_t side>
+bool IsComputers(const Game& game) {
+    return game.record.blnComputer[side];
+}
+
+template <std::size_t side>
+constexpr MenuCommand OpponentsOfSide(std::string_view caption) {
+    return {.Menu = playMenu,
+            .Name = "",
+            .Caption = caption,
+            .Shortcut = "",
+            .Submenu = opponentMenu,
+            .Shown = IsComputers<side>};
+}
+
+template <std::size_t side, std::size_t which>
+constexpr MenuCommand OpponentItem(std::string_view name) {
+    constexpr const OpponentChoice* opponent = &opponentChoices[which];
+    return {.Menu = playMenu,
+            .Name = name,
+            .Caption = opponent->Caption,
+            .Shortcut = "",
+            .Click = [](Game& game) { ChooseOpponent(game, side, *opponent); },
+            .Checkable = true,
+            .Submenu = opponentMenu,
+            .Ticked = [](const Game& game) { return game.opponent[side] == opponent->Name; },
+            .Shown = IsComputers<side>};
 }
 
 constexpr std::array menuCommands{
@@ -60,6 +92,16 @@ constexpr std::array menuCommands{
                 mnuDefaultFilepath_Click},
     MenuCommand{optionsMenu, "mnuTGF", "Add and Remove the &TGF Filetype", "", mnuTGF_Click,
                 &Controls::mnuTGF, checkable},
+    OpponentsOfSide<1>("Goodbeasts"),
+    OpponentItem<1, 0>("mnuClassic1"),
+    OpponentItem<1, 1>("mnuScout1"),
+    OpponentItem<1, 2>("mnuCaptain1"),
+    OpponentItem<1, 3>("mnuWarlord1"),
+    OpponentsOfSide<2>("Badbeasts"),
+    OpponentItem<2, 0>("mnuClassic2"),
+    OpponentItem<2, 1>("mnuScout2"),
+    OpponentItem<2, 2>("mnuCaptain2"),
+    OpponentItem<2, 3>("mnuWarlord2"),
     HouseRuleItem("mnuOwnGroupsOnly", "&Own Groups Only", mnuOwnGroupsOnly_Click,
                   [](const Game& game) { return game.record.house.ownGroupsOnly; }),
     HouseRuleItem("mnuOneTurnForABurning", "One &Turn for a Burning", mnuOneTurnForABurning_Click,
@@ -158,12 +200,16 @@ const MenuCommand* FindMenuCommand(std::string_view name) {
     return found == menuCommands.end() ? nullptr : &*found;
 }
 
+bool IsShown(const Game& game, const MenuCommand& command) {
+    if (command.Shown != nullptr) return command.Shown(game);
+    return command.State == nullptr || (game.controls.*command.State).Visible;
+}
+
 bool CanChoose(const Game& game, const MenuCommand& command) {
-    if (command.Menu == fileMenu && !IsBetweenMoves(game)) return false;
+    if (command.Menu == fileMenu && !IsBetweenMoves(game) && !OpponentActs(game)) return false;
     if (command.Offered != nullptr && !command.Offered(game)) return false;
-    if (command.State == nullptr) return true;
-    const MenuState& state = game.controls.*command.State;
-    return state.Enabled && state.Visible;
+    return IsShown(game, command) &&
+           (command.State == nullptr || (game.controls.*command.State).Enabled);
 }
 
 bool IsTicked(const Game& game, const MenuCommand& command) {

@@ -52,7 +52,7 @@ void mnuHelp_Click(Game& game);
 /// from this one table.
 struct MenuCommand {
     std::string_view Menu;  ///< the caption of the menu that holds it
-    std::string_view Name;  ///< empty: a separator line
+    std::string_view Name;  ///< empty: a separator line, or a heading where it has a caption
     std::string_view Caption;
     std::string_view Shortcut;       ///< as "Ctrl+S"; empty: none
     void (*Click)(Game&) = nullptr;  ///< its handler; null for a separator line
@@ -64,6 +64,7 @@ struct MenuCommand {
     std::string_view Submenu = {};
     bool (*Offered)(const Game&) = nullptr;  ///< whether it can be chosen now; null: always
     bool (*Ticked)(const Game&) = nullptr;   ///< whether it is checked, of one without a state
+    bool (*Shown)(const Game&) = nullptr;    ///< whether it is there; null: as its state says
 };
 
 /// All items, menu by menu, in their order.
@@ -71,6 +72,9 @@ std::span<const MenuCommand> MenuCommands();
 
 /// The item with this name; null when there is none.
 const MenuCommand* FindMenuCommand(std::string_view name);
+
+/// True when the item is there as the game now stands.
+bool IsShown(const Game& game, const MenuCommand& command);
 
 /// True when a person can choose the item as the game now stands.
 bool CanChoose(const Game& game, const MenuCommand& command);

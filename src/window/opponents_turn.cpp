@@ -22,4 +22,11 @@ bool OpponentActs(const Game& game) {
     return AnswersItself(game.opponent.at(record.bytTurn)) && !IsPersonsMoveUnderWay(record);
 }
 
+void ChooseOpponent(Game& game, std::size_t side, const OpponentChoice& opponent) {
+    if (game.opponent[side] == opponent.Name) return;
+    game.opponent[side] = opponent.Name;
+    const GameRecord& record = game.record;
+    if (record.bytTurn == side && IsComputersTurn(record)) game.controls.tmrAI.Enabled = true;
+}
+
 }  // namespace qarn

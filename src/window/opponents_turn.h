@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstddef>
+
 namespace qarn {
 
 struct Game;
 struct GameRecord;
+struct OpponentChoice;
 
 /// True while the move or attack that the computer's action began goes on.
 bool IsOwnMoveUnderWay(const GameRecord& record);
@@ -14,5 +17,9 @@ bool IsPersonsMoveUnderWay(const GameRecord& record);
 /// True while an opponent that answers for itself has its turn in hand, be it that it thinks or
 /// acts. What would meddle with it waits; looking, leaving and saving do not.
 bool OpponentActs(const Game& game);
+
+/// Has an opponent play a side, 1 or 2, while the computer does, from its next choice on. In the
+/// side's turn the computer takes up play again, where it had found nothing to do.
+void ChooseOpponent(Game& game, std::size_t side, const OpponentChoice& opponent);
 
 }  // namespace qarn
