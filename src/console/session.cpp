@@ -16,6 +16,7 @@
 #include "core/opponents.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
+#include "shell/kept_opponents.h"
 #include "window/board_clicks.h"
 #include "window/buttons.h"
 #include "window/house_rules.h"
@@ -170,6 +171,7 @@ void Session::New(const Words& words) {
     Load(path, [&] {
         try {
             ReplaceFile(path, text);
+            KeepOpponents(game_.ports, path, {"", classicOpponent, classicOpponent});
         } catch (const std::system_error& error) {
             throw SaveError("The new game can not be written. " + error.code().message() + ".\n" +
                             path);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "shell/about.h"
+#include "shell/kept_opponents.h"
 #include "ui/design.h"
 #include "ui/frm_about.h"
 #include "ui/text.h"
@@ -50,7 +51,10 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
 }
 
 void FrmGame::Open(const std::string& strGamePath) {
-    Run("Form_Load", [&](Game& game) { Form_Load(game, strGamePath); });
+    Run("Form_Load", [&](Game& game) {
+        game.opponent = KeptOpponents(game.ports, strGamePath);
+        Form_Load(game, strGamePath);
+    });
 }
 
 void FrmGame::Run(const std::string& name, const std::function<void(Game&)>& handler) {

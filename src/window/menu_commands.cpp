@@ -11,6 +11,7 @@
 #include "shell/default_path.h"
 #include "shell/file_commands.h"
 #include "shell/item_details.h"
+#include "shell/kept_opponents.h"
 #include "shell/user_settings.h"
 #include "window/board_clicks.h"
 #include "window/house_rules.h"
@@ -57,6 +58,11 @@ constexpr MenuCommand OpponentsOfSide(std::string_view caption) {
             .Shown = IsComputers<side>};
 }
 
+void ChooseAndKeepOpponent(Game& game, std::size_t side, const OpponentChoice& opponent) {
+    ChooseOpponent(game, side, opponent);
+    KeepOpponents(game.ports, game.record.strGamePath, game.opponent);
+}
+
 template <std::size_t side, std::size_t which>
 constexpr MenuCommand OpponentItem(std::string_view name) {
     constexpr const OpponentChoice* opponent = &opponentChoices[which];
@@ -64,7 +70,7 @@ constexpr MenuCommand OpponentItem(std::string_view name) {
             .Name = name,
             .Caption = opponent->Caption,
             .Shortcut = "",
-            .Click = [](Game& game) { ChooseOpponent(game, side, *opponent); },
+            .Click = [](Game& game) { ChooseAndKeepOpponent(game, side, *opponent); },
             .Checkable = true,
             .Submenu = opponentMenu,
             .Ticked = [](const Game& game) { return game.opponent[side] == opponent->Name; },
@@ -154,6 +160,7 @@ void mnuSaveAs_Click(Game& game) {
         record.strGamePath = oldPath;
         return;
     }
+    KeepOpponents(game.ports, path, KeptOpponents(game.ports, oldPath));
     ComposeCaption(game);
     AppendPlayersToCaption(game);
 }

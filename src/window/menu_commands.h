@@ -19,7 +19,8 @@ void Open_Click(Game& game);
 void mnuSave_Click(Game& game);
 
 /// File > Save As: asks for a file, saves the game there and goes on under that name, which the
-/// caption then shows. Changes nothing when no file is named or the game cannot be saved there.
+/// caption then shows, with the opponents that are kept for it. Changes nothing when no file is
+/// named or the game cannot be saved there.
 void mnuSaveAs_Click(Game& game);
 
 /// File > Exit: closes the window, see Form_Unload.

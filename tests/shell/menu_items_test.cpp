@@ -2,6 +2,7 @@
 
 #include "shell/about.h"
 #include "shell/default_path.h"
+#include "shell/kept_opponents.h"
 #include "shell/program_texts.h"
 #include "shell/user_settings.h"
 #include "support/played_game.h"
@@ -52,6 +53,51 @@ TEST(DefaultPathTest, IsAskedForInAPrompt) {
     world.settings.writeError = "disk full.";
     world.Do("menu mnuDefaultFilepath");
     EXPECT_EQ(world.dialogs.boxes.back().Text, "The setting can not be stored: disk full.");
+}
+
+// The opponents that are kept for a game.
+std::string Kept(const Ports& ports, const std::string& path) {
+    const Opponents kept = KeptOpponents(ports, path);
+    return std::string(kept[1]) + " " + std::string(kept[2]);
+}
+
+TEST(KeptOpponentsTest, BelongToTheFileOfAGame) {
+    PlayedGame world("computer2 Q@13,4");
+    Ports& ports = world.game.ports;
+    ports.folders.userData = world.folder / "data/qarn";
+    EXPECT_FALSE(world.Do("menu mnuScout1"));  // a person plays this side
+    world.Do("menu mnuClassic2");
+    EXPECT_FALSE(std::filesystem::exists(world.folder / "data"));
+    world.Do("menu mnuWarlord2");
+    EXPECT_EQ(Kept(ports, world.path), "classic warlord");
+    std::filesystem::create_symlink(world.path, world.folder / "link to it");
+    EXPECT_EQ(Kept(ports, world.folder / "link to it"), "classic warlord");
+    EXPECT_EQ(Kept(ports, world.folder / "other.tgf"), "classic classic");
+
+    const std::string other = world.folder / "a b.tgf";
+    world.Do("saveas a b.tgf");
+    EXPECT_EQ(Kept(ports, world.folder / "a"), "classic warlord");
+    world.Do("menu mnuClassic2");
+    EXPECT_EQ(Kept(ports, world.folder / "a"), "classic classic");
+    EXPECT_EQ(Kept(ports, world.path), "classic warlord");
+
+    // What is damaged is passed over, and nothing grows for ever.
+    const std::string file = ports.folders.userData + "/opponents";
+    WriteFile(file, "\x01\xFF scout\nscout nobody /x\nscout\n\n scout captain  " + other + "\n");
+    EXPECT_EQ(Kept(ports, other), "scout captain");
+    for (int game = 0; game < 120; ++game) {
+        KeepOpponents(ports, "/games/" + std::to_string(game), {"", "captain", "classic"});
+    }
+    EXPECT_EQ(Kept(ports, "/games/20"), "captain classic");
+    EXPECT_EQ(Kept(ports, "/games/19"), "classic classic");
+    WriteFile(file, std::string(2 << 20, ' '));
+    EXPECT_EQ(Kept(ports, other), "classic classic");
+
+    std::filesystem::remove_all(ports.folders.userData);
+    WriteFile(ports.folders.userData, "in the way");
+    KeepOpponents(ports, other, {"", "scout", "scout"});
+    EXPECT_EQ(world.dialogs.boxes.back().Text.find("The opponents of this game can not be kept: "),
+              0u);
 }
 
 TEST(FileTypeTest, IsRegisteredOnce) {
