@@ -10,12 +10,14 @@
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "shell/start_window.h"
+#include "shell/user_settings.h"
 
 namespace qarn {
 namespace {
 
 namespace fs = std::filesystem;
 
+const std::string opponentSection = "Opponent";
 constexpr std::string_view extension = ".tgf";
 constexpr std::string_view forbidden = "\\/:*?\"<>|";
 
@@ -104,6 +106,30 @@ void TakeScenario(StartWindow& window) {
 
 // ---- Steps 2 and 3, the players ----
 
+void ShowOpponent(StartWindow& window, bool shown) {
+    StartControls& controls = window.controls;
+    controls.cboOpponent.Visible = shown;
+    controls.lblOpponent.Visible = shown;
+    if (!shown) return;
+    const OpponentChoice* last = FindOpponentChoice(
+        ReadSetting(window.ports, opponentSection, std::string(classicOpponent)));
+    if (last == nullptr) last = opponentChoices.data();
+    controls.cboOpponent.ListIndex = static_cast<int>(last - opponentChoices.data());
+    cboOpponent_Click(window);
+}
+
+const OpponentChoice& SelectedOpponent(const StartControls& controls) {
+    return opponentChoices.at(static_cast<std::size_t>(controls.cboOpponent.ListIndex));
+}
+
+void TakeOpponent(StartWindow& window, std::size_t side) {
+    const std::string name(SelectedOpponent(window.controls).Name);
+    window.state.newOpponent[side] = SelectedOpponent(window.controls).Name;
+    if (name != ReadSetting(window.ports, opponentSection, std::string(classicOpponent))) {
+        StoreSetting(window.ports, opponentSection, name);
+    }
+}
+
 Player TypedPlayer(const StartControls& controls) {
     return {controls.txtNewFilePath.Text, controls.chkComputer.Value};
 }
@@ -112,7 +138,9 @@ void TakePlayer(StartWindow& window, std::size_t side) {
     const Player player = TypedPlayer(window.controls);
     window.state.strNewPlayerName[side] = player.strPlayerName;
     window.state.blnNewComputer[side] = player.blnComputer;
+    if (player.blnComputer) TakeOpponent(window, side);
     window.controls.chkComputer.Value = false;
+    ShowOpponent(window, false);
 }
 
 void TakeGoodbeast(StartWindow& window) {
@@ -170,6 +198,7 @@ void StartGame(StartWindow& window) {
     const std::string path = (folder / name).string();
     if (!WriteNewGame(window, path)) return;
     TakePlayer(window, 2);
+    KeepOpponents(window.ports, path, window.state.newOpponent);
     window.strGamePath = fs::absolute(path).string();
     window.Next = NextWindow::Game;
 }
@@ -213,6 +242,14 @@ void txtNewFilePath_LostFocus(StartWindow& window) {
 
 void chkComputer_GotFocus(StartWindow& window) {
     window.controls.DefaultButton = StartControl::cmdNew;
+}
+
+void chkComputer_Click(StartWindow& window) {
+    ShowOpponent(window, window.controls.chkComputer.Value);
+}
+
+void cboOpponent_Click(StartWindow& window) {
+    window.controls.lblOpponent.Caption = SelectedOpponent(window.controls).Expectation;
 }
 
 void lstScenarios_Click(StartWindow& window) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/captions.h"
 #include "core/file_store.h"
 #include "core/game_file.h"
 #include "core/player_error.h"
@@ -96,12 +97,16 @@ StartControls::StartControls() {
     for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
         lstScenarios.List.emplace_back(NamesOfScenario(scenario).ListTitle);
     }
+    for (const OpponentChoice& opponent : opponentChoices) {
+        cboOpponent.List.push_back(PlainCaption(opponent.Caption));
+    }
     cmdBackGround.Caption = showBackground;
     TabOrder = {
         StartControl::txtNewFilePath, StartControl::cmdNew,        StartControl::chkComputer,
-        StartControl::lstScenarios,   StartControl::fileLoad,      StartControl::cmdLoad,
-        StartControl::cmdDelete,      StartControl::txtLocation,   StartControl::cmdBrowse,
-        StartControl::cmdBackGround,  StartControl::txtBackGround, StartControl::cmdExit};
+        StartControl::cboOpponent,    StartControl::lstScenarios,  StartControl::fileLoad,
+        StartControl::cmdLoad,        StartControl::cmdDelete,     StartControl::txtLocation,
+        StartControl::cmdBrowse,      StartControl::cmdBackGround, StartControl::txtBackGround,
+        StartControl::cmdExit};
 }
 
 void Form_Load(StartWindow& window) {

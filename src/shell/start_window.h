@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "core/controls.h"
+#include "core/opponents.h"
 #include "core/ports.h"
+#include "shell/kept_opponents.h"
 #include "shell/next_window.h"
 #include "shell/shell_ports.h"
 
@@ -42,6 +44,7 @@ enum class StartControl {
     txtNewFilePath,
     cmdNew,
     chkComputer,
+    cboOpponent,
     lstScenarios,
     fileLoad,
     cmdLoad,
@@ -65,6 +68,9 @@ struct StartControls {
     TextBox txtNewFilePath;
     Button cmdNew{.Caption = "&New", .Enabled = false};
     CheckBox chkComputer{.Caption = "&Computer"};
+    /// Who plays the side, while chkComputer is ticked, and what to expect of it.
+    ListBox cboOpponent{.List = {}, .ListIndex = 0, .Visible = false};
+    Label lblOpponent{.Caption = {}, .Visible = false};
     ListBox lstScenarios{.List = {}, .Visible = false};
     Label lblScenarioBackground{.Caption = {}, .Visible = false};
 
@@ -94,6 +100,7 @@ struct StartState {
     std::string strNewGameName;      ///< without folder and ".tgf"
     std::array<std::string, 3> strNewPlayerName;
     std::array<bool, 3> blnNewComputer{};
+    Opponents newOpponent{"", classicOpponent, classicOpponent};
     std::string strSavedInstructions;
     bool blnSavedNewEnabled = false;
 };
@@ -166,6 +173,10 @@ void txtNewFilePath_GotFocus(StartWindow& window);
 void txtNewFilePath_LostFocus(StartWindow& window);
 /// Enter presses "&New" from here on.
 void chkComputer_GotFocus(StartWindow& window);
+/// Ticked or unticked: the choice of the opponent comes, with the one chosen last, or goes.
+void chkComputer_Click(StartWindow& window);
+/// An opponent was selected: tells what to expect of it.
+void cboOpponent_Click(StartWindow& window);
 
 /// A scenario was selected, by mouse or key: shows its background and allows the next step.
 void lstScenarios_Click(StartWindow& window);

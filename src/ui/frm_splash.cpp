@@ -84,8 +84,16 @@ void FrmSplash::Connect() {
         });
     });
     connect(&chkComputer_, &QCheckBox::clicked, this, [this](bool ticked) {
-        Run("chkComputer_Click",
-            [=](StartWindow& window) { window.controls.chkComputer.Value = ticked; });
+        Run("chkComputer_Click", [=](StartWindow& window) {
+            window.controls.chkComputer.Value = ticked;
+            chkComputer_Click(window);
+        });
+    });
+    connect(&cboOpponent_, &QComboBox::activated, this, [this](int row) {
+        Run("cboOpponent_Click", [=](StartWindow& window) {
+            window.controls.cboOpponent.ListIndex = row;
+            cboOpponent_Click(window);
+        });
     });
     connect(&lstScenarios_, &ChoiceList::Chosen, this, [this](int row) {
         Run("lstScenarios_Click", [=](StartWindow& window) {
@@ -127,7 +135,7 @@ void FrmSplash::RunOnFocus(const QObject& widget, bool got) {
         Run(event, got ? txtNewFilePath_GotFocus : txtNewFilePath_LostFocus);
     } else if (&widget == &fileLoad_) {
         Run(event, got ? fileLoad_GotFocus : fileLoad_LostFocus);
-    } else if (&widget == &chkComputer_ && got) {
+    } else if ((&widget == &chkComputer_ || &widget == &cboOpponent_) && got) {
         Run(event, chkComputer_GotFocus);
     }
 }
@@ -173,9 +181,7 @@ void FrmSplash::ShowControls() {
     Show(txtNewFilePath_, controls.txtNewFilePath);
     txtNewFilePath_.setValidator(controls.txtNewFilePath.Storable ? storableText_ : nullptr);
     Show(cmdNew_, controls.cmdNew);
-    chkComputer_.setText(ToQt(controls.chkComputer.Caption));
-    chkComputer_.setVisible(controls.chkComputer.Visible);
-    chkComputer_.setChecked(controls.chkComputer.Value);
+    ShowPlayer();
     ShowScenario();
     ShowFiles();
     Show(cmdLoad_, controls.cmdLoad);
@@ -188,6 +194,17 @@ void FrmSplash::ShowControls() {
     txtBackGround_.setPlainText(ToQt(controls.txtBackGround.Text));
     Show(cmdExit_, controls.cmdExit);
     ShowDefaultButton();
+}
+
+void FrmSplash::ShowPlayer() {
+    const StartControls& controls = window_.controls;
+    chkComputer_.setText(ToQt(controls.chkComputer.Caption));
+    chkComputer_.setVisible(controls.chkComputer.Visible);
+    chkComputer_.setChecked(controls.chkComputer.Value);
+    cboOpponent_.setCurrentIndex(controls.cboOpponent.ListIndex);
+    cboOpponent_.setVisible(controls.cboOpponent.Visible);
+    cboOpponent_.setAccessibleDescription(ToQt(controls.lblOpponent.Caption));
+    Show(lblOpponent_, controls.lblOpponent);
 }
 
 void FrmSplash::ShowScenario() {
@@ -237,11 +254,12 @@ void FrmSplash::MoveFocus() {
     if (target != StartControl::None) WidgetOf(target)->setFocus();
 }
 
-std::array<FrmSplash::NamedWidget, 12> FrmSplash::Widgets() {
+std::array<FrmSplash::NamedWidget, 13> FrmSplash::Widgets() {
     using enum StartControl;
     return {{{txtNewFilePath, &txtNewFilePath_, "txtNewFilePath"},
              {cmdNew, &cmdNew_, "cmdNew"},
              {chkComputer, &chkComputer_, "chkComputer"},
+             {cboOpponent, &cboOpponent_, "cboOpponent"},
              {lstScenarios, &lstScenarios_, "lstScenarios"},
              {fileLoad, &fileLoad_, "fileLoad"},
              {cmdLoad, &cmdLoad_, "cmdLoad"},

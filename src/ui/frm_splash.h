@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QFileSystemWatcher>
 #include <QLabel>
@@ -62,10 +63,11 @@ private:
     void FollowFolder();
     void ShowControls();
     void ShowFiles();
+    void ShowPlayer();
     void ShowScenario();
     void ShowDefaultButton();
     void MoveFocus();
-    std::array<NamedWidget, 12> Widgets();
+    std::array<NamedWidget, 13> Widgets();
     QWidget* WidgetOf(StartControl control);
 
     QtDialogs dialogs_;
@@ -80,6 +82,8 @@ private:
     QValidator* storableText_ = nullptr;
     QPushButton cmdNew_;
     QCheckBox chkComputer_;
+    QComboBox cboOpponent_;
+    QLabel lblOpponent_;
     ChoiceList lstScenarios_;
     QLabel picture_;
     QLabel lblScenarioBackground_;

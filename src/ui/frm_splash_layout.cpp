@@ -59,13 +59,20 @@ QLayout* FrmSplash::LayNewGame() {
     lblInstructions_.setBuddy(&txtNewFilePath_);
     storableText_ = new StorableText(this);
     txtNewFilePath_.setMaxLength(static_cast<int>(window_.controls.txtNewFilePath.MaxLength));
+    for (const std::string& opponent : window_.controls.cboOpponent.List) {
+        cboOpponent_.addItem(ToQt(opponent));
+    }
+    cboOpponent_.setAccessibleName("Opponent");
+    lblOpponent_.setWordWrap(true);
     auto* line = new QHBoxLayout;
     line->addWidget(&txtNewFilePath_, 1);
     line->addWidget(&chkComputer_);
+    line->addWidget(&cboOpponent_);
     line->addWidget(&cmdNew_);
     auto* part = new QVBoxLayout;
     part->addWidget(&lblInstructions_);
     part->addLayout(line);
+    part->addWidget(&lblOpponent_);
     return part;
 }
 

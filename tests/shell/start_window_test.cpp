@@ -67,6 +67,8 @@ protected:
                     "'" + c.txtNewFilePath.Text + (c.txtNewFilePath.Locked ? "' locked" : "'")) +
                Seen(c.cmdNew, c.cmdNew.Caption) +
                Seen(c.chkComputer, c.chkComputer.Value ? "[x]" : "[ ]") +
+               Seen(c.cboOpponent,
+                    c.cboOpponent.List.at(static_cast<std::size_t>(c.cboOpponent.ListIndex))) +
                Seen(c.lstScenarios, "scenarios") + Seen(c.fileLoad, "files") +
                Seen(c.cmdLoad, c.cmdLoad.Caption) + Seen(c.cmdDelete, c.cmdDelete.Caption) +
                Seen(c.txtLocation, "folder") + Seen(c.cmdBrowse, c.cmdBrowse.Caption) +
@@ -120,6 +122,44 @@ TEST_F(StartWindowTest, TheWizardMakesANewGame) {
     EXPECT_EQ(ReadFile(window.strGamePath), "SKF\r\n" + std::string(54, 'R') + "True\r\n Ren\xE9 " +
                                                 std::string(48, ' ') + "False\r\n 0 \r\n");
     EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(StartWindowTest, TheWizardAsksWhoPlaysForTheComputer) {
+    window.ports.folders.userData = folder / "data";
+    const auto tick = [&](bool ticked) {
+        controls.chkComputer.Value = ticked;
+        chkComputer_Click(window);
+    };
+    ComeToLastStep("Game");
+    tick(true);
+    EXPECT_EQ(Shown(), "Type in badbeast's name. | 'Blue' &Start [x] Classic (scenarios) | new");
+    EXPECT_EQ(controls.cboOpponent.List, (Texts{"Classic", "Scout", "Captain", "Warlord"}));
+    controls.cboOpponent.ListIndex = 2;
+    cboOpponent_Click(window);
+    EXPECT_EQ(controls.lblOpponent.Caption, "Sees what you can answer to each of its turns.");
+    tick(false);
+    EXPECT_FALSE(controls.cboOpponent.Visible || controls.lblOpponent.Visible);
+    tick(true);
+    EXPECT_EQ(controls.cboOpponent.ListIndex, 0);
+    controls.cboOpponent.ListIndex = 2;
+    Press(cmdNew_Click);
+    EXPECT_FALSE(controls.cboOpponent.Visible);
+    EXPECT_EQ(KeptOpponents(window.ports, window.strGamePath),
+              (Opponents{"", "classic", "captain"}));
+
+    // The last choice stands there again, and a new game of that name has opponents of its own.
+    EXPECT_EQ(world.settings.values["QARN/Opponent/04505230"], "captain");
+    controls = {};
+    window.state = {};
+    Form_Load(window);
+    ComeToLastStep("Game");
+    tick(true);
+    EXPECT_EQ(controls.cboOpponent.ListIndex, 2);
+    tick(false);
+    Press(cmdNew_Click);
+    EXPECT_EQ(KeptOpponents(window.ports, window.strGamePath),
+              (Opponents{"", "classic", "classic"}));
+    EXPECT_EQ(world.settings.values["QARN/Opponent/04505230"], "captain");
 }
 
 TEST_F(StartWindowTest, AFileNameRefusesCharacters) {

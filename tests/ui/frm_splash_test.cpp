@@ -70,9 +70,9 @@ protected:
     std::string Seen() {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         QStringList seen;
-        for (const char* name : {"txtNewFilePath", "cmdNew", "chkComputer", "lstScenarios",
-                                 "fileLoad", "cmdLoad", "cmdDelete", "txtLocation", "cmdBrowse",
-                                 "cmdBackGround", "txtBackGround", "cmdExit"}) {
+        for (const char* name : {"txtNewFilePath", "cmdNew", "chkComputer", "cboOpponent",
+                                 "lstScenarios", "fileLoad", "cmdLoad", "cmdDelete", "txtLocation",
+                                 "cmdBrowse", "cmdBackGround", "txtBackGround", "cmdExit"}) {
             const QWidget* widget = Widget(name);
             if (!widget->isVisible()) continue;
             QString text = name;
@@ -82,6 +82,8 @@ protected:
             } else if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
                 for (const QListWidgetItem* item : list->selectedItems())
                     text += "=" + item->text();
+            } else if (const auto* choice = qobject_cast<const QComboBox*>(widget)) {
+                text = choice->currentText();
             } else if (text == "txtNewFilePath") {
                 text = "'" + widget->property("text").toString() + "'";
                 if (widget->property("readOnly").toBool()) text += " locked";
@@ -118,11 +120,16 @@ TEST_F(StartWindowOnScreen, MakesANewGameByKeyboardAlone) {
     for (int stop = 0; stop < 3; ++stop) Key(Qt::Key_Tab);
     EXPECT_EQ(Focus(), "chkComputer");
     Key(Qt::Key_Space);
-    EXPECT_EQ(Seen(), "'Red' *&Next &Computer[x] (lstScenarios=Ambermoor) E&xit");
+    EXPECT_EQ(Seen(), "'Red' *&Next &Computer[x] Classic (lstScenarios=Ambermoor) E&xit");
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Seen(), "'Red' *&Next &Computer[x] Scout (lstScenarios=Ambermoor) E&xit");
+    EXPECT_EQ(Focus(), "cboOpponent");
     Key(Qt::Key_Return);
     EXPECT_EQ(Seen(), "'' (*&Start) &Computer (lstScenarios=Ambermoor) E&xit");
     Enter("Blue");
     EXPECT_EQ(window.Shown().Next, NextWindow::Game);
+    EXPECT_EQ(window.Shown().state.newOpponent, (Opponents{"", "scout", "classic"}));
     EXPECT_EQ(ReadFile(folder / "\u0141\u00F3d\u017A.tgf"),
               "AM\r\nRed" + std::string(51, ' ') + "True\r\nBlue" + std::string(50, ' ') +
                   "False\r\n 0 \r\n");
