@@ -24,14 +24,17 @@ MovingGroup WholeStack(const Position& position, Square square) {
     return {people, square, StrengthOf(position, people).Mobility};
 }
 
+AttackOdds OddsOfUnits(std::uint8_t attack, std::uint8_t defense, bool burns) {
+    const Odds certain{.win = dieSides};
+    return {.attack = attack,
+            .defense = defense,
+            .odds = burns ? certain : OddsOf(attack, defense),
+            .burns = burns};
+}
+
 std::optional<AttackOdds> OddsOfAttack(const AttackAnswer& attack) {
     if (attack.refusal != AttackRefusal::None) return std::nullopt;
-    const Odds certain{.win = dieSides};
-    return AttackOdds{
-        .attack = attack.attackUnits,
-        .defense = attack.defenseUnits,
-        .odds = attack.burns ? certain : OddsOf(attack.attackUnits, attack.defenseUnits),
-        .burns = attack.burns};
+    return OddsOfUnits(attack.attackUnits, attack.defenseUnits, attack.burns);
 }
 
 bool CanAttackDirectly(const Position& position, Square from, Square to) {
@@ -40,6 +43,10 @@ bool CanAttackDirectly(const Position& position, Square from, Square to) {
 }
 
 }  // namespace
+
+AttackOdds OddsOfHint(const Attacked& attack) {
+    return OddsOfUnits(attack.attack, attack.defense, !attack.roll);
+}
 
 std::vector<ReachedSquare> ReachOfGroupInMove(const GameRecord& record) {
     if (!record.blnMoveUnderWay || record.blnChoosing) throw Refusal("No group is in move.");

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "ai/hint.h"
 #include "core/square.h"
 #include "rules/questions/odds.h"
 #include "rules/questions/reach.h"
@@ -31,7 +32,11 @@ struct OddsAnswer {
 struct Answers {
     std::optional<std::vector<ReachedSquare>> reach;
     std::optional<OddsAnswer> odds;
+    std::optional<Hint> hint;
 };
+
+/// What an attack that a hint tells of would come to.
+AttackOdds OddsOfHint(const Attacked& attack);
 
 /// The squares that the group in move can still reach, the cheapest first. Throws Refusal when no
 /// group is in move.

@@ -31,6 +31,30 @@ Json ToJson(const std::optional<AttackOdds>& attack) {
             {"burns", attack->burns}};
 }
 
+std::string_view WordOf(PlanKind kind) {
+    if (kind == PlanKind::March) return "march";
+    return kind == PlanKind::Attack ? "attack" : "pass";
+}
+
+Path WholeWay(const Plan& plan) {
+    Path way;
+    if (plan.kind == PlanKind::March) way.push_back(plan.start);
+    for (const Square square : plan.path) way.push_back(square);
+    return way;
+}
+
+Json ToJson(const Hint& hint) {
+    const Plan& plan = hint.plan;
+    const bool passes = plan.kind == PlanKind::Pass;
+    return {{"kind", WordOf(plan.kind)},
+            {"from", passes ? Json(nullptr) : SquareJson(plan.start)},
+            {"people", PeopleJson(plan.people)},
+            {"path", PathJson(WholeWay(plan))},
+            {"target", hint.attack ? SquareJson(hint.attack->to) : Json(nullptr)},
+            {"odds", hint.attack ? ToJson(OddsOfHint(*hint.attack)) : Json(nullptr)},
+            {"sentence", hint.sentence}};
+}
+
 }  // namespace
 
 Json SquareJson(Square square) { return Json::array({square.X, square.Y}); }
@@ -41,12 +65,19 @@ Json PathJson(const Path& path) {
     return list;
 }
 
+Json PeopleJson(PeopleSet people) {
+    Json list = Json::array();
+    for (const std::uint8_t i : people) list.push_back(i);
+    return list;
+}
+
 void AddAnswers(Json& object, const Answers& answers) {
     if (answers.reach) object["reach"] = ReachJson(*answers.reach);
     if (answers.odds) {
         object["odds"] = {{"command", ToJson(answers.odds->command)},
                           {"direct", ToJson(answers.odds->direct)}};
     }
+    object["hint"] = answers.hint ? ToJson(*answers.hint) : Json(nullptr);
 }
 
 }  // namespace qarn

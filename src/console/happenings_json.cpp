@@ -7,12 +7,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json ToJson(PeopleSet people) {
-    Json list = Json::array();
-    for (const std::uint8_t i : people) list.push_back(i);
-    return list;
-}
-
 Json ToJson(const std::optional<int>& roll) { return roll ? Json(*roll) : Json(nullptr); }
 
 std::string_view WordOf(AttackResult result) {
@@ -23,7 +17,7 @@ std::string_view WordOf(AttackResult result) {
 Json ToJson(const Moved& moved) {
     return {{"what", "move"},
             {"side", moved.side},
-            {"people", ToJson(moved.people)},
+            {"people", PeopleJson(moved.people)},
             {"path", PathJson(moved.path)}};
 }
 
@@ -43,7 +37,7 @@ Json ToJson(const Attacked& attack) {
 
 Json ToJson(const Lost& lost) {
     return {{"what", "lost"},
-            {"people", ToJson(lost.people)},
+            {"people", PeopleJson(lost.people)},
             {"side", lost.side},
             {"at", SquareJson(lost.at)}};
 }
@@ -53,8 +47,9 @@ Json ToJson(const Burned& burned) {
 }
 
 Json ToJson(const Returned& returned) {
-    return {
-        {"what", "return"}, {"people", ToJson(returned.people)}, {"at", SquareJson(returned.at)}};
+    return {{"what", "return"},
+            {"people", PeopleJson(returned.people)},
+            {"at", SquareJson(returned.at)}};
 }
 
 Json ToJson(const TurnCame& turn) { return {{"what", "turn"}, {"side", turn.side}}; }

@@ -110,7 +110,7 @@ Session::Session(const DesktopPorts& desktop)
 }
 
 std::span<const Session::Command> Session::Commands() {
-    static constexpr std::array<Command, 18> commands{{
+    static constexpr std::array<Command, 19> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -128,6 +128,7 @@ std::span<const Session::Command> Session::Commands() {
         {"state", 0, 0, false, &Session::ShowState},
         {"reach", 0, 2, true, &Session::AskReach},
         {"odds", 4, 4, true, &Session::AskOdds},
+        {"hint", 0, 0, true, &Session::AskHint},
         {"close", 0, 0, true, &Session::Close},
     }};
     return commands;
@@ -234,6 +235,10 @@ void Session::SetTick(const std::string& word, bool ticked) {
 void Session::ChooseMenu(const Words& words) {
     const MenuCommand& command = RequireChoosable(game_, words[1]);
     Run(std::string(command.Name) + "_Click", command.Click);
+    if (std::exchange(game_.blnHintWanted, false)) {
+        Run("ShowHint",
+            [&](Game& game) { answers_.hint = ShowHint(game, ChooseAtOnce(ChoiceOfHint(game))); });
+    }
 }
 
 void Session::PassTime(const Words& words) {
@@ -311,6 +316,8 @@ void Session::AskOdds(const Words& words) {
     answers_.odds =
         OddsOfStack(game_.record, ParseSquare(words[1], words[2]), ParseSquare(words[3], words[4]));
 }
+
+void Session::AskHint(const Words&) { ChooseMenu({"menu", "mnuHint"}); }
 
 void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
 

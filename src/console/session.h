@@ -65,6 +65,7 @@ private:
     void ShowState(const Words& words);
     void AskReach(const Words& words);
     void AskOdds(const Words& words);
+    void AskHint(const Words& words);
     void Close(const Words& words);
 
     void ExecuteOrThrow(const Words& words);

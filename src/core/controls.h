@@ -59,6 +59,15 @@ struct Marker {
     bool Visible = false;
 };
 
+/// A hint: an arrow on the board, and what the status line says beside it.
+struct HintMark {
+    Path Way = {};             ///< the squares of the arrow, the start first; none: no arrow
+    std::string Caption = {};  ///< stands at its head
+    bool Visible = false;
+    std::string Sentence = {};
+    std::string StatusBefore = {};  ///< the status line without it
+};
+
 struct MenuState {
     bool Enabled = true;
     bool Visible = true;
@@ -93,6 +102,7 @@ struct Controls {
     Label lblSummary;
     Marker fraQuickDetails;
     Marker shpHighlight;
+    HintMark Hint;
 
     MenuState File;
     MenuState mnuPeopleDetails;

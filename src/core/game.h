@@ -31,6 +31,8 @@ struct Game {
     /// it is when another game is opened.
     std::array<std::string_view, 3> opponent{"", classicOpponent, classicOpponent};
 
+    bool blnHintWanted = false;  ///< until the front end has it found and shown
+
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have
     bool blnLeftByOpen = false;  ///< it was closed last for a saved game to be chosen

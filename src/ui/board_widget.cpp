@@ -14,6 +14,8 @@
 #include "core/board_geometry.h"
 #include "ui/board_accessible.h"
 #include "ui/code_layout.h"
+#include "ui/hint_caption.h"
+#include "ui/paint_hint.h"
 #include "ui/paint_square_role.h"
 #include "ui/square_text.h"
 #include "ui/text.h"
@@ -88,6 +90,7 @@ void BoardWidget::BringUpToDate() {
     });
     ShowRoles();
     ShowHighlight();
+    ShowHint();
 }
 
 void BoardWidget::ShowRoles() {
@@ -110,6 +113,15 @@ void BoardWidget::ShowHighlight() {
     UpdateSquare(highlight_);
     highlight_ = square;
     UpdateSquare(highlight_);
+}
+
+void BoardWidget::ShowHint() {
+    const HintMark& hint = game_.controls.Hint;
+    const QString caption = ToQt(hint.Caption);
+    if (hint.Way == hintWay_ && caption == hintCaption_) return;
+    hintWay_ = hint.Way;
+    hintCaption_ = caption;
+    update();
 }
 
 void BoardWidget::UpdateSquare(QPoint square) {
@@ -152,10 +164,16 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
     PlaceLines();  // the window may have come to a screen of another pixel ratio
     QPainter painter(this);
     PaintLines(painter);
-    ForEachSquare([&](QPoint square) {
-        if (event->region().intersects(PlaceOfSquare(square))) PaintSquare(painter, square);
-    });
+    const auto forEachShown = [&](auto paint) {
+        ForEachSquare([&](QPoint square) {
+            if (event->region().intersects(PlaceOfSquare(square))) paint(square);
+        });
+    };
+    forEachShown([&](QPoint square) { PaintGround(painter, square); });
+    PaintHint(painter);
+    forEachShown([&](QPoint square) { PaintCodes(painter, square); });
     PaintOutlines(painter);
+    PaintCaptionOfHint(painter);
 }
 
 void BoardWidget::PaintLines(QPainter& painter) const {
@@ -167,19 +185,31 @@ void BoardWidget::PaintLines(QPainter& painter) const {
     }
 }
 
-void BoardWidget::PaintSquare(QPainter& painter, QPoint square) const {
-    const ShownSquare& label = SquareOf(shown_, square);
-    const QRectF inner = InnerSquare(square);
-    painter.fillRect(inner, ToQt(label.BackColor));
+void BoardWidget::PaintGround(QPainter& painter, QPoint square) const {
+    painter.fillRect(InnerSquare(square), ToQt(SquareOf(shown_, square).BackColor));
     PaintRole(painter, square);
-    if (label.caption.isEmpty()) return;
-    painter.setPen(ToQt(label.ForeColor));
-    PaintCodes(painter, label.caption, inner);
 }
 
-void BoardWidget::PaintCodes(QPainter& painter, const QString& caption, const QRectF& inner) const {
-    const QStringList codes = CodesOf(caption);
-    const CodeLayout layout = LayOutCodes(codes, inner, font());
+// Below the codes, which stay readable.
+void BoardWidget::PaintHint(QPainter& painter) const {
+    if (hintWay_.empty()) return;
+    std::vector<QRectF> squares;
+    for (const Square square : hintWay_) squares.push_back(InnerSquare({square.X, square.Y}));
+    PaintHintArrow(painter, squares);
+}
+
+void BoardWidget::PaintCaptionOfHint(QPainter& painter) const {
+    if (hintCaption_.isEmpty()) return;
+    const CaptionPlace place = PlaceOfCaption(game_.controls, hintWay_);
+    PaintHintCaption(painter, InnerSquare(place.square), place.where, hintCaption_);
+}
+
+void BoardWidget::PaintCodes(QPainter& painter, QPoint square) const {
+    const ShownSquare& label = SquareOf(shown_, square);
+    if (label.caption.isEmpty()) return;
+    painter.setPen(ToQt(label.ForeColor));
+    const QStringList codes = CodesOf(label.caption);
+    const CodeLayout layout = LayOutCodes(codes, InnerSquare(square), font());
     painter.setFont(layout.font);
     for (qsizetype i = 0; i < codes.size(); ++i) {
         painter.drawText(layout.cells[static_cast<std::size_t>(i)],

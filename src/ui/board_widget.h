@@ -68,13 +68,16 @@ private:
     void PlaceLines();
     QRectF InnerSquare(QPoint square) const;
     void PaintLines(QPainter& painter) const;
-    void PaintSquare(QPainter& painter, QPoint square) const;
-    void PaintCodes(QPainter& painter, const QString& caption, const QRectF& inner) const;
+    void PaintGround(QPainter& painter, QPoint square) const;
+    void PaintCodes(QPainter& painter, QPoint square) const;
     double Thick() const;  // half an outline
     void PaintRole(QPainter& painter, QPoint square) const;
     void PaintOutlines(QPainter& painter) const;
+    void PaintHint(QPainter& painter) const;
+    void PaintCaptionOfHint(QPainter& painter) const;
     void ShowRoles();
     void ShowHighlight();
+    void ShowHint();
     void Hover(QPoint square);
     void TellCursor();
     void UpdateSquare(QPoint square);
@@ -86,6 +89,8 @@ private:
     std::array<double, rowCount + 1> rowLines_{};        // from the top
     std::vector<MarkedSquare> roles_;
     QPoint highlight_;  // (0, 0): none
+    Path hintWay_;      // empty: there is no hint
+    QString hintCaption_;
     QPoint cursor_{columnCount / 2, rowCount / 2};
     QPoint hovered_;  // (0, 0): none
     QPoint pressed_;  // (0, 0): none

@@ -13,6 +13,7 @@
 #include "ui/window_icon.h"
 #include "ui/window_place.h"
 #include "window/board_clicks.h"
+#include "window/hint_mark.h"
 #include "window/load_game.h"
 #include "window/run_event.h"
 #include "window/save_game.h"
@@ -133,6 +134,16 @@ void FrmGame::changeEvent(QEvent* event) {
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || fitsScreen_) return;
     fitsScreen_ = true;
     FitOnScreen(*this);
+}
+
+// What the focused widget has no use for.
+void FrmGame::keyPressEvent(QKeyEvent* event) {
+    const bool hint = game_.blnHintWanted || game_.controls.Hint.Visible;
+    if (event->key() == Qt::Key_Escape && hint) {
+        Run("DropHint", DropHint);
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void FrmGame::closeEvent(QCloseEvent* event) {

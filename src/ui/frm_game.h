@@ -35,6 +35,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
@@ -48,8 +49,10 @@ private:
 
     void PrepareTimer();
     void FollowComputer();
+    std::optional<Choice> ToBeThoughtOver() const;
     bool BeginsToThink();
     bool IsThinking() const;
+    void ShowFoundHint();
     void TimeIsUp();
 
     QtDialogs dialogs_;

@@ -1,5 +1,6 @@
-// The computer's turns in the game window.
+// The computer's turns in the game window, and its hints.
 
+#include "ai/hint.h"
 #include "ai/turn_driver.h"
 #include "core/opponents.h"
 #include "ui/frm_game.h"
@@ -22,13 +23,20 @@ void FrmGame::FollowComputer() {
     } else if (begins || (!tmrAI_.isActive() && !IsThinking())) {
         tmrAI_.start();
     }
+    ShowFoundHint();
+}
+
+// A hint is wished for when no opponent is to choose.
+std::optional<Choice> FrmGame::ToBeThoughtOver() const {
+    if (game_.blnHintWanted) return ChoiceOfHint(game_);
+    if (!game_.controls.tmrAI.Enabled) return std::nullopt;
+    const std::optional<Choice> due = DueChoice(game_);
+    return due && AnswersItself(due->opponent) ? due : std::nullopt;
 }
 
 // What the game no longer asks for is dropped, whatever has come between.
 bool FrmGame::BeginsToThink() {
-    std::optional<Choice> due;
-    if (game_.controls.tmrAI.Enabled) due = DueChoice(game_);
-    if (due && !AnswersItself(due->opponent)) due.reset();
+    const std::optional<Choice> due = ToBeThoughtOver();
     if (!due) {
         if (thinker_) thinker_->Drop();
         return false;
@@ -36,6 +44,7 @@ bool FrmGame::BeginsToThink() {
     if (!thinker_) {
         thinker_ = std::make_unique<Thinker>();
         connect(thinker_.get(), &Thinker::Decided, this, [this] {
+            ShowFoundHint();
             if (thinker_->HasDecided() && !tmrAI_.isActive()) TimeIsUp();
         });
     }
@@ -46,6 +55,13 @@ bool FrmGame::BeginsToThink() {
 
 bool FrmGame::IsThinking() const {
     return thinker_ && thinker_->Current() && !thinker_->HasDecided();
+}
+
+// Not while a box stands open: it may change what the hint was found for.
+void FrmGame::ShowFoundHint() {
+    if (running_ || !game_.blnHintWanted || !thinker_ || !thinker_->HasDecided()) return;
+    game_.blnHintWanted = false;
+    Run("ShowHint", [this](Game& game) { ShowHint(game, thinker_->Take()); });
 }
 
 void FrmGame::TimeIsUp() {

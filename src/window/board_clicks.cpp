@@ -3,26 +3,13 @@
 #include "core/board_geometry.h"
 #include "core/details_mode.h"
 #include "core/eight_bit.h"
+#include "core/enumerate.h"
 #include "core/game.h"
 #include "rules/combat.h"
 #include "rules/movement.h"
 
 namespace qarn {
 namespace {
-
-// Consecutive equal names are named once, with their number.
-std::string Enumerate(const std::vector<std::string_view>& names) {
-    std::string text;
-    for (std::size_t first = 0; first < names.size();) {
-        std::size_t next = first + 1;
-        while (next < names.size() && names[next] == names[first]) ++next;
-        if (first > 0) text += ", ";
-        text += names[first];
-        if (next - first > 1) text += " (" + std::to_string(next - first) + ")";
-        first = next;
-    }
-    return text;
-}
 
 void TakeClick(GameRecord& record) {
     record.bytClickX = record.bytCurrentX;

@@ -14,6 +14,7 @@
 #include "shell/kept_opponents.h"
 #include "shell/user_settings.h"
 #include "window/board_clicks.h"
+#include "window/hint_mark.h"
 #include "window/house_rules.h"
 #include "window/load_game.h"
 #include "window/opponents_turn.h"
@@ -112,6 +113,8 @@ constexpr std::array menuCommands{
                   [](const Game& game) { return game.record.house.ownGroupsOnly; }),
     HouseRuleItem("mnuOneTurnForABurning", "One &Turn for a Burning", mnuOneTurnForABurning_Click,
                   [](const Game& game) { return game.record.house.oneTurnForABurning; }),
+    MenuCommand{playMenu, "mnuHint", "&Hint", "Ctrl+H", mnuHint_Click, nullptr, false, "",
+                IsHintOffered},
     MenuCommand{helpMenu, "mnuGetStarted", "&Getting Started", "", mnuGetStarted_Click},
     MenuCommand{helpMenu, "mnuHelp", "&Help", "F1", mnuHelp_Click},
     MenuCommand{helpMenu, "", "", "", nullptr},

@@ -2,6 +2,7 @@
 
 #include "core/failure_text.h"
 #include "core/game.h"
+#include "window/hint_mark.h"
 
 namespace qarn {
 namespace {
@@ -26,6 +27,7 @@ bool RunEvent(Game& game, std::string_view name, const std::function<void(Game&)
     game.happenings.clear();
     try {
         handler(game);
+        if (!game.happenings.empty()) ForgetHint(game);  // the game has gone on
     } catch (const ProgramEnd& end) {
         game.blnOpen = false;
         game.blnEnded = true;

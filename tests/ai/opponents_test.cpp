@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ai/choosers.h"
+#include "ai/hint.h"
 #include "ai/match_game.h"
 #include "ai/opponents/levels.h"
 #include "ai/opponents/turns.h"
@@ -100,6 +101,39 @@ TEST(Levels, TakeAWinThatIsThere) {
         Position after = PositionOf(played.game.record);
         EXPECT_EQ(PlayTurn(after, *plan, {}).winner, 1) << name;
     }
+}
+
+// ---- Hints ----
+
+std::string HintIn(const std::string& position, Plan plan) {
+    const PlayedGame played(position);
+    if (plan.kind == PlanKind::March && plan.people.Empty()) {
+        plan.people = PeopleOn(PositionOf(played.game.record), plan.start);
+    }
+    return HintOf(played.game.record, plan).sentence;
+}
+
+TEST(Hint, TellsAPlanInASentence) {
+    const Plan march{.kind = PlanKind::March, .start = {9, 10}, .path = {{10, 10}, {11, 10}}};
+    const Plan attack{.kind = PlanKind::Attack, .start = {14, 4}, .target = {15, 4}};
+    const Plan direct{.kind = PlanKind::March, .start = {14, 4}, .path = {{15, 4}}};
+    const std::string friends = "WS@9,10 TS@9,10 BT@9,10 BT@9,10 Z@1,1";
+    const std::string gallowrock = "WS@14,4 LS@14,4 WA@15,4 Z@1,1";
+    EXPECT_EQ(HintIn(friends, march), "Hint: TS, WS, BT (2) from (9, 10) to (11, 10).");
+    EXPECT_EQ(HintIn(friends + " Q@11,10 BT@11,10", march),
+              "Hint: TS, WS, BT (2) from (9, 10) to (11, 10), joining Q.");
+    EXPECT_EQ(HintIn("LS@9,10 SK@9,10 ZA1@11,10 Z@1,1", march),
+              "Hint: LS, SK from (9, 10) to (11, 10), attack: wins 2 of 5, ties 1 of 5.");
+    EXPECT_EQ(HintIn("LS@9,10 SK@9,10 ZA1@10,10 Z@1,1", march),
+              "Hint: LS, SK from (9, 10) to (10, 10), attack: wins 2 of 5, ties 1 of 5.");
+    EXPECT_EQ(HintIn("15,4=0 " + gallowrock, attack),
+              "Hint: Attack command, (14, 4) against (15, 4): wins 5 of 5.");
+    EXPECT_EQ(HintIn(gallowrock, attack),
+              "Hint: Attack command, (14, 4) against (15, 4): burns it down.");
+    EXPECT_EQ(HintIn(gallowrock, direct),
+              "Hint: LS, WS from (14, 4) to (15, 4), attack: burns it down.");
+    EXPECT_EQ(HintIn(gallowrock, {}), "Hint: pass, there is nothing better.");
+    EXPECT_EQ(HintIn(gallowrock, march), HintIn(gallowrock, {}));  // which the rules refuse
 }
 
 }  // namespace

@@ -97,6 +97,27 @@ TEST(OddsCommand, TellsBothWaysOfAttacking) {
     }
 }
 
+// The Corsair is the last of his side, and beaten for certain.
+TEST(Hints, TellAndShowTheWinThatIsThere) {
+    ConsoleGame game(SavedGame("WS@12,10 TS@12,10 Q@9,10 Z@15,10"));
+    const auto objects = game.ForProgram(
+        "state; menu mnuHint; hint; press cmdMove; click 9 10; press cmdDoneSel; click 10 10; "
+        "hint");
+    EXPECT_TRUE(objects[0]["hint"].is_null());
+    const Json& hint = objects[2]["hint"];
+    EXPECT_EQ(hint, objects[1]["hint"]);
+    EXPECT_EQ(hint["target"], (Json{15, 10}));
+    EXPECT_EQ(hint["odds"]["win"], 1.0);
+    EXPECT_EQ(hint["path"].front(), hint["from"]);
+    EXPECT_EQ(objects[2]["lblStatus"], hint["sentence"]);
+    EXPECT_EQ(objects[2]["record"], objects[0]["record"]);
+    EXPECT_EQ(objects[7]["error"], "mnuHint can not be chosen now.");
+    EXPECT_TRUE(objects[7]["hint"].is_null());
+    WriteFile(game.path, SavedGame("WS@12,10 TS@12,10 Q@9,10 Z@15,10"));
+    const std::string sentence = hint["sentence"];
+    EXPECT_NE(game.ForPerson("hint").find("\n" + sentence + "\n"), std::string::npos);
+}
+
 TEST(Answers, ForAPerson) {
     ConsoleGame game(SavedGame("LS@14,4 SK@14,4 WA@15,4 ZA1@14,5 Z@9,1 BT@18,1"));
     const std::string text =

@@ -13,7 +13,7 @@ PAGE = os.path.join(os.path.dirname(__file__), "../../docs/protocol.md")
 NEW = "new g.tgf HM Red human Blue human"
 KEYS = """ok error boxes help ended open caption record squares buttons terrainKey chkItems menus
     lblStatus lblDetailMore lblSummary lblTerrainDescription fraQuickDetails shpHighlight tmrAI
-    blnAIBusy happenings level house""".split()
+    blnAIBusy happenings level house hint""".split()
 RECORD_KEYS = """bytScenario bytTurn strPlayerName blnComputer bytPeopleLeft strGameName strGamePath
     bytCurrentX bytCurrentY blnMoveMode blnAttackMode blnDetailsMode bytMobilityLeft
     bytSelectedPeople bytTerrain People""".split()
@@ -23,9 +23,9 @@ ACCEPTED = """seed 18446744073709551615; random 0 0.99 1e-3; answer yes no retry
     press cmdDoneSel; press cmdSquareDetails; click 18 1; press cmdSeeTerDet(0);
     menu mnuPeopleDetails; menu mnuHelp; press cmdMove; press cmdAttack; press cmdAttack;
     saveas other.tgf; timer; timer 3; reach 9 10; odds 9 10 10 10;
-    house ownGroups off; state; close"""
+    house ownGroups off; hint; state; close"""
 REFUSED_WITHOUT_GAME = """click 1 1; press cmdMove; tick 1; untick 1; menu mnuSave; timer;
-    saveas x.tgf; reach; reach 1 1; odds 1 1 1 2; close"""
+    saveas x.tgf; reach; reach 1 1; odds 1 1 1 2; hint; close"""
 REFUSED = """nonsense; Click 1 1; click 0 1; click 19 1; click 1 11; click 1; click 1 1 1;
     click one 1; click 1.5 1; press; press cmdDoneSel; press cmdNothing; press cmdSeeTerDet(9);
     press cmdSeeTerDet(8); press cmdSeeTerDet(); tick 1; tick 12; untick 0; menu mnuConvertFile;
@@ -82,7 +82,7 @@ class ConsoleTest(unittest.TestCase):
         objects = self.play("random 0", "# a comment", "", NEW, "press cmdMove", "click 14 7",
                             "press cmdDoneSel", "  state  ")
         self.assertEqual(len(objects), 6)
-        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings", "level", "house"])
+        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings", "level", "house", "hint"])
         last = objects[4]
         self.assertEqual({**last, "happenings": []}, objects[5])
         self.assertEqual((list(last), list(last["record"])), (KEYS, RECORD_KEYS))
@@ -137,7 +137,7 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(self.play(NEW, "close", "click 1 1")[1:], [
             {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False,
              "happenings": [], "level": ["classic", "classic"],
-             "house": {"ownGroups": False, "oneTurnForBurning": False}} for error in ("", "The program has ended.")])
+             "house": {"ownGroups": False, "oneTurnForBurning": False}, "hint": None} for error in ("", "The program has ended.")])
         for arguments in (["--nonsense"], ["--json", "a.tgf", "b.tgf"],
                           ["--match", "classic", "nobody"]):
             run = self.run_program("", *arguments)

@@ -54,6 +54,7 @@ TEST_F(GameWindow, HasItsMenus) {
   House &Rules  
     &Own Groups Only  
     One &Turn for a Burning  
+  &Hint  Ctrl+H
 &Help  
   &Getting Started  
   &Help  F1

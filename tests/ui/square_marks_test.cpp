@@ -1,6 +1,7 @@
 #include "ui/square_marks.h"
 
 #include "support/game_window.h"
+#include "ui/hint_caption.h"
 
 namespace qarn {
 namespace {
@@ -98,6 +99,56 @@ TEST_F(GameWindow, MarksTheSquaresOfAMoveAndAnAttack) {
     EXPECT_EQ(SquaresWith(gold), "9,6 ");
     EXPECT_EQ(SquaresWith(red), "8,6 ");
     EXPECT_EQ(board->Cursor(), QPoint(8, 6));
+}
+
+// The Corsair is beaten for certain. The caption stands above him, as far from the edge of the
+// board.
+TEST_F(GameWindow, DrawsAHintUntilTheGameGoesOn) {
+    constexpr QRgb gold = 0xFFA000;
+    Open("WS@12,10 TS@12,10 Q@9,10 Z@15,10");
+    window->resize(1016, 718);
+    const QImage without = Picture();
+    const auto askForHint = [&] {
+        Key(Qt::Key_H, Qt::ControlModifier);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window->ShownGame().controls.Hint.Visible; }));
+    };
+    askForHint();
+    EXPECT_EQ(Text("lblStatus").substr(0, 6), "Hint: ");
+    EXPECT_NE(SquaresWith(gold), "");
+    EXPECT_NE(Picture().copy(PlaceOfSquare(15, 9)), without.copy(PlaceOfSquare(15, 9)));
+    ExpectBoardPainted();
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(Picture(), without);
+    EXPECT_EQ(Text("lblStatus"), "It is Red's turn.");
+
+    askForHint();
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(9, 10);
+    Key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(MenuItem("mnuHint")->isEnabled());
+    EXPECT_FALSE(window->ShownGame().controls.Hint.Way.empty());
+    ClickSquare(10, 10);
+    EXPECT_TRUE(window->ShownGame().controls.Hint.Way.empty());
+    EXPECT_FALSE(MenuItem("mnuHint")->isEnabled());
+    ExpectBoardPainted();
+
+    Key(Qt::Key_M, Qt::AltModifier);
+    Key(Qt::Key_H, Qt::ControlModifier);
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(window->ShownGame().blnHintWanted || window->ShownGame().controls.Hint.Visible);
+}
+
+TEST(HintCaption, StandsOnAnEmptySquareBesideTheLastOne) {
+    const auto placeIn = [](const std::string& position, const Path& way) {
+        const PlayedGame played(position);
+        const CaptionPlace place = PlaceOfCaption(played.game.controls, way);
+        return std::pair(place.square.x(), place.square.y());
+    };
+    EXPECT_EQ(placeIn("Z@15,10", {{14, 10}, {15, 10}}), std::pair(15, 9));
+    EXPECT_EQ(placeIn("Z@15,9", {{15, 8}, {15, 9}}), std::pair(15, 10));
+    EXPECT_EQ(placeIn("Z@15,10", {{15, 9}, {15, 10}}), std::pair(16, 10));
+    EXPECT_EQ(placeIn("Z@18,10", {{18, 9}, {18, 10}}), std::pair(17, 10));
+    EXPECT_EQ(placeIn("Z@18,10 WA@17,10", {{18, 9}, {18, 10}}), std::pair(18, 10));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "support/sequence.h"
+#include "window/hint_mark.h"
 
 namespace qarn {
 namespace {
@@ -42,6 +43,54 @@ TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
               "The setting can not be stored: No space left on device");
     played.Open();
     EXPECT_EQ(played.game.record.house, (HouseRules{true, false}));
+}
+
+TEST(MenuCommands, HintIsOfferedUntilSomebodyMoves) {
+    const std::string moving = "press cmdMove; click 9 10; press cmdDoneSel; ";
+    const std::string attacking = "press cmdAttack; click 9 10; ";
+    for (const auto& [commands, offered] :
+         {std::pair{std::string(), true},
+          {"press cmdMove; click 9 10", true},
+          {moving, true},
+          {moving + "click 9 10", true},  // refused
+          {moving + "click 9 9", false},
+          {moving + "answer yes; roll 3; click 10 10", false},  // a tie
+          {moving + "click 9 9; press cmdMove", true},
+          {attacking, true},
+          {attacking + "roll 5; click 10 10", false}}) {
+        PlayedGame played("LS@9,10 SK@9,10 BT@9,10 ZA1@10,10 Z@1,1");
+        std::istringstream each(commands);
+        for (std::string one; std::getline(each >> std::ws, one, ';');) played.Do(one);
+        EXPECT_EQ(played.Do("menu mnuHint"), offered) << commands;
+        EXPECT_EQ(played.game.blnHintWanted, offered);
+    }
+    // The computer that has found nothing leaves the choice to the person.
+    PlayedGame computers("computer1 Q@9,5 Z@17,2");
+    EXPECT_FALSE(computers.Do("menu mnuHint"));
+    computers.game.controls.tmrAI.Enabled = false;
+    EXPECT_TRUE(computers.Do("menu mnuHint"));
+}
+
+TEST(MenuCommands, HintGoesWhenTheGameGoesOn) {
+    PlayedGame played("Q@9,10 WA@17,2");
+    const Controls& controls = played.game.controls;
+    const auto put = [&] { PutHint(played.game, {.Way = {{9, 10}, {10, 10}}}, "Hint."); };
+    put();
+    put();
+    EXPECT_TRUE(controls.Hint.Visible && controls.lblStatus.Caption == "Hint.");
+    DropHint(played.game);
+    EXPECT_FALSE(controls.Hint.Visible);
+    EXPECT_EQ(controls.lblStatus.Caption, "It is Red's turn.");
+    put();
+    played.Do("press cmdMove");
+    const std::string status = controls.lblStatus.Caption;
+    DropHint(played.game);
+    EXPECT_EQ(controls.lblStatus.Caption, status);  // the sentence had gone before
+    put();
+    for (const char* command : {"click 9 10", "press cmdDoneSel"}) played.Do(command);
+    EXPECT_FALSE(controls.Hint.Way.empty());
+    played.Do("click 10 10");
+    EXPECT_TRUE(controls.Hint.Way.empty() && !controls.Hint.Visible);
 }
 
 TEST(MenuCommands, ConvertFile) {
