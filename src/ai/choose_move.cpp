@@ -32,6 +32,7 @@ std::uint64_t SeedOf(const Position& position) {
 std::optional<Choice> DueChoice(const Game& game) {
     const GameRecord& record = game.record;
     if (!IsComputersTurn(record) || IsOwnMoveUnderWay(record)) return std::nullopt;
+    if (record.Standstill.drawn) return std::nullopt;
     const std::string_view opponent = game.opponent.at(record.bytTurn);
     const bool waits =
         AnswersItself(opponent) ? IsPersonsMoveUnderWay(record) : IsPersonsMoveWaiting(record);

@@ -20,8 +20,9 @@ struct Choice {
 };
 
 /// The choice that a tick of tmrAI now makes; none when it makes none: in a person's turn, while an
-/// action is being replayed, and while a person's move is to be ended first. An opponent that
-/// answers for itself waits for any move or attack of a person, Classic for a finished move alone.
+/// action is being replayed, while a person's move is to be ended first, and after a draw. An
+/// opponent that answers for itself waits for any move or attack of a person, Classic for a
+/// finished move alone.
 std::optional<Choice> DueChoice(const Game& game);
 
 /// Has the opponent choose; nothing when it finds nothing to do. Needs no game, and may run on any

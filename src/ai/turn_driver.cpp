@@ -1,6 +1,7 @@
 #include "ai/turn_driver.h"
 
 #include "ai/action.h"
+#include "ai/draw_offer.h"
 #include "core/details_mode.h"
 #include "core/game.h"
 #include "core/opponents.h"
@@ -47,6 +48,7 @@ void tmrAI_Timer(Game& game, const ChoiceMaker& choose) {
     } else if (const std::optional<Choice> due = DueChoice(game)) {
         Act(game, AnswersItself(due->opponent), [&] {
             DropAction(game);
+            if (AnswersItself(due->opponent) && AgreesOnDraw(game)) return;
             TakeChoice(game, *due, choose(*due));
         });
     }

@@ -12,6 +12,7 @@
 #include "core/path.h"
 #include "core/people_set.h"
 #include "core/square.h"
+#include "core/standstill.h"
 
 namespace qarn {
 
@@ -115,6 +116,7 @@ struct GameRecord {
     bool blnRememberedDoneSel = false;
 
     ActionRecord Action;
+    qarn::Standstill Standstill;
 };
 
 /// The people of one square.

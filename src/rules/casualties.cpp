@@ -28,6 +28,21 @@ void DisableTransportBoxes(Game& game) {
     }
 }
 
+void TellThePerson(Game& game, const std::string& text) {
+    game.ports.dialogs.Show({.Title = {}, .Text = text, .ForThePerson = true});
+}
+
+[[noreturn]] void DeleteFileAndEnd(Game& game) {
+    const std::string& path = game.record.strGamePath;
+    try {
+        DeleteFile(path);
+    } catch (const std::system_error& error) {
+        TellThePerson(game,
+                      "The game file can not be deleted: " + error.code().message() + ".\n" + path);
+    }
+    throw ProgramEnd{};
+}
+
 }  // namespace
 
 bool StartCasualtyChoice(Game& game) {
@@ -97,17 +112,19 @@ void EndGame(Game& game) {
     const GameRecord& record = game.record;
     const std::uint8_t winner = record.bytPeopleLeft[1] > 0 ? 1 : 2;
     game.happenings.emplace_back(Ended{winner});
-    const auto tell = [&](const std::string& text) {
-        game.ports.dialogs.Show({.Title = {}, .Text = text, .ForThePerson = true});
-    };
-    tell(std::string(record.strVictoryText[winner]));
-    try {
-        DeleteFile(record.strGamePath);
-    } catch (const std::system_error& error) {
-        tell("The game file can not be deleted: " + error.code().message() + ".\n" +
-             record.strGamePath);
-    }
-    throw ProgramEnd{};
+    TellThePerson(game, std::string(record.strVictoryText[winner]));
+    DeleteFileAndEnd(game);
+}
+
+void TellDraw(Game& game) {
+    game.happenings.emplace_back(Ended{});
+    game.controls.lblStatus.Caption = "The game is a draw.";
+    TellThePerson(game, game.controls.lblStatus.Caption);
+}
+
+void EndDrawnGame(Game& game) {
+    TellDraw(game);
+    DeleteFileAndEnd(game);
 }
 
 }  // namespace qarn

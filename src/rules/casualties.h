@@ -23,4 +23,10 @@ void CountPeople(Game& game);
 /// Shows the winner's victory text, deletes the game file and ends the program (throws ProgramEnd).
 void EndGame(Game& game);
 
+/// Tells that the game is a draw.
+void TellDraw(Game& game);
+
+/// The same, and ends the game as a victory does.
+void EndDrawnGame(Game& game);
+
 }  // namespace qarn

@@ -1,5 +1,7 @@
 #include "window/opponents_turn.h"
 
+#include <utility>
+
 #include "core/game.h"
 #include "core/opponents.h"
 
@@ -18,6 +20,7 @@ bool IsPersonsMoveUnderWay(const GameRecord& record) {
 bool OpponentActs(const Game& game) {
     const GameRecord& record = game.record;
     if (!IsComputersTurn(record) || !game.controls.tmrAI.Enabled) return false;
+    if (record.Standstill.drawn) return false;
     if (IsOwnMoveUnderWay(record)) return record.Action.blnAnswersItself;
     return AnswersItself(game.opponent.at(record.bytTurn)) && !IsPersonsMoveUnderWay(record);
 }
@@ -25,8 +28,10 @@ bool OpponentActs(const Game& game) {
 void ChooseOpponent(Game& game, std::size_t side, const OpponentChoice& opponent) {
     if (game.opponent[side] == opponent.Name) return;
     game.opponent[side] = opponent.Name;
-    const GameRecord& record = game.record;
-    if (record.bytTurn == side && IsComputersTurn(record)) game.controls.tmrAI.Enabled = true;
+    GameRecord& record = game.record;
+    const bool rested = std::exchange(record.Standstill, {}).drawn;
+    if ((rested || record.bytTurn == side) && IsComputersTurn(record))
+        game.controls.tmrAI.Enabled = true;
 }
 
 }  // namespace qarn

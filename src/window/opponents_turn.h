@@ -19,7 +19,8 @@ bool IsPersonsMoveUnderWay(const GameRecord& record);
 bool OpponentActs(const Game& game);
 
 /// Has an opponent play a side, 1 or 2, while the computer does, from its next choice on. In the
-/// side's turn the computer takes up play again, where it had found nothing to do.
+/// side's turn the computer takes up play again, where it had found nothing to do; it also does
+/// after a draw.
 void ChooseOpponent(Game& game, std::size_t side, const OpponentChoice& opponent);
 
 }  // namespace qarn
