@@ -83,6 +83,10 @@ void RequireUsable(bool enabled, bool visible, std::string_view name) {
     if (!enabled) throw Refusal(std::string(name) + " is disabled.");
 }
 
+void RequireTaken(bool taken) {
+    if (!taken) throw Refusal("The opponent acts: board and buttons wait for it.");
+}
+
 const MenuCommand& RequireChoosable(const Game& game, const std::string& name) {
     const MenuCommand* command = FindMenuCommand(name);
     if (command == nullptr) throw Refusal("There is no menu item \"" + name + "\".");
@@ -198,6 +202,7 @@ void Session::Load(const std::string& path, const std::function<void()>& prepare
 
 void Session::Click(const Words& words) {
     const Square square = ParseSquare(words[1], words[2]);
+    RequireTaken(TakesClicks(game_));
     Run("lblX_Click", [&](Game& game) { lblX_Click(game, square.X, square.Y); });
 }
 
@@ -209,6 +214,7 @@ void Session::Press(const Words& words) {
         return;
     }
     const Button& button = game_.controls.*found->State;
+    RequireTaken(TakesPress(game_, *found));
     RequireUsable(button.Enabled, button.Visible, name);
     Run(std::string(found->Name) + "_Click", found->Click);
 }
@@ -228,6 +234,7 @@ void Session::Untick(const Words& words) { SetTick(words[1], false); }
 void Session::SetTick(const std::string& word, bool ticked) {
     const auto i = ParseNumber<std::size_t>(word, 1, checkBoxCount);
     const CheckBox& box = game_.controls.chkItems[i];
+    RequireTaken(!OpponentActs(game_));
     RequireUsable(box.Enabled, box.Visible, "chkItems(" + word + ")");
     Run("chkItems_Click", [=](Game& game) { game.controls.chkItems[i].Value = ticked; });
 }

@@ -18,6 +18,10 @@ struct GameState {
     bool blnOpen = false;
 };
 
+/// How long an opponent takes over each stage of its action: as long as Classic, a third of it, or
+/// none at all.
+enum class Speed { Second, Third, AtOnce };
+
 /// The game window without its widgets: what is being played, the controls it shows itself with,
 /// and the ports it talks through. Handlers take it, read it and change it.
 struct Game {
@@ -31,7 +35,8 @@ struct Game {
     /// it is when another game is opened.
     std::array<std::string_view, 3> opponent{"", classicOpponent, classicOpponent};
 
-    bool blnHintWanted = false;  ///< until the front end has it found and shown
+    Speed speed = Speed::Second;  ///< of opponents that answer for themselves
+    bool blnHintWanted = false;   ///< until the front end has it found and shown
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have

@@ -8,6 +8,7 @@
 #include "ui/design.h"
 #include "ui/text.h"
 #include "window/buttons.h"
+#include "window/opponents_turn.h"
 
 namespace qarn {
 namespace {
@@ -20,9 +21,9 @@ constexpr auto widestCaption = "Square Information";
 constexpr double captionRoom = cmdSquareDetailsTwips.width() / twipsPerPixel - 6;
 constexpr double tightestSpacing = 0.92;
 
-void ShowButton(QPushButton* widget, const Button& button) {
+void ShowButton(QPushButton* widget, const Button& button, bool usable = true) {
     widget->setText(ToQt(button.Caption));
-    widget->setEnabled(button.Enabled);
+    widget->setEnabled(button.Enabled && usable);
     widget->setVisible(button.Visible);
 }
 
@@ -174,10 +175,10 @@ void ControlPanel::MakeFloatingFrames() {
 void ControlPanel::Show(const Game& game) {
     const Controls& controls = game.controls;
     ShowCheckBoxes(game);
-    ShowButton(cmdDoneSel_, controls.cmdDoneSel);
-    ShowButton(cmdAttack_, controls.cmdAttack);
-    ShowButton(cmdMove_, controls.cmdMove);
-    ShowButton(cmdSquareDetails_, controls.cmdSquareDetails);
+    for (QPushButton* widget : {cmdDoneSel_, cmdAttack_, cmdMove_, cmdSquareDetails_}) {
+        const WindowButton& button = *FindButton(widget->objectName().toStdString());
+        ShowButton(widget, controls.*button.State, TakesPress(game, button));
+    }
     ShowTerrainKey(controls);
     lblDetailMore_->ShowText(ToLabelText(controls.lblDetailMore.Caption));
     lblStatus_->Tell(ToLabelText(controls.lblStatus.Caption));
@@ -185,11 +186,12 @@ void ControlPanel::Show(const Game& game) {
 }
 
 void ControlPanel::ShowCheckBoxes(const Game& game) {
+    const bool usable = !OpponentActs(game);
     for (std::size_t i = 1; i <= checkBoxCount; ++i) {
         const CheckBox& chkItem = game.controls.chkItems[i];
         QCheckBox* box = chkItems_[i];
         box->setText(ToQt(chkItem.Caption).trimmed());
-        box->setEnabled(chkItem.Enabled);
+        box->setEnabled(chkItem.Enabled && usable);
         box->setVisible(chkItem.Visible);
         box->setChecked(chkItem.Value);
         if (!chkItem.Visible) continue;
@@ -221,6 +223,10 @@ void ControlPanel::ShowFloatingFrames(const Controls& controls) {
     area_->Place(fraQuickDetails_, FraQuickDetailsTwips(frame.Left, frame.Top));
     lblSummary_->ShowText(ToLabelText(controls.lblSummary.Caption));
     fraQuickDetails_->setVisible(frame.Visible);
+}
+
+void ControlPanel::MakeRoomForStrip(bool room) {
+    area_->Place(lblStatus_, room ? lblStatusBesideStripTwips : lblStatusTwips);
 }
 
 // ---- Focus ----

@@ -29,6 +29,9 @@ public:
     /// Brings every widget up to date.
     void Show(const Game& game);
 
+    /// Makes room for a strip beside the status line, or gives the room back.
+    void MakeRoomForStrip(bool room);
+
     /// Gives the focus to a control that a handler has chosen.
     void FocusOn(Control control);
 

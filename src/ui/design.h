@@ -23,6 +23,9 @@ inline constexpr QRect cmdDoneSelTwips(120, 2760, 1695, 375);
 inline constexpr QRect cmdAttackTwips(13320, 8880, 1695, 375);
 inline constexpr QRect cmdMoveTwips(13320, 9360, 1695, 375);
 inline constexpr QRect lblStatusTwips(120, 9840, 8895, 495);
+// The status line gives room for the strip beside it.
+inline constexpr QRect lblStatusBesideStripTwips(120, 9840, 6300, 495);
+inline constexpr QRect opponentStripTwips(6480, 9810, 6720, 540);
 inline constexpr QRect quickInfoTitleTwips(90, 60, 1395, 240);
 inline constexpr QRect lblSummaryTwips(90, 315, 1395, 855);
 

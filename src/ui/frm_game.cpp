@@ -15,6 +15,7 @@
 #include "window/board_clicks.h"
 #include "window/hint_mark.h"
 #include "window/load_game.h"
+#include "window/opponents_turn.h"
 #include "window/run_event.h"
 #include "window/save_game.h"
 
@@ -28,7 +29,9 @@ bool IsArrow(int key) {
 }  // namespace
 
 FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
-    : dialogs_(this, [this] { ShowWidgets(); }),
+    : dialogs_(
+          this, [this] { ShowWidgets(); },
+          [this](const MessageBox& box, Answer answer) { TellAnswered(box, answer); }),
       help_(desktop.folders.program, dialogs_),
       game_{
           .record = {},
@@ -43,6 +46,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
     area_->Place(board_, boardTwips);
     board_->setFocus();
     connect(board_, &BoardWidget::SquareClicked, this, [this](int X, int Y) {
+        if (!TakesClicks(game_)) return;
         Run("lblX_Click", [=](Game& game) { lblX_Click(game, X, Y); });
     });
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
@@ -59,6 +63,7 @@ void FrmGame::Open(const std::string& strGamePath) {
 }
 
 void FrmGame::Run(const std::string& name, const std::function<void(Game&)>& handler) {
+    if (strip_ != nullptr && !OpponentActs(game_)) strip_->Dismiss();
     RunAlone([&] { RunEvent(game_, name, handler); });
 }
 
@@ -141,6 +146,9 @@ void FrmGame::keyPressEvent(QKeyEvent* event) {
     const bool hint = game_.blnHintWanted || game_.controls.Hint.Visible;
     if (event->key() == Qt::Key_Escape && hint) {
         Run("DropHint", DropHint);
+    } else if (event->key() == Qt::Key_Escape && IsThinking()) {
+        tmrAI_.stop();  // it need not wait for its time
+        thinker_->DecideNow();
     } else {
         QMainWindow::keyPressEvent(event);
     }

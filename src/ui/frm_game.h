@@ -13,6 +13,7 @@
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
 #include "ui/game_menus.h"
+#include "ui/opponent_strip.h"
 #include "ui/qt_ports.h"
 #include "ui/scaled_area.h"
 #include "ui/thinker.h"
@@ -34,8 +35,8 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
@@ -54,6 +55,11 @@ private:
     bool IsThinking() const;
     void ShowFoundHint();
     void TimeIsUp();
+    std::optional<Plan> MakeChoice(const Choice& choice);
+    OpponentStrip& Strip();
+    bool TellsMore() const;
+    void TellAnswered(const MessageBox& box, Answer answer);
+    void ShowThinking();
 
     QtDialogs dialogs_;
     HelpProgram help_;
@@ -67,6 +73,8 @@ private:
     GameMenus menus_;
     QTimer tmrAI_{this};
     std::unique_ptr<Thinker> thinker_;  // of opponents that look ahead, once one has played
+    OpponentStrip* strip_ = nullptr;    // ... and theirs
+    std::string_view acting_;           // the opponent that chose last
     QPointer<QDialog> about_;
 };
 

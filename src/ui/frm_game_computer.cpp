@@ -2,10 +2,23 @@
 
 #include "ai/hint.h"
 #include "ai/turn_driver.h"
+#include "core/captions.h"
 #include "core/opponents.h"
+#include "ui/design.h"
 #include "ui/frm_game.h"
+#include "ui/text.h"
+#include "window/opponents_turn.h"
+#include "window/speed.h"
+#include "window/told_of_opponent.h"
 
 namespace qarn {
+namespace {
+
+std::string NameOf(std::string_view opponent) {
+    return PlainCaption(FindOpponentChoice(opponent)->Caption);
+}
+
+}  // namespace
 
 void FrmGame::PrepareTimer() {
     tmrAI_.setObjectName("tmrAI");
@@ -15,14 +28,17 @@ void FrmGame::PrepareTimer() {
 }
 
 // A tick comes when its time is up. An opponent thinks in that time; when it needs longer, the tick
-// waits for it.
+// waits for it, as it does until every box has been told.
 void FrmGame::FollowComputer() {
     const bool begins = BeginsToThink();
-    if (!game_.controls.tmrAI.Enabled) {
+    const int interval = OpponentActs(game_) ? MillisecondsOf(game_.speed) : tmrAIInterval;
+    if (tmrAI_.interval() != interval) tmrAI_.setInterval(interval);
+    if (!game_.controls.tmrAI.Enabled || TellsMore()) {
         tmrAI_.stop();
     } else if (begins || (!tmrAI_.isActive() && !IsThinking())) {
         tmrAI_.start();
     }
+    ShowThinking();
     ShowFoundHint();
 }
 
@@ -65,12 +81,44 @@ void FrmGame::ShowFoundHint() {
 }
 
 void FrmGame::TimeIsUp() {
-    if (IsThinking()) return;
-    RunAlone([this] {
-        Tick(game_, [this](const Choice& choice) {
-            return AnswersItself(choice.opponent) ? thinker_->Take() : ChooseAtOnce(choice);
+    if (IsThinking() || TellsMore()) return;
+    RunAlone([this] { Tick(game_, [this](const Choice& choice) { return MakeChoice(choice); }); });
+}
+
+std::optional<Plan> FrmGame::MakeChoice(const Choice& choice) {
+    acting_ = choice.opponent;
+    const bool thought = thinker_ && thinker_->Current() == choice;
+    return thought ? thinker_->Take() : ChooseAtOnce(choice);
+}
+
+// ---- What is told of an opponent ----
+
+OpponentStrip& FrmGame::Strip() {
+    if (strip_ == nullptr) {
+        strip_ = new OpponentStrip(area_);
+        area_->Place(strip_, opponentStripTwips);
+        connect(strip_, &OpponentStrip::Changed, this, [this] {
+            panel_.MakeRoomForStrip(!strip_->isHidden());
+            if (!running_) FollowComputer();
         });
-    });
+    }
+    return *strip_;
+}
+
+bool FrmGame::TellsMore() const { return strip_ != nullptr && strip_->HasMore(); }
+
+void FrmGame::TellAnswered(const MessageBox& box, Answer answer) {
+    Strip().Tell(ToQt(ToldOfOpponent(NameOf(acting_), box, answer)), MillisecondsOf(game_.speed));
+}
+
+void FrmGame::ShowThinking() {
+    if (IsThinking()) {
+        const std::string name = NameOf(thinker_->Current()->opponent);
+        Strip().ShowThinking(ToQt(game_.blnHintWanted ? "Finding a hint. Esc: never mind."
+                                                      : name + " is thinking. Esc: decide now."));
+    } else if (strip_ != nullptr) {
+        strip_->ShowThinking({});
+    }
 }
 
 }  // namespace qarn

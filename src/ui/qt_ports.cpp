@@ -66,8 +66,8 @@ std::string ChosenFile(QFileDialog& dialog) {
 
 }  // namespace
 
-QtDialogs::QtDialogs(QWidget* window, std::function<void()> beforeBox)
-    : window_(window), beforeBox_(std::move(beforeBox)) {}
+QtDialogs::QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered)
+    : window_(window), beforeBox_(std::move(beforeBox)), tellAnswered_(std::move(tellAnswered)) {}
 
 Answer QtDialogs::Ask(const MessageBox& box) {
     beforeBox_();

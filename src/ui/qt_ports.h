@@ -11,8 +11,11 @@ namespace qarn {
 /// Boxes and file dialogs over one window.
 class QtDialogs : public Dialogs {
 public:
-    /// `beforeBox` runs before each box, so that what the box comments on is on screen.
-    QtDialogs(QWidget* window, std::function<void()> beforeBox);
+    using TellAnswered = std::function<void(const MessageBox&, Answer)>;
+
+    /// `beforeBox` runs before each box, so that what the box comments on is on screen. Where
+    /// opponents play, `tellAnswered` gets each box that one of them has answered.
+    QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered = {});
 
     std::string AskSaveFileName(const std::string& path) override;
     std::string AskOpenFileName(const std::string& folder) override;
@@ -21,11 +24,11 @@ public:
 
 private:
     Answer Ask(const MessageBox& box) override;
-    // The windows offer no opponent yet that answers for itself.
-    void ShowAnswered(const MessageBox&, Answer) override {}
+    void ShowAnswered(const MessageBox& box, Answer answer) override { tellAnswered_(box, answer); }
 
     QWidget* window_;
     std::function<void()> beforeBox_;
+    TellAnswered tellAnswered_;
 };
 
 /// The dice: a sequence of its own for every game.

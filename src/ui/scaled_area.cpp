@@ -14,6 +14,7 @@ void ScaledArea::Place(QWidget* widget, const QRect& twips) {
                                     [&](const Placed& placed) { return placed.widget == widget; });
     if (known == placed_.end()) {
         placed_.push_back({widget, twips});
+        Apply(placed_.back());
     } else if (known->twips != twips) {
         known->twips = twips;
         Apply(*known);

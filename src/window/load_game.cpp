@@ -14,6 +14,7 @@
 #include "shell/file_commands.h"
 #include "shell/user_settings.h"
 #include "window/house_rules.h"
+#include "window/speed.h"
 
 namespace qarn {
 namespace {
@@ -34,6 +35,7 @@ void ClearGame(Game& game) {
     game.controls.mnuAbout = mnuAbout;
     LoadSummarySetting(game);
     LoadHouseRules(game);
+    LoadSpeed(game);
     LoadFileTypeMark(game);
     game.ports.random.Seed();
     ClearBoard(game);

@@ -19,6 +19,7 @@
 #include "window/load_game.h"
 #include "window/opponents_turn.h"
 #include "window/save_game.h"
+#include "window/speed.h"
 
 namespace qarn {
 namespace {
@@ -31,6 +32,7 @@ constexpr std::string_view playMenu = "&Play";
 constexpr std::string_view helpMenu = "&Help";
 
 constexpr std::string_view opponentMenu = "&Opponent";
+constexpr std::string_view speedMenu = "&Speed";
 constexpr std::string_view houseRulesMenu = "House &Rules";
 
 constexpr bool checkable = true;
@@ -78,6 +80,18 @@ constexpr MenuCommand OpponentItem(std::string_view name) {
             .Shown = IsComputers<side>};
 }
 
+template <Speed speed>
+constexpr MenuCommand SpeedItem(std::string_view name, std::string_view caption) {
+    return {.Menu = playMenu,
+            .Name = name,
+            .Caption = caption,
+            .Shortcut = "",
+            .Click = [](Game& game) { ChooseSpeed(game, speed); },
+            .Checkable = true,
+            .Submenu = speedMenu,
+            .Ticked = [](const Game& game) { return game.speed == speed; }};
+}
+
 constexpr std::array menuCommands{
     MenuCommand{fileMenu, "New", "&New...", "Ctrl+N", New_Click},
     MenuCommand{fileMenu, "Open", "&Open...", "Ctrl+O", Open_Click},
@@ -109,6 +123,9 @@ constexpr std::array menuCommands{
     OpponentItem<2, 1>("mnuScout2"),
     OpponentItem<2, 2>("mnuCaptain2"),
     OpponentItem<2, 3>("mnuWarlord2"),
+    SpeedItem<Speed::Second>("mnuSpeedSecond", "One &Second a Step"),
+    SpeedItem<Speed::Third>("mnuSpeedThird", "A &Third of a Second"),
+    SpeedItem<Speed::AtOnce>("mnuSpeedAtOnce", "At &Once"),
     HouseRuleItem("mnuOwnGroupsOnly", "&Own Groups Only", mnuOwnGroupsOnly_Click,
                   [](const Game& game) { return game.record.house.ownGroupsOnly; }),
     HouseRuleItem("mnuOneTurnForABurning", "One &Turn for a Burning", mnuOneTurnForABurning_Click,

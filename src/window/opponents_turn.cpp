@@ -4,6 +4,8 @@
 
 #include "core/game.h"
 #include "core/opponents.h"
+#include "window/board_clicks.h"
+#include "window/buttons.h"
 
 namespace qarn {
 
@@ -23,6 +25,12 @@ bool OpponentActs(const Game& game) {
     if (record.Standstill.drawn) return false;
     if (IsOwnMoveUnderWay(record)) return record.Action.blnAnswersItself;
     return AnswersItself(game.opponent.at(record.bytTurn)) && !IsPersonsMoveUnderWay(record);
+}
+
+bool TakesClicks(const Game& game) { return !OpponentActs(game) || game.record.blnDetailsMode; }
+
+bool TakesPress(const Game& game, const WindowButton& button) {
+    return !OpponentActs(game) || button.Click == cmdSquareDetails_Click;
 }
 
 void ChooseOpponent(Game& game, std::size_t side, const OpponentChoice& opponent) {

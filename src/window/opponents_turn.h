@@ -7,6 +7,7 @@ namespace qarn {
 struct Game;
 struct GameRecord;
 struct OpponentChoice;
+struct WindowButton;
 
 /// True while the move or attack that the computer's action began goes on.
 bool IsOwnMoveUnderWay(const GameRecord& record);
@@ -17,6 +18,12 @@ bool IsPersonsMoveUnderWay(const GameRecord& record);
 /// True while an opponent that answers for itself has its turn in hand, be it that it thinks or
 /// acts. What would meddle with it waits; looking, leaving and saving do not.
 bool OpponentActs(const Game& game);
+
+/// Whether a click on a square is taken: while an opponent acts, only to look.
+bool TakesClicks(const Game& game);
+
+/// Whether a button is left to the person: while an opponent acts, only the one for looking.
+bool TakesPress(const Game& game, const WindowButton& button);
 
 /// Has an opponent play a side, 1 or 2, while the computer does, from its next choice on. In the
 /// side's turn the computer takes up play again, where it had found nothing to do; it also does

@@ -213,6 +213,19 @@ class ConsoleTest(unittest.TestCase):
         self.assertGreater(happened.count("turn"), 20)
         self.assertEqual(happened[-1], "end")
 
+    def test_board_and_buttons_wait_for_an_opponent(self):
+        meddling = ["click 1 1", "press cmdMove", "press cmdAttack", "press cmdDoneSel", "untick 1"]
+        rest = ["menu mnuSave", "press cmdSquareDetails", "click 1 1", "press cmdSquareDetails"]
+        for level in ("classic", "scout"):
+            objects = self.play("seed 5", f"level {level}", "new g.tgf SB R computer B computer",
+                                "timer 2", *meddling, *rest)
+            waits = ["wait for it" in done["error"] for done in objects[4:9]]
+            self.assertEqual(waits, 5 * [level == "scout"])
+            if level == "scout":
+                self.assertFalse(objects[3]["menus"]["File"]["enabled"])
+                self.assertTrue(all(done["ok"] for done in objects[9:]))
+                self.assertTrue(objects[-2]["lblDetailMore"].startswith("Current Items:"))
+
     def test_house_rules_are_kept_and_told(self):
         self.addCleanup(self.play, "house ownGroups off")
         on = {"ownGroups": True, "oneTurnForBurning": False}

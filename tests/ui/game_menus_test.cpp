@@ -51,6 +51,10 @@ TEST_F(GameWindow, HasItsMenus) {
     &Scout    (hidden)
     Ca&ptain    (hidden)
     &Warlord    (hidden)
+  &Speed  
+    One &Second a Step  
+    A &Third of a Second  
+    At &Once  
   House &Rules  
     &Own Groups Only  
     One &Turn for a Burning  

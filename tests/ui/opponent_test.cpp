@@ -5,18 +5,40 @@
 namespace qarn {
 namespace {
 
-/// A window on a game in which the computer plays side 1, Red.
+/// A window on a game in which opponents play, who are chosen in the menu.
 class OpponentWindow : public GameWindow {
 protected:
     const Game& ShownGame() { return window->ShownGame(); }
     QTimer* Timer() { return Find<QTimer>("tmrAI"); }
+    bool Acts() { return ShownGame().record.Action.blnAIBusy; }
 
     // The time of the timer is up, and so is that of the choice.
     void Tick() {
+        Timer()->stop();
         QMetaObject::invokeMethod(Timer(), "timeout");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return Timer()->isActive() == IsOn(); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            auto* told = Find<QTimer>("told");
+            return Timer()->isActive() == ShownGame().controls.tmrAI.Enabled ||
+                   (told != nullptr && told->isActive());
+        }));
     }
-    bool IsOn() { return ShownGame().controls.tmrAI.Enabled; }
+    // Until `done`, or a while has gone by.
+    template <typename Done>
+    bool TickUntil(Done done) {
+        for (int tick = 0; tick < 99 && !done(); ++tick) Tick();
+        return done();
+    }
+    // What is told beside the status line, box by box.
+    std::vector<std::string> ToldBoxes() {
+        std::vector<std::string> told;
+        auto* strip = Find<QLabel>("opponentStrip");
+        for (; strip != nullptr && strip->isVisible() && told.size() < 9;
+             QMetaObject::invokeMethod(Find<QTimer>("told"), "timeout")) {
+            EXPECT_FALSE(Timer()->isActive() && told.size() < 2) << "the next step waits";
+            told.push_back(strip->text().toStdString());
+        }
+        return told;
+    }
 };
 
 // Classic, which finds no good move, leaves play to the person until another takes it up.
@@ -26,11 +48,94 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     Tick();
     EXPECT_EQ(boxes, std::vector<std::string>{"No good move!"});
     EXPECT_FALSE(Timer()->isActive());
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(10, 10);
     MenuItem("mnuWarlord1")->trigger();
-    EXPECT_TRUE(Timer()->isActive());
-    while (ShownGame().record.bytTurn == 1) Tick();
+    for (int tick = 0; tick < 3; ++tick) Tick();
+    EXPECT_FALSE(Acts()) << "the person's move comes first";
+    Key(Qt::Key_S, Qt::AltModifier);
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(ShownGame().record.bytTurn, 2);
+
+    Open("computer1 Q@10,10 Z@1,1");
+    EXPECT_TRUE(MenuItem("mnuWarlord1")->isChecked()) << "it is kept";
+    EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
     EXPECT_EQ(boxes.size(), 1u);
     EXPECT_FALSE(Timer()->isActive());
+    EXPECT_TRUE(Button("cmdMove")->isEnabled());
+}
+
+TEST_F(OpponentWindow, IsWaitedForByBoardAndButtons) {
+    Open("computer1 HF@10,10 Q@10,10 J@13,10 Z@1,1");
+    EXPECT_TRUE(Button("cmdMove")->isEnabled()) << "Classic locks nothing";
+    MenuItem("mnuScout1")->trigger();
+    EXPECT_FALSE(Button("cmdMove")->isEnabled() || Button("cmdAttack")->isEnabled());
+    const QAction* file = MenuItem("mnuSave");
+    ASSERT_TRUE(TickUntil([&] { return ShownGame().record.blnChoosing; }));
+    EXPECT_TRUE(Button("chkItems(1)")->isVisible() && !Button("chkItems(1)")->isEnabled());
+    EXPECT_FALSE(Button("cmdDoneSel")->isEnabled() || ShownGame().controls.File.Enabled);
+    const std::uint8_t at = ShownGame().record.bytCurrentX;
+    ClickSquare(1, 1);
+    EXPECT_EQ(ShownGame().record.bytCurrentX, at);
+
+    Key(Qt::Key_I, Qt::AltModifier);  // looking goes on
+    ClickSquare(1, 1);
+    EXPECT_EQ(Text("lblDetailMore"), "Current Items: Corsair");
+    EXPECT_TRUE(file->isEnabled());
+    std::filesystem::remove(path);
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(std::filesystem::exists(path));
+    EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
+    EXPECT_EQ(Text("lblDetailMore"), "Current Items: Corsair");
+    Key(Qt::Key_I, Qt::AltModifier);
+    EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
+    EXPECT_TRUE(Button("cmdMove")->isEnabled() && Button("cmdAttack")->isEnabled());
+}
+
+TEST_F(OpponentWindow, TellsItsBoxesBesideTheStatusLine) {
+    Open("computer1 WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 Q@1,9");
+    const QRect whole = Find("lblStatus")->geometry();
+    MenuItem("mnuCaptain1")->trigger();
+    for (const int roll : {2, 1}) random.QueueRoll(roll);
+    ASSERT_TRUE(TickUntil([&] { return random.queued.empty(); }));
+    const QRect strip = Find("opponentStrip")->geometry();
+    EXPECT_FALSE(strip.intersects(Find("lblStatus")->geometry()));
+    EXPECT_FALSE(strip.intersects(board->geometry()));
+    EXPECT_EQ(ToldBoxes().back(), "Captain rolled a 1 and will not lose a character.");
+    EXPECT_EQ(Find("lblStatus")->geometry(), whole);
+    EXPECT_TRUE(boxes.empty());
+}
+
+// A position in which it thinks for a while.
+TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
+    OpenFile(Replaced(SavedGame("SB"), "Red" + std::string(51, ' ') + "False",
+                      "Red" + std::string(51, ' ') + "True"));
+    for (const char* item : {"mnuWarlord1", "mnuScout1", "mnuClassic1", "mnuWarlord1"}) {
+        MenuItem(item)->trigger();
+        EXPECT_TRUE(Timer()->isActive());
+    }
+    QTest::keyClick(board, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Acts(); })) << "before its time is up";
+    EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
+
+    OpenFile(ReadFile(path));
+    EXPECT_FALSE(Acts());
+    window->close();
+    EXPECT_TRUE(ShownGame().blnEnded);
+}
+
+TEST_F(OpponentWindow, PlaysAWholeGameAtOnceAndLeavesTheEndToThePerson) {
+    settings.values["QARN/Speed/04505230"] = "AtOnce";
+    for (int roll = 0; roll < 999; ++roll) random.QueueRoll(1 + roll * 3 % 5);
+    Open("computer1 computer2 WS@10,10 TS@10,10 LS@9,9 Z@13,10 ZA1@14,10");
+    EXPECT_TRUE(MenuItem("mnuSpeedAtOnce")->isChecked());
+    MenuItem("mnuScout1")->trigger();
+    MenuItem("mnuScout2")->trigger();
+    EXPECT_EQ(Timer()->interval(), 0);
+    AnswerBoxes({Qt::Key_Return});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ShownGame().blnEnded; }, 60000));
+    EXPECT_EQ(boxes.size(), 1u) << "the victory alone";
+    EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 }  // namespace

@@ -1,0 +1,70 @@
+#include "ui/opponent_strip.h"
+
+namespace qarn {
+namespace {
+
+constexpr int worthShowing = 150;  // milliseconds of thinking
+
+}  // namespace
+
+OpponentStrip::OpponentStrip(QWidget* parent) : StatusLine(parent) {
+    setObjectName("opponentStrip");
+    setFrameShape(QFrame::Box);
+    setMargin(2);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    hide();
+    time_.setObjectName("told");
+    time_.setSingleShot(true);
+    time_.callOnTimeout(this, &OpponentStrip::ShowNext);
+    patience_.setSingleShot(true);
+    patience_.setInterval(worthShowing);
+    patience_.callOnTimeout(this, [this] {
+        if (!time_.isActive()) Put(thinking_);
+    });
+}
+
+void OpponentStrip::Tell(const QString& text, int milliseconds) {
+    milliseconds_ = milliseconds;
+    texts_ << text;
+    if (milliseconds > 0) {
+        if (!time_.isActive()) ShowNext();
+        return;
+    }
+    texts_.clear();
+    time_.stop();
+    Put(text);
+}
+
+void OpponentStrip::ShowNext() {
+    if (texts_.isEmpty()) {
+        Put(patience_.isActive() ? QString() : thinking_);
+    } else {
+        time_.start(milliseconds_);
+        Put(texts_.takeFirst());
+    }
+}
+
+void OpponentStrip::ShowThinking(const QString& text) {
+    if (text == thinking_) return;
+    const bool stands = !isHidden() && this->text() == thinking_;
+    thinking_ = text;
+    patience_.stop();
+    if (!text.isEmpty()) patience_.start();
+    if (stands) Put({});
+}
+
+void OpponentStrip::Dismiss() {
+    texts_.clear();
+    time_.stop();
+    if (!isHidden()) Put({});
+}
+
+void OpponentStrip::Put(const QString& text) {
+    setVisible(!text.isEmpty());
+    StatusLine::Tell(text);
+    emit Changed();
+}
+
+}  // namespace qarn
