@@ -28,6 +28,37 @@ protected:
         for (int tick = 0; tick < 99 && !done(); ++tick) Tick();
         return done();
     }
+    void PassByKeyboard() {
+        if (ShownGame().blnEnded || !Button("cmdMove")->isEnabled()) return;
+        Key(Qt::Key_M, Qt::AltModifier);
+        for (const PeopleRecord& one : ShownGame().record.People) {
+            if (one.Side == 2 && OnBoard(one)) board->MoveCursor({one.LocationX, one.LocationY});
+        }
+        board->setFocus();
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_S, Qt::Key_M}) {
+            Key(key, key == Qt::Key_Space ? Qt::NoModifier : Qt::AltModifier);
+        }
+    }
+    // At once. A person on side 2 passes by keyboard as soon as the buttons let them, and sees the
+    // victory alone.
+    void PlayWholeGame(const std::string& player2) {
+        settings.values["QARN/Speed/04505230"] = "AtOnce";
+        for (int roll = 0; roll < 999; ++roll) random.QueueRoll(1 + roll * 3 % 5);
+        Open("computer1 " + player2 + " WS@10,10 TS@10,10 LS@9,9 Z@13,10 ZA1@14,10");
+        EXPECT_TRUE(MenuItem("mnuSpeedAtOnce")->isChecked());
+        for (const char* item : {"mnuScout1", "mnuScout2"}) {
+            if (MenuItem(item)->isVisible()) MenuItem(item)->trigger();
+        }
+        EXPECT_EQ(Timer()->interval(), 0);
+        AnswerBoxes({Qt::Key_Return});
+        const auto ends = [&] {
+            if (ShownGame().record.bytTurn == 2 && player2.empty()) PassByKeyboard();
+            return ShownGame().blnEnded;
+        };
+        EXPECT_TRUE(QTest::qWaitFor(ends, 60000));
+        EXPECT_EQ(boxes.size(), 1u);
+        EXPECT_FALSE(std::filesystem::exists(path));
+    }
     // What is told beside the status line, box by box.
     std::vector<std::string> ToldBoxes() {
         std::vector<std::string> told;
@@ -124,19 +155,9 @@ TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
     EXPECT_TRUE(ShownGame().blnEnded);
 }
 
-TEST_F(OpponentWindow, PlaysAWholeGameAtOnceAndLeavesTheEndToThePerson) {
-    settings.values["QARN/Speed/04505230"] = "AtOnce";
-    for (int roll = 0; roll < 999; ++roll) random.QueueRoll(1 + roll * 3 % 5);
-    Open("computer1 computer2 WS@10,10 TS@10,10 LS@9,9 Z@13,10 ZA1@14,10");
-    EXPECT_TRUE(MenuItem("mnuSpeedAtOnce")->isChecked());
-    MenuItem("mnuScout1")->trigger();
-    MenuItem("mnuScout2")->trigger();
-    EXPECT_EQ(Timer()->interval(), 0);
-    AnswerBoxes({Qt::Key_Return});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ShownGame().blnEnded; }, 60000));
-    EXPECT_EQ(boxes.size(), 1u) << "the victory alone";
-    EXPECT_FALSE(std::filesystem::exists(path));
-}
+TEST_F(OpponentWindow, PlaysAWholeGameAgainstAnother) { PlayWholeGame("computer2"); }
+
+TEST_F(OpponentWindow, PlaysAWholeGameAgainstAPerson) { PlayWholeGame(""); }
 
 }  // namespace
 }  // namespace qarn

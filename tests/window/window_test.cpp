@@ -7,6 +7,7 @@
 #include "scenarios/setup.h"
 #include "support/sequence.h"
 #include "window/hint_mark.h"
+#include "window/told_of_opponent.h"
 
 namespace qarn {
 namespace {
@@ -119,6 +120,26 @@ TEST(MenuCommands, ConvertFile) {
 
 // Whatever a person does in a crowd of groups, the board shows where everyone stands, the turn is
 // somebody's, and there is always something left to do; and what was saved comes back.
+TEST(Boxes, AreToldOfAnOpponent) {
+    const auto told = [](const char* text, Buttons offered = Buttons::OK) {
+        return ToldOfOpponent("Scout", {.Title = {}, .Text = text, .Offered = offered},
+                              Answer::Yes);
+    };
+    EXPECT_EQ(told("You will have to initiate a direct attack to proceed.  Do you want to attack?",
+                   Buttons::YesNo),
+              "Scout will have to initiate a direct attack to proceed.  Does Scout want to attack? "
+              "Yes.");
+    EXPECT_EQ(told("You will lose if you try to attack this group. Continue?", Buttons::YesNo),
+              "Scout will lose if it tries to attack this group. Continue? Yes.");
+    EXPECT_EQ(told("You have burned down the Abbey."), "Scout has burned down the Abbey.");
+    EXPECT_EQ(told("You will win if you roll a 2 or less, tie if you roll a 3, and lose if you "
+                   "roll a 4 and up. Select OK to roll"),
+              "Scout will win if it rolls a 2 or less, tie if it rolls a 3, and lose if it rolls a "
+              "4 and up.");
+    EXPECT_EQ(told("You rolled a three and lost one character."),
+              "Scout rolled a three and lost one character.");
+}
+
 TEST(Events, SurviveAnything) {
     UniformGenerator chance;
     const auto below = [&](int n) { return static_cast<int>(chance.Next() * n); };
