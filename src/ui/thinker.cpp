@@ -1,7 +1,6 @@
 #include "ui/thinker.h"
 
 #include <chrono>
-#include <memory>
 
 namespace qarn {
 
@@ -11,23 +10,29 @@ Thinker::Thinker() {
     thread_.setExpiryTimeout(-1);
 }
 
-Thinker::~Thinker() { Drop(); }
+Thinker::~Thinker() {
+    Drop();
+    thread_.waitForDone();
+}
 
 void Thinker::Begin(const Choice& choice) {
     Drop();
     choice_ = choice;
     decideNow_ = std::stop_source();
-    const auto promise = std::make_shared<std::promise<std::optional<Plan>>>();
-    plan_ = promise->get_future();
-    thread_.start([this, choice, promise, decideNow = decideNow_.get_token()] {
-        try {
-            Thinking thinking{.decideNow = decideNow};
-            promise->set_value(Choose(choice, thinking));
-        } catch (...) {
-            promise->set_exception(std::current_exception());
-        }
-        emit Decided();
-    });
+    promise_ = std::make_shared<Promise>();
+    plan_ = promise_->get_future();
+    thread_.start(
+        [this, choice, wanted = std::weak_ptr(promise_), decideNow = decideNow_.get_token()] {
+            const auto promise = wanted.lock();
+            if (!promise) return;  // dropped before its turn came
+            try {
+                Thinking thinking{.decideNow = decideNow};
+                promise->set_value(Choose(choice, thinking));
+            } catch (...) {
+                promise->set_exception(std::current_exception());
+            }
+            emit Decided();
+        });
 }
 
 bool Thinker::HasDecided() const {
@@ -41,8 +46,8 @@ std::optional<Plan> Thinker::Take() {
 
 void Thinker::Drop() {
     decideNow_.request_stop();
-    thread_.waitForDone();
     choice_.reset();
+    promise_.reset();
     plan_ = {};
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QThreadPool>
 #include <future>
+#include <memory>
 #include <optional>
 #include <stop_token>
 
@@ -34,14 +35,17 @@ public:
     /// The plan, once it has decided. Throws what the chooser threw.
     std::optional<Plan> Take();
 
-    /// Forgets the choice, after a moment in which it stops to think.
+    /// Forgets the choice. Its thread stops to think soon.
     void Drop();
 
 signals:
     void Decided();
 
 private:
+    using Promise = std::promise<std::optional<Plan>>;
+
     std::optional<Choice> choice_;
+    std::shared_ptr<Promise> promise_;
     std::future<std::optional<Plan>> plan_;
     std::stop_source decideNow_;
     QThreadPool thread_;

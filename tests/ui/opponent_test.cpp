@@ -141,11 +141,15 @@ TEST_F(OpponentWindow, TellsItsBoxesBesideTheStatusLine) {
 TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
     OpenFile(Replaced(SavedGame("SB"), "Red" + std::string(51, ' ') + "False",
                       "Red" + std::string(51, ' ') + "True"));
-    for (const char* item : {"mnuWarlord1", "mnuScout1", "mnuClassic1", "mnuWarlord1"}) {
-        MenuItem(item)->trigger();
-        EXPECT_TRUE(Timer()->isActive());
-    }
-    QTest::keyClick(board, Qt::Key_Escape);
+    const auto hastened = [&] {
+        for (const char* item : {"mnuScout1", "mnuClassic1", "mnuWarlord1"}) {
+            MenuItem(item)->trigger();
+            EXPECT_TRUE(Timer()->isActive());
+        }
+        QTest::keyClick(board, Qt::Key_Escape);
+        return !Timer()->isActive();
+    };
+    EXPECT_TRUE(hastened() || hastened() || hastened());  // unless it has decided already
     EXPECT_TRUE(QTest::qWaitFor([&] { return Acts(); })) << "before its time is up";
     EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
 
