@@ -88,6 +88,7 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     Key(Qt::Key_M, Qt::AltModifier);
     EXPECT_EQ(ShownGame().record.bytTurn, 2);
 
+    window = std::make_unique<FrmGame>(random, desktop);
     Open("computer1 Q@10,10 Z@1,1");
     EXPECT_TRUE(MenuItem("mnuWarlord1")->isChecked()) << "it is kept";
     EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
