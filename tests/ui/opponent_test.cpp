@@ -55,7 +55,7 @@ protected:
             if (ShownGame().record.bytTurn == 2 && player2.empty()) PassByKeyboard();
             return ShownGame().blnEnded;
         };
-        EXPECT_TRUE(QTest::qWaitFor(ends, 60000));
+        EXPECT_TRUE(QTest::qWaitFor(ends, 20000));
         EXPECT_EQ(boxes.size(), 1u);
         EXPECT_FALSE(std::filesystem::exists(path));
     }
@@ -90,7 +90,7 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
 
     window = std::make_unique<FrmGame>(random, desktop);
     Open("computer1 Q@10,10 Z@1,1");
-    EXPECT_TRUE(MenuItem("mnuWarlord1")->isChecked()) << "it is kept";
+    ASSERT_TRUE(MenuItem("mnuWarlord1")->isChecked()) << "it is kept";
     EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
     EXPECT_EQ(boxes.size(), 1u);
     EXPECT_FALSE(Timer()->isActive());
