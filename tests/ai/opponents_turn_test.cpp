@@ -1,0 +1,97 @@
+#include "window/opponents_turn.h"
+
+#include <gtest/gtest.h>
+
+#include "core/position.h"
+#include "support/computer_game.h"
+
+namespace qarn {
+namespace {
+
+// It attacks, and is asked whether it wants to; afterwards the person is asked again.
+TEST(OpponentsTurn, LetsAnOpponentAnswerItsOwnBoxesOnly) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@11,10 ZA1@1,1");
+    played.game.opponent[1] = "captain";
+    for (const int roll : {1, 1}) played.random.QueueRoll(roll);
+    played.TickOn();
+    EXPECT_EQ(played.game.record.bytPeopleLeft[2], 1);
+    EXPECT_GE(played.dialogs.answers.size(), 3u);
+    EXPECT_FALSE(played.dialogs.boxes.back().ForThePerson);
+    played.dialogs.queued = {Answer::No};
+    EXPECT_EQ(played.dialogs.Show({.Title = {}, .Text = "?", .Offered = Buttons::YesNo}),
+              Answer::No);
+}
+
+// All that stand on 10,10.
+std::optional<Plan> MarchToTheRight(const Choice& choice) {
+    return Plan{.kind = PlanKind::March,
+                .start = {10, 10},
+                .people = PeopleOn(choice.position, {10, 10}),
+                .path = {{11, 10}}};
+}
+
+// Where Classic's clicks are taken for looks.
+TEST(OpponentsTurn, LetsAnOpponentPlayOnWhileThePersonLooks) {
+    for (const bool classic : {true, false}) {
+        ComputerGame played("HF@10,10 Q@10,10 J@13,10 Z@1,1");
+        if (!classic) played.game.opponent[1] = "scout";
+        Tick(played.game, MarchToTheRight);
+        played.Do("press cmdSquareDetails");
+        played.Do("click 1 1");
+        const std::string lookedAt = played.game.controls.lblDetailMore.Caption;
+        played.TickOn();
+        EXPECT_EQ(played.Square(11, 10), classic ? "" : "Q    HF   ");
+        if (classic) continue;
+        const Controls& controls = played.game.controls;
+        EXPECT_TRUE(played.game.record.blnDetailsMode && controls.fraQuickDetails.Visible);
+        EXPECT_EQ(controls.lblDetailMore.Caption, lookedAt);
+        EXPECT_FALSE(controls.cmdMove.Enabled);
+        played.Do("press cmdSquareDetails");
+        EXPECT_EQ(controls.lblStatus.Caption, "It is Blue's turn.");
+        EXPECT_TRUE(controls.cmdMove.Enabled && controls.cmdAttack.Enabled);
+    }
+}
+
+// What stands in the choice is all that the plan depends on.
+TEST(OpponentsTurn, AsksForTheChoiceThatIsDue) {
+    ComputerGame played("HF@10,10 Q@10,10 J@13,10 Z@1,1");
+    Game& game = played.game;
+    const Choice due = DueChoice(game).value();
+    EXPECT_EQ(due.opponent, "classic");
+    game.opponent[1] = "scout";
+    EXPECT_NE(DueChoice(game), due);
+    EXPECT_TRUE(OpponentActs(game));
+
+    played.Play("> press cmdMove; click 10 10; press cmdDoneSel; click 11 10");
+    EXPECT_EQ(DueChoice(game), std::nullopt) << "a person's move comes first";
+    EXPECT_FALSE(OpponentActs(game));
+    game.opponent[1] = "classic";
+    EXPECT_NE(DueChoice(game)->position, due.position);
+    played.Do("press cmdMove");
+    EXPECT_EQ(game.record.bytTurn, 2);
+    EXPECT_EQ(DueChoice(game), std::nullopt);
+
+    played.Play("> press cmdMove; click 1 1; press cmdDoneSel; press cmdMove");
+    const auto fails = [](const Choice&) -> std::optional<Plan> { throw 1; };
+    EXPECT_FALSE(Tick(game, fails));
+    EXPECT_EQ(played.dialogs.boxes.back().Text, "Internal error in tmrAI_Timer.");
+    EXPECT_FALSE(game.controls.tmrAI.Enabled || OpponentActs(game));
+}
+
+// Burning passes the turn to the person in the middle of the opponent's move.
+TEST(OpponentsTurn, LetsAnOpponentEndItsMoveAfterABurning) {
+    ComputerGame played("WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 11,10=7");
+    played.game.opponent[1] = "scout";
+    Tick(played.game, MarchToTheRight);
+    played.TickOn();
+    EXPECT_EQ(played.game.record.bytTerrain[11][10], Sand);
+    EXPECT_EQ(played.game.record.bytTurn, 2);
+    EXPECT_FALSE(OpponentActs(played.game)) << "the person may end it as well";
+    played.Tick();
+    EXPECT_EQ(played.game.record.bytTurn, 1);
+    EXPECT_EQ(played.game.controls.cmdMove.Caption, "&Move");
+    EXPECT_FALSE(played.game.record.Action.blnAIBusy);
+}
+
+}  // namespace
+}  // namespace qarn
