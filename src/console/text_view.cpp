@@ -6,6 +6,7 @@
 #include "core/captions.h"
 #include "rules/terrain.h"
 #include "window/buttons.h"
+#include "window/opponents_turn.h"
 
 namespace qarn {
 namespace {
@@ -63,11 +64,11 @@ void PrintCheckBoxes(std::ostream& out, const Controls& controls) {
     if (any) out << '\n';
 }
 
-void PrintButtons(std::ostream& out, const Controls& controls) {
+void PrintButtons(std::ostream& out, const Game& game) {
     out << "Buttons:";
     for (const WindowButton& one : WindowButtons()) {
-        const Button& button = controls.*one.State;
-        if (!button.Visible || !button.Enabled) continue;
+        const Button& button = game.controls.*one.State;
+        if (!button.Visible || !button.Enabled || !TakesPress(game, one)) continue;
         out << "  " << one.Name << " (" << PlainCaption(button.Caption) << ")";
     }
     out << '\n';
@@ -93,7 +94,7 @@ void PrintStatus(std::ostream& out, const Game& game) {
         out << controls.lblTerrainDescription.Caption << '\n';
     }
     PrintCheckBoxes(out, controls);
-    PrintButtons(out, controls);
+    PrintButtons(out, game);
     out << PlainText(controls.lblStatus.Caption) << '\n';
 }
 

@@ -1,5 +1,7 @@
 #include "ui/opponent_strip.h"
 
+#include <utility>
+
 namespace qarn {
 namespace {
 
@@ -27,14 +29,15 @@ OpponentStrip::OpponentStrip(QWidget* parent) : StatusLine(parent) {
 
 void OpponentStrip::Tell(const QString& text, int milliseconds) {
     milliseconds_ = milliseconds;
-    texts_ << text;
     if (milliseconds > 0) {
+        texts_ << text;
         if (!time_.isActive()) ShowNext();
         return;
     }
     texts_.clear();
     time_.stop();
-    Put(text);
+    const QString before = std::exchange(last_, text);
+    Put(before.isEmpty() ? text : before + " " + text);
 }
 
 void OpponentStrip::ShowNext() {
@@ -51,12 +54,16 @@ void OpponentStrip::ShowThinking(const QString& text) {
     const bool stands = !isHidden() && this->text() == thinking_;
     thinking_ = text;
     patience_.stop();
-    if (!text.isEmpty()) patience_.start();
+    if (!text.isEmpty()) {
+        patience_.start();
+        last_.clear();
+    }
     if (stands) Put({});
 }
 
 void OpponentStrip::Dismiss() {
     texts_.clear();
+    last_.clear();
     time_.stop();
     if (!isHidden()) Put({});
 }

@@ -16,7 +16,7 @@ public:
     explicit OpponentStrip(QWidget* parent);
 
     /// Tells of a box, behind those that are still to be told, for so many milliseconds. With none,
-    /// it takes the place of the others and stays.
+    /// it stays, together with the one before of the same turn, in the place of all others.
     void Tell(const QString& text, int milliseconds);
 
     /// True while more is to be told than stands there.
@@ -38,6 +38,7 @@ private:
     void Put(const QString& text);
 
     QStringList texts_;
+    QString last_;  // that was told without delay
     QString thinking_;
     QTimer time_{this};
     QTimer patience_{this};

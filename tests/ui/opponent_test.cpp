@@ -63,10 +63,11 @@ protected:
     std::vector<std::string> ToldBoxes() {
         std::vector<std::string> told;
         auto* strip = Find<QLabel>("opponentStrip");
-        for (; strip != nullptr && strip->isVisible() && told.size() < 9;
-             QMetaObject::invokeMethod(Find<QTimer>("told"), "timeout")) {
+        while (strip != nullptr && strip->isVisible() && told.size() < 9) {
             EXPECT_FALSE(Timer()->isActive() && told.size() < 2) << "the next step waits";
             told.push_back(strip->text().toStdString());
+            Find<QTimer>("told")->stop();
+            QMetaObject::invokeMethod(Find<QTimer>("told"), "timeout");
         }
         return told;
     }
@@ -136,6 +137,14 @@ TEST_F(OpponentWindow, TellsItsBoxesBesideTheStatusLine) {
     EXPECT_EQ(ToldBoxes().back(), "Captain rolled a 1 and will not lose a character.");
     EXPECT_EQ(Find("lblStatus")->geometry(), whole);
     EXPECT_TRUE(boxes.empty());
+
+    MenuItem("mnuSpeedAtOnce")->trigger();
+    for (const int roll : {2, 1}) random.QueueRoll(roll);
+    Open("computer1 WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 Q@1,9");
+    ASSERT_TRUE(TickUntil([&] { return random.queued.empty(); }));
+    EXPECT_EQ(Text("opponentStrip"),
+              "Captain rolled a 2 and won the attack! Captain rolled a 1 and will not lose a "
+              "character.");
 }
 
 // A position in which it thinks for a while.
