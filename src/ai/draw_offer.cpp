@@ -16,8 +16,9 @@ bool PersonAgrees(Game& game) {
     const std::string& name = game.record.strPlayerName[game.record.bytTurn];
     return game.ports.dialogs.Show(
                {.Title = "Draw",
-                .Text = name + " offers a draw: for " + std::to_string(turnsOfALock) +
-                        " turns neither side has come any further. Do you agree, and end the game?",
+                .Text =
+                    name + " offers a draw: for " + std::to_string(turnsOfALock) +
+                    " turns neither side has come any further.\nDo you agree, and end the game?",
                 .Offered = Buttons::YesNo,
                 .DeclinedByDefault = true,
                 .ForThePerson = true}) == Answer::Yes;
