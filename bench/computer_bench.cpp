@@ -9,7 +9,10 @@
 #include <chrono>
 #include <vector>
 
+#include "ai/opponents/evaluation.h"
+#include "ai/opponents/node.h"
 #include "ai/self_play.h"
+#include "ai/starting_position.h"
 #include "ai/turn_driver.h"
 #include "rules/play_turn.h"
 #include "scenarios/catalogue.h"
@@ -97,6 +100,25 @@ void TurnsOfPosition(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 
+// How many turns of a starting position the opponents play forward and evaluate in a second.
+void TurnsOfSearch(benchmark::State& state) {
+    Position start = StartOf(7);
+    start.bytTurn = 1;
+    const Distances& distances = DistancesFor(start);
+    const Node node(start, distances);
+    std::vector<Turn> turns;
+    ListTurns(start, turns);
+    for (auto _ : state) {
+        for (const Turn& turn : turns) {
+            Node after = node;
+            Play(after, turn, {}, distances);
+            const Features features = FeaturesOf(after.armies, after.Side(), distances);
+            benchmark::DoNotOptimize(Activate(features, learnedWeights).value);
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(turns.size()));
+}
+
 long PeakMemory() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
@@ -117,6 +139,7 @@ void MemoryOfSelfPlay(benchmark::State& state) {
 BENCHMARK(ChooseMoveInSelfPlay)->UseManualTime()->Iterations(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(EmptyEvent);
 BENCHMARK(TurnsOfPosition);
+BENCHMARK(TurnsOfSearch);
 BENCHMARK(SelfPlay)->Unit(benchmark::kMillisecond);
 BENCHMARK(MemoryOfSelfPlay)->Iterations(1)->Unit(benchmark::kMillisecond);
 

@@ -5,10 +5,13 @@
 #include "ai/choosers.h"
 #include "ai/hint.h"
 #include "ai/match_game.h"
+#include "ai/opponents/features.h"
 #include "ai/opponents/levels.h"
-#include "ai/opponents/turns.h"
+#include "ai/opponents/node.h"
 #include "ai/starting_position.h"
-#include "rules/play_turn.h"
+#include "core/random_numbers.h"
+#include "rules/questions/odds.h"
+#include "rules/questions/turn.h"
 #include "scenarios/catalogue.h"
 #include "support/played_game.h"
 
@@ -17,9 +20,12 @@ namespace {
 
 std::vector<Plan> TurnsIn(const std::string& position) {
     const PlayedGame played(position);
-    std::vector<Plan> turns;
-    ListTurns(PositionOf(played.game.record), turns);
-    return turns;
+    const Position start = PositionOf(played.game.record);
+    std::vector<Turn> turns;
+    ListTurns(start, turns);
+    std::vector<Plan> plans;
+    for (const Turn& turn : turns) plans.push_back(PlanOf(start, turn));
+    return plans;
 }
 
 std::string PlaceText(Square square) {
@@ -67,6 +73,55 @@ TEST(Turns, FightFairly) {
     EXPECT_EQ(Fights("Q@12,10 BT@13,10 Z@1,1"), "");
 }
 
+// ---- The search's short way to play a turn ----
+
+std::string Text(const Position& position) {
+    std::string text = std::to_string(position.bytTurn);
+    for (const Group& one : position.People) text += " " + PlaceText(SquareOf(one));
+    for (const auto& column : position.bytTerrain) text.append(column.begin(), column.end());
+    return text;
+}
+
+// Every listed turn of a game of random turns in each scenario, with every throw that matters.
+TEST(Node, ComesToWhatTheRulesMakeOfTheTurnAndKeepsItsArmies) {
+    constexpr std::array<Dice, 4> throws{Dice{5, 1}, Dice{2, 1}, Dice{1, 1},
+                                         Dice{1, rollThatCosts}};
+    UniformGenerator chance;
+    long compared = 0;
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        Position position = StartOf(scenario);
+        position.bytTurn = 1;
+        for (int turn = 0; turn < 40; ++turn) {
+            const Distances& distances = DistancesFor(position);
+            const Node node(position, distances);
+            std::vector<Turn> turns;
+            ListTurns(position, turns);
+            const auto any = [&] {
+                return static_cast<std::size_t>(chance.Next() * static_cast<double>(turns.size()));
+            };
+            for (Turn one : turns) {
+                if (!one.attacks && one.kind == PlanKind::March && any() > 20) continue;
+                for (const Dice dice : throws) {
+                    Node short_ = node;
+                    Position whole = position;
+                    Play(short_, one, dice, distances);
+                    const TurnOutcome outcome = PlayTurn(whole, PlanOf(position, one), dice);
+                    ASSERT_EQ(Text(short_.position), Text(whole)) << scenario;
+                    ASSERT_EQ(short_.winner, outcome.winner);
+                    const Features kept = FeaturesOf(short_.armies, 1, distances);
+                    const Features fresh = FeaturesOf(Armies(whole, distances), 1, distances);
+                    for (std::size_t i = 0; i < kept.size(); ++i) {
+                        ASSERT_NEAR(kept[i], fresh[i], 1e-4) << scenario << " feature " << i;
+                    }
+                    ++compared;
+                }
+            }
+            if (PlayTurn(position, PlanOf(position, turns[any()]), throws[any() % 4]).winner) break;
+        }
+    }
+    EXPECT_GT(compared, 10000);
+}
+
 // ---- Choices ----
 
 std::optional<Plan> ChoiceOf(std::string_view opponent, const std::string& position,
@@ -89,6 +144,22 @@ TEST(Levels, PlanOnlyWhatTheRulesAllow) {
             PlayMatchGame(StartOf(scenario), {nullptr, ChooseScoutTurn, ChooseCaptainTurn}, 3, 8);
         EXPECT_EQ(game.players[1].refused + game.players[2].refused, 0) << scenario;
         EXPECT_EQ(game.turns, 8);
+    }
+}
+
+// The first turns of a game have thousands of positions to look at.
+TEST(Levels, DecideWhenTheyAreTold) {
+    Position start = StartOf(1);
+    start.bytTurn = 1;
+    std::stop_source told;
+    told.request_stop();
+    for (const Chooser choose : {ChooseCaptainTurn, ChooseWarlordTurn}) {
+        Thinking whole;
+        choose(start, 1, whole);
+        Thinking cut{.decideNow = told.get_token()};
+        const std::optional<Plan> plan = choose(start, 1, cut);
+        EXPECT_EQ(AllowedPart(start, *plan), *plan);
+        EXPECT_LT(cut.positions, whole.positions / 4);
     }
 }
 

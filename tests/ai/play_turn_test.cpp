@@ -139,9 +139,9 @@ private:
             const AttackAnswer attack = AskAttack(position_, plan.start, plan.target, false);
             if (attack.refusal != AttackRefusal::None) plan = {};
         } else if (Below(3) == 0) {
-            std::vector<Plan> turns;
+            std::vector<Turn> turns;
             ListTurns(position_, turns);
-            plan = OneOf(turns);
+            plan = PlanOf(position_, OneOf(turns));
             EXPECT_EQ(AllowedPart(position_, plan), plan);
             chosenFor_ = {};
         } else if (AskStart(position_, plan.start) == StartRefusal::None) {

@@ -1,155 +1,121 @@
 // Learns the weights of the opponents' evaluation by self-play, and writes them as the header that
 // the program is built with:
-//   train_evaluation SECONDS SEED WEIGHTS.h [STATE]
-// STATE holds how far it has come; when it is there, it goes on from it. The method is that of the
-// backgammon programs: temporal differences with eligibility traces (Tesauro, "Temporal difference
-// learning and TD-Gammon", 1995), both sides taking the turn that the evaluation rates best, or now
-// and then any.
+//   train_evaluation GAMES SEED WEIGHTS.h [STATE]
+// STATE holds how far it has come; when it is there, it goes on from it, until GAMES have been
+// played in all. The same games and seed give the same weights, however many cores there are; when
+// it was stopped between, it has forgotten the games that it was still learning from, and the
+// weights come out a little different.
 
-#include <chrono>
 #include <cstdlib>
+#include <deque>
 #include <fstream>
+#include <future>
 #include <iomanip>
 #include <iostream>
-#include <optional>
 #include <string>
+#include <thread>
 
-#include "ai/opponents/search.h"
-#include "ai/starting_position.h"
 #include "core/random_numbers.h"
-#include "rules/play_turn.h"
 #include "scenarios/catalogue.h"
+#include "train_evaluation/learner.h"
 
 namespace qarn {
 namespace {
 
-constexpr int mostTurnsOfAGame = 160;
-constexpr float traceDecay = 0.7F;
-constexpr double explores = 0.05;
+constexpr long gamesOfAScenario = 8;
+constexpr long gamesARound = gamesOfAScenario * scenarioCount;
+constexpr std::size_t roundsRemembered = 15;
+constexpr std::size_t lessonsARound = 100000;
 
-struct State {
-    Weights weights = learnedWeights;
-    long games = 0;
-    std::uint64_t seed = 1;
-};
+using Lessons = std::vector<Lesson>;
 
-class Trainer {
-public:
-    explicit Trainer(const State& state) : state_(state) {
-        chance_.Seed(state.seed + static_cast<std::uint64_t>(state.games));
-    }
-
-    const State& Now() const { return state_; }
-
-    void PlayGame() {
-        Position position = StartOf(1 + static_cast<int>(state_.games % scenarioCount));
-        position.bytTurn = chance_.Next() < 0.5 ? 1 : 2;
-        rate_ = 0.05F / (1 + static_cast<float>(state_.games) / 3000);
-        traces_ = {};
-        std::optional<float> before;  // as side 1 sees it
-        for (int turn = 0; turn < mostTurnsOfAGame; ++turn) {
-            const Distances& distances = DistancesFor(position);
-            const float seen = Evaluate(position, distances, state_.weights);
-            const float now = position.bytTurn == 1 ? seen : 1 - seen;
-            if (before) Learn(now - *before);
-            Remember(position, distances, seen);
-            before = now;
-
-            const Plan plan = Choose(position);
-            const Dice dice{Die(), Die()};
-            const TurnOutcome outcome = PlayTurn(position, plan, dice);
-            if (outcome.winner != 0) {
-                Learn((outcome.winner == 1 ? 1.0F : 0.0F) - *before);
-                break;
+// The games of a round, played on all cores, in their order.
+Lessons PlayRound(long round, std::uint64_t seed, const Weights& weights) {
+    const auto workers = static_cast<long>(std::max(1U, std::thread::hardware_concurrency()));
+    std::vector<Lessons> games(static_cast<std::size_t>(gamesARound));
+    std::vector<std::future<void>> done;
+    for (long worker = 0; worker < workers; ++worker) {
+        done.push_back(std::async(std::launch::async, [&, worker] {
+            for (long game = worker; game < gamesARound; game += workers) {
+                const int scenario = 1 + static_cast<int>(game / gamesOfAScenario);
+                const auto number = static_cast<std::uint64_t>(round * gamesARound + game);
+                games[static_cast<std::size_t>(game)] =
+                    PlayPracticeGame(scenario, (seed << 32) + number, weights);
             }
-        }
-        ++state_.games;
+        }));
     }
-
-private:
-    int Die() { return static_cast<int>(chance_.Next() * 5) + 1; }
-
-    Plan Choose(const Position& position) {
-        Thinking thinking;
-        Search search(position, state_.weights, thinking);
-        const std::vector<RatedTurn> turns = search.RateTurns(position);
-        if (chance_.Next() >= explores) return turns.front().plan;
-        return turns[static_cast<std::size_t>(chance_.Next() * static_cast<double>(turns.size()))]
-            .plan;
-    }
-
-    // The trace of what side 1's chances depend on. Seen by side 2 they are 1 - the value.
-    void Remember(const Position& position, const Distances& distances, float seen) {
-        const Features features = FeaturesOf(position, distances);
-        const float slope = seen * (1 - seen) * (position.bytTurn == 1 ? 1.0F : -1.0F);
-        for (std::size_t i = 0; i < features.size(); ++i) {
-            traces_.features[i] = traceDecay * traces_.features[i] + slope * features[i];
-        }
-        traces_.move = traceDecay * traces_.move + slope;
-    }
-
-    void Learn(float difference) {
-        Weights& weights = state_.weights;
-        for (std::size_t i = 0; i < weights.features.size(); ++i) {
-            weights.features[i] += rate_ * difference * traces_.features[i];
-        }
-        weights.move += rate_ * difference * traces_.move;
-    }
-
-    State state_;
-    UniformGenerator chance_;
-    Weights traces_;
-    float rate_ = 0;
-};
-
-State ReadState(const std::string& path, std::uint64_t seed) {
-    State state;
-    state.seed = seed;
-    std::ifstream file(path);
-    if (!file) return state;
-    file >> state.games >> state.weights.move;
-    for (float& weight : state.weights.features) file >> weight;
-    if (!file) throw std::runtime_error("The state can not be read: " + path);
-    return state;
+    for (std::future<void>& one : done) one.get();
+    Lessons lessons;
+    for (const Lessons& game : games) lessons.insert(lessons.end(), game.begin(), game.end());
+    return lessons;
 }
 
-void WriteState(const std::string& path, const State& state) {
-    std::ofstream file(path);
-    file << std::setprecision(9) << state.games << ' ' << state.weights.move << '\n';
-    for (const float weight : state.weights.features) file << weight << '\n';
+float RateOf(long round, long rounds) {
+    constexpr float first = 0.002F;
+    constexpr float last = 0.0002F;
+    const float way = static_cast<float>(round) / static_cast<float>(rounds);
+    return first + (last - first) * way;
 }
 
-void WriteHeader(const std::string& path, const State& state) {
-    std::ofstream file(path);
-    file << "#pragma once\n\n"
-            "// Learned by tools/train_evaluation in "
-         << state.games << " games with seed " << state.seed
-         << "; do not edit.\n\n#include \"ai/opponents/features.h\"\n\nnamespace qarn {\n\n"
-            "inline constexpr Features learnedFeatureWeights{\n"
-         << std::fixed << std::setprecision(4);
-    for (std::size_t i = 0; i < state.weights.features.size(); ++i) {
-        if (i % featureCount == 0) {
-            file << (i == 0 ? "    // the side to move\n" : "    // the other side\n");
-        }
-        file << "    " << state.weights.features[i] << "F,\n";
+// Some of the lessons of the last rounds, drawn from the round's number.
+std::vector<const Lesson*> Drawn(const std::deque<Lessons>& rounds, long round) {
+    std::vector<const Lesson*> all;
+    for (const Lessons& lessons : rounds) {
+        for (const Lesson& one : lessons) all.push_back(&one);
     }
-    file << "};\ninline constexpr float learnedMoveWeight = " << state.weights.move
-         << "F;\n\n}  // namespace qarn\n";
+    UniformGenerator chance;
+    chance.Seed(static_cast<std::uint64_t>(round));
+    std::vector<const Lesson*> drawn(lessonsARound);
+    for (const Lesson*& one : drawn) {
+        one = all[static_cast<std::size_t>(chance.Next() * static_cast<double>(all.size()))];
+    }
+    return drawn;
 }
 
-void Train(double seconds, std::uint64_t seed, const std::string& header, const std::string& path) {
-    Trainer trainer(ReadState(path, seed));
-    const auto start = std::chrono::steady_clock::now();
-    const auto isOver = [&] {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count() >=
-               seconds;
-    };
-    while (!isOver()) {
-        for (int game = 0; game < scenarioCount; ++game) trainer.PlayGame();
-        if (!path.empty()) WriteState(path, trainer.Now());
+void WriteNumbers(std::ostream& out, const auto& numbers) {
+    out << '{';
+    for (const float number : numbers) out << number << "F, ";
+    out << "},\n";
+}
+
+void WriteHeader(const std::string& path, const Weights& weights, long games, std::uint64_t seed) {
+    std::ofstream out(path);
+    out << "#pragma once\n\n// Learned by: train_evaluation " << games << ' ' << seed
+        << " weights.h; do not edit.\n\n"
+           "#include \"ai/opponents/evaluation.h\"\n\nnamespace qarn {\n\n"
+           "// clang-format off\nconst Weights learnedWeights{\n.toHidden = {{\n"
+        << std::fixed << std::setprecision(5);
+    for (const auto& row : weights.toHidden) WriteNumbers(out, row);
+    out << "}},\n.hiddenBias = ";
+    WriteNumbers(out, weights.hiddenBias);
+    out << ".fromHidden = ";
+    WriteNumbers(out, weights.fromHidden);
+    out << ".past = ";
+    WriteNumbers(out, weights.past);
+    out << ".bias = " << weights.bias << "F};\n// clang-format on\n\n}  // namespace qarn\n";
+}
+
+void Train(long games, std::uint64_t seed, const std::string& header, const std::string& path) {
+    Learner learner(seed);
+    std::deque<Lessons> memory;
+    long round = 0;
+    if (std::ifstream state(path); !path.empty() && state) {
+        state >> round;
+        learner.Read(state);
     }
-    WriteHeader(header, trainer.Now());
-    std::cout << trainer.Now().games << " games\n";
+    const long rounds = games / gamesARound;
+    for (; round < rounds; ++round) {
+        memory.push_back(PlayRound(round, seed, learner.Now()));
+        if (memory.size() > roundsRemembered) memory.pop_front();
+        const float entropy = learner.Learn(Drawn(memory, round), RateOf(round, rounds));
+        std::cout << (round + 1) * gamesARound << " games, " << memory.back().size()
+                  << " positions, cross entropy " << entropy << std::endl;
+        WriteHeader(header, learner.Now(), (round + 1) * gamesARound, seed);
+        if (path.empty()) continue;
+        std::ofstream state(path);
+        state << round + 1 << '\n';
+        learner.Write(state);
+    }
 }
 
 }  // namespace
@@ -157,9 +123,9 @@ void Train(double seconds, std::uint64_t seed, const std::string& header, const 
 
 int main(int argc, char** argv) {
     if (argc < 4 || argc > 5) {
-        std::cerr << "Usage: train_evaluation SECONDS SEED WEIGHTS.h [STATE]\n";
+        std::cerr << "Usage: train_evaluation GAMES SEED WEIGHTS.h [STATE]\n";
         return 2;
     }
-    qarn::Train(std::atof(argv[1]), static_cast<std::uint64_t>(std::atoll(argv[2])), argv[3],
+    qarn::Train(std::atol(argv[1]), static_cast<std::uint64_t>(std::atoll(argv[2])), argv[3],
                 argc > 4 ? argv[4] : "");
 }

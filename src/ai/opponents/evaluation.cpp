@@ -1,19 +1,42 @@
 #include "ai/opponents/evaluation.h"
 
 #include <cmath>
-#include <numeric>
 
 #include "ai/opponents/weights.h"
 
 namespace qarn {
+namespace {
 
-const Weights learnedWeights{.features = learnedFeatureWeights, .move = learnedMoveWeight};
+// An S-curve from -1 to 1.
+float Softsign(float x) { return x / (1 + std::abs(x)); }
+
+// The same from 0 to 1.
+float ShareFrom(float x) { return (1 + Softsign(x)) / 2; }
+
+}  // namespace
+
+float ShareOf(const Features& features) { return ShareFrom(features[balanceFeature]); }
+
+Activation Activate(const Features& features, const Weights& weights) {
+    Activation activation{.hidden = weights.hiddenBias, .sum = weights.bias};
+    for (std::size_t i = 0; i < features.size(); ++i) {
+        const float feature = features[i];
+        if (feature == 0) continue;
+        const auto& row = weights.toHidden[i];
+        for (std::size_t k = 0; k < row.size(); ++k) activation.hidden[k] += feature * row[k];
+        activation.sum += feature * weights.past[i];
+    }
+    for (std::size_t k = 0; k < Weights::hidden; ++k) {
+        activation.hidden[k] = Softsign(activation.hidden[k]);
+        activation.sum += activation.hidden[k] * weights.fromHidden[k];
+    }
+    activation.value = ShareFrom(activation.sum);
+    return activation;
+}
 
 float Evaluate(const Position& position, const Distances& distances, const Weights& weights) {
-    const Features features = FeaturesOf(position, distances);
-    const float sum = std::inner_product(features.begin(), features.end(), weights.features.begin(),
-                                         weights.move);
-    return 1 / (1 + std::exp(-sum));
+    const Armies armies(position, distances);
+    return Activate(FeaturesOf(armies, position.bytTurn, distances), weights).value;
 }
 
 }  // namespace qarn

@@ -4,16 +4,36 @@
 
 namespace qarn {
 
-/// One weight for each feature, and one for the side that has the move.
+/// A network of one hidden layer over the features, with a way past it.
 struct Weights {
-    Features features{};
-    float move = 0;
+    static constexpr std::size_t inputs = std::tuple_size_v<Features>;
+    static constexpr std::size_t hidden = 16;
+
+    std::array<std::array<float, hidden>, inputs> toHidden{};
+    std::array<float, hidden> hiddenBias{};
+    std::array<float, hidden> fromHidden{};
+    std::array<float, inputs> past{};
+    float bias = 0;
 };
 
 /// The weights that were learned by self-play (see weights.h, which tells the command).
 extern const Weights learnedWeights;
 
-/// How likely the side to move is to win: the logistic function of the weighted features, 0 to 1.
+/// What goes on in the network on the way to its answer.
+struct Activation {
+    std::array<float, Weights::hidden> hidden{};
+    float sum = 0;    ///< of everything that comes in at the end
+    float value = 0;  ///< how likely the side to move is to win, 0 to 1
+};
+
+/// What the network makes of the features. Its curves are made by arithmetic alone, so that the
+/// same position has the same value, to the last bit, on every machine.
+Activation Activate(const Features& features, const Weights& weights);
+
+/// The share of the side to move in the strengths of both sides, as the features tell it.
+float ShareOf(const Features& features);
+
+/// How likely the side to move is to win a position, 0 to 1.
 float Evaluate(const Position& position, const Distances& distances, const Weights& weights);
 
 }  // namespace qarn

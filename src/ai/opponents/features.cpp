@@ -1,194 +1,195 @@
 #include "ai/opponents/features.h"
 
 #include <algorithm>
+#include <cmath>
+#include <tuple>
 
 #include "rules/questions/odds.h"
 
 namespace qarn {
 namespace {
 
-constexpr std::size_t mostStacks = peopleCount;
+constexpr int longWay = 15;
 
-// The characters of one side on one square.
-struct Stack {
-    Square square = {};
-    PeopleSet people = {};
-    int attack = 0;
-    int defense = 0;  // the terrain beneath aside
-    int cover = 0;    // what the terrain adds when it is stepped into
-    int mobility = 0;
-    int weakest = 0;  // attack and defense of the weakest
-    Gait gait = Gait::OnFoot;
-
-    int Strength() const { return attack + defense; }
-};
-
-struct Army {
-    std::array<Stack, mostStacks> stacks;
-    std::size_t count = 0;
-    int characters = 0;
-    int bestFour = 0;
-
-    const Stack* begin() const { return stacks.data(); }
-    const Stack* end() const { return begin() + count; }
-    const Stack& Best() const {
-        return *std::max_element(
-            begin(), end(), [](const Stack& a, const Stack& b) { return a.attack < b.attack; });
+// What a thing is worth that is so many turns away: each turn takes a fifth of it.
+constexpr auto delays = [] {
+    std::array<float, longWay + 1> table{};
+    float left = 1;
+    for (float& one : table) {
+        one = left;
+        left *= 0.8F;
     }
-};
+    return table;
+}();
 
-int CoverOf(const Position& position, Square square) {
-    const std::uint8_t T = TerrainOf(position, square);
-    return T == Swamp || T == Plain || T == Stream ? 0 : position.TerrainKinds[T].Defense;
+float Delayed(float worth, int turns) {
+    if (turns >= neverThere) return 0;
+    return worth * delays[static_cast<std::size_t>(std::min(turns, longWay))];
 }
 
-Stack& StackOn(Army& army, const Position& position, Square square) {
-    for (std::size_t k = 0; k < army.count; ++k) {
-        if (army.stacks[k].square == square) return army.stacks[k];
-    }
-    Stack& stack = army.stacks[army.count++];
-    stack = {.square = square};
-    stack.cover = CoverOf(position, square);
-    stack.weakest = 255;
-    return stack;
+// How many of the five numbers of the die win.
+int WinsOf(int attack, int defense) {
+    return std::clamp(ThresholdOf(attack, defense) - 1, 0, dieSides);
 }
 
-Army ArmyOf(const Position& position, std::uint8_t side) {
-    Army army;
-    std::array<int, peopleCount> attacks{};
-    for (std::uint8_t i = 1; i <= peopleCount; ++i) {
-        const Group& one = position.People[i];
-        if (one.Side != side || !OnBoard(one)) continue;
-        attacks[static_cast<std::size_t>(army.characters++)] = one.Attack;
-        Stack& stack = StackOn(army, position, SquareOf(one));
-        stack.people.Add(i);
-        stack.attack += one.Attack;
-        stack.defense += one.Defense;
-        stack.mobility += one.Mobility;
-        stack.weakest = std::min(stack.weakest, one.Attack + one.Defense);
-    }
-    const auto best = attacks.begin() + std::min(4, army.characters);
-    std::partial_sort(attacks.begin(), best, attacks.end(), std::greater<>());
-    for (auto attack = attacks.begin(); attack != best; ++attack) army.bestFour += *attack;
-    for (std::size_t k = 0; k < army.count; ++k) {
-        Stack& stack = army.stacks[k];
-        PeopleSet all = stack.people;
-        for (std::uint8_t i = 1; i <= peopleCount; ++i) {
-            const Group& one = position.People[i];
-            if (IsTransport(one) && SquareOf(one) == stack.square) all.Add(i);
-        }
-        stack.gait = GaitOf(position, all);
-    }
-    return army;
-}
-
-// What an attack is worth, in strength: what falls, less what it costs.
 float WorthOf(const Stack& own, const Stack& enemy) {
-    const int threshold = ThresholdOf(own.attack, enemy.defense + enemy.cover);
+    const int threshold = ThresholdOf(own.attack, enemy.defense);
     const int wins = std::clamp(threshold - 1, 0, dieSides);
     const int loses = std::clamp(dieSides - threshold, 0, dieSides);
-    const auto fifth = 1.0F / dieSides;
+    constexpr auto fifth = 1.0F / dieSides;
     const float lost = static_cast<float>(loses) + static_cast<float>(wins) * fifth;
     return fifth *
-           (static_cast<float>(wins * enemy.Strength()) - lost * static_cast<float>(own.weakest));
+           (static_cast<float>(wins * enemy.strength) - lost * static_cast<float>(own.weakest));
 }
 
-bool Beats(const Stack& own, const Stack& enemy) {
-    return ThresholdOf(own.attack, enemy.defense + enemy.cover) >= 2;
-}
-
+// One side's features.
 class SideView {
 public:
-    SideView(const Army& own, const Army& enemy, const Distances& distances)
-        : own_(own), enemy_(enemy), distances_(distances) {}
+    SideView(const Army& own, const Army& enemy, const Distances& distances, float* features)
+        : own_(own), enemy_(enemy), distances_(distances), features_(features) {}
 
-    void Write(float* features) const {
-        if (own_.characters == 0) return;
-        int strength = 0;
-        for (const Stack& stack : own_) strength += stack.Strength();
-        features[Characters] = static_cast<float>(own_.characters) / 10;
-        features[StrengthLeft] = static_cast<float>(strength) / 100;
-        features[BestStack] = static_cast<float>(own_.Best().attack) / 25;
-        features[BestFour] = static_cast<float>(own_.bestFour) / 25;
-        WriteStrikes(features);
-        WritePlaces(features);
-        if (enemy_.characters > 0) features[Pursuit] = Nearness();
+    void Write() {
+        if (own_.Count() == 0) return;
+        const Stack& best = BestOf(own_);
+        WriteArmy(best);
+        WritePlaces(best);
+        if (enemy_.Count() == 0) return;
+        WriteFights();
+        WriteDangers();
     }
 
 private:
-    int Distance(const Stack& from, Square to) const {
-        return distances_.Between(from.gait, from.square, to);
+    // The stacks come in no order, so that equals are told apart by where they stand.
+    static const Stack& BestOf(const Army& army) {
+        const auto rank = [](const Stack& stack) {
+            return std::tuple(stack.attack, stack.defense, stack.square.X, stack.square.Y);
+        };
+        return *std::max_element(army.begin(), army.end(),
+                                 [&](const Stack& a, const Stack& b) { return rank(a) < rank(b); });
     }
 
-    // The best attack on each enemy square, as far as so many times the mobility goes.
-    float WorthOfBestStrike(const Stack& enemy, int turns) const {
-        float best = 0;
-        for (const Stack& stack : own_) {
-            if (Distance(stack, enemy.square) > turns * stack.mobility) continue;
-            best = std::max(best, WorthOf(stack, enemy));
-        }
+    static int BestFourOf(const Army& army) {
+        int best = 0;
+        for (std::size_t k = 0; k < army.Count(); ++k)
+            best = std::max<int>(best, army.TeamOf(k).attack);
         return best;
     }
 
-    void WriteStrikes(float* features) const {
-        for (const Stack& enemy : enemy_) {
-            const float now = WorthOfBestStrike(enemy, 1) / 20;
-            features[Strikes] = std::max(features[Strikes], now);
-            features[MoreStrikes] += now / 2;
-            features[LaterStrikes] += WorthOfBestStrike(enemy, 2) / 40;
-        }
-    }
-
-    bool IsSafe(const Stack& own) const {
-        return std::none_of(enemy_.begin(), enemy_.end(),
-                            [&](const Stack& enemy) { return Beats(enemy, own); });
-    }
-
-    void WritePlaces(float* features) const {
-        const Stack& best = own_.Best();
+    void WriteArmy(const Stack& best) {
         for (const Stack& stack : own_) {
-            const auto people = static_cast<float>(stack.people.Count());
-            features[Cover] += static_cast<float>(stack.cover) * people / 40;
-            if (IsSafe(stack)) features[SafeStrength] += static_cast<float>(stack.Strength()) / 100;
-            const int distance = Distance(stack, best.square);
-            if (distance == Distances::unreachable) {
-                features[Stranded] += people / 10;
+            const auto count = static_cast<float>(stack.count);
+            features_[Characters] += count / 10;
+            features_[StrengthLeft] += static_cast<float>(stack.strength) / 100;
+            features_[Cover] += static_cast<float>(stack.cover) * count / 40;
+            if (stack.count >= 4) features_[FullStacks] += 0.4F;
+            if (stack.count == 1) features_[Loners] += 0.1F;
+            if (stack.count == 2) features_[Pairs] += 0.2F;
+            if (stack.hasBoat) features_[Sailors] += count / 10;
+        }
+        features_[Stacks] = static_cast<float>(own_.Count()) / 10;
+        features_[BestStack] = static_cast<float>(best.attack) / 25;
+        features_[BestStackDefense] = static_cast<float>(best.defense) / 25;
+        features_[BestStackReach] = static_cast<float>(best.mobility) / 16;
+        features_[BestStackFiller] = static_cast<float>(best.weakest) / 15;
+        features_[BestFour] = static_cast<float>(BestFourOf(own_)) / 25;
+    }
+
+    int Turns(const Stack& from, Square to, int mobility) const {
+        return TurnsTo(from, to, mobility, distances_);
+    }
+
+    void WritePlaces(const Stack& best) {
+        for (const Stack& stack : own_) {
+            const auto people = static_cast<float>(stack.count);
+            const int turns = Turns(stack, best.square, stack.mobility);
+            if (turns >= neverThere) {
+                features_[Stranded] += people / 10;
             } else {
-                features[Gathered] += people * NearnessOf(distance, stack.mobility) / 10;
+                features_[Gathered] += people / 10 * Delayed(1, turns);
             }
         }
     }
 
-    // 1 beside it, less and less with each turn of the way.
-    static float NearnessOf(int distance, int mobility) {
-        return 1 / (1 + static_cast<float>(distance) / static_cast<float>(std::max(1, mobility)));
+    void WriteFights() {
+        float most = 0;
+        float second = 0;
+        for (const Stack& enemy : enemy_) {
+            if (enemy.shared) continue;
+            float now = 0;
+            float next = 0;
+            float later = 0;
+            float pursuit = 0;
+            float hunt = 0;
+            std::size_t k = 0;
+            for (const Stack& stack : own_) {
+                const Team& team = own_.TeamOf(k++);
+                if (const int wins = WinsOf(stack.attack, enemy.defense); wins > 0) {
+                    const int turns = Turns(stack, enemy.square, stack.mobility);
+                    const float worth = WorthOf(stack, enemy);
+                    if (turns <= 1) now = std::max(now, worth);
+                    if (turns <= 2) next = std::max(next, worth);
+                    if (turns <= 4) later = std::max(later, worth);
+                    pursuit = std::max(pursuit, Delayed(static_cast<float>(wins), turns));
+                }
+                if (const int wins = WinsOf(team.attack, enemy.defense); wins > 0) {
+                    const int turns = team.turns + Turns(stack, enemy.square, team.mobility);
+                    hunt = std::max(hunt, Delayed(static_cast<float>(wins), turns));
+                }
+            }
+            second = std::max(second, std::min(now, most));
+            most = std::max(most, now);
+            features_[Strikes] += now / 40;
+            features_[StrikesNext] += next / 40;
+            features_[StrikesLater] += later / 40;
+            const float prey = static_cast<float>(enemy.strength) / (100 * dieSides);
+            features_[Pursuit] += prey * pursuit;
+            features_[Hunt] += prey * hunt;
+            features_[HuntBest] = std::max(features_[HuntBest], 2 * prey * hunt);
+        }
+        features_[Strike] = most / 20;
+        features_[SecondStrike] = second / 20;
     }
 
-    float Nearness() const {
-        float nearest = 0;
-        for (const Stack& stack : own_) {
-            for (const Stack& enemy : enemy_) {
-                const int distance = Distance(stack, enemy.square);
-                if (distance == Distances::unreachable || !Beats(stack, enemy)) continue;
-                nearest = std::max(nearest, NearnessOf(distance, stack.mobility));
-            }
+    void WriteDangers() {
+        const int stack = BestOf(enemy_).attack;
+        const int four = BestFourOf(enemy_);
+        for (const Stack& own : own_) {
+            const float share = static_cast<float>(own.strength) / (100 * dieSides);
+            features_[OpenToStack] += share * static_cast<float>(WinsOf(stack, own.defense));
+            const int wins = WinsOf(four, own.defense);
+            features_[OpenToFour] += share * static_cast<float>(wins);
+            if (wins == 0) features_[Safe] += share * dieSides;
         }
-        return nearest;
     }
 
     const Army& own_;
     const Army& enemy_;
     const Distances& distances_;
+    float* features_;
 };
+
+int StrengthOf(const Army& army) {
+    int sum = 0;
+    for (const Stack& stack : army) sum += stack.strength;
+    return sum;
+}
+
+// With own and enemy strengths a and b the share is a / (a + b).
+float Balance(const Army& own, const Army& enemy) {
+    const auto a = static_cast<float>(StrengthOf(own));
+    const auto b = static_cast<float>(StrengthOf(enemy));
+    return (a - b) / (a + b - std::abs(a - b) + 1);
+}
 
 }  // namespace
 
-Features FeaturesOf(const Position& position, const Distances& distances) {
-    const Army own = ArmyOf(position, position.bytTurn);
-    const Army enemy = ArmyOf(position, OtherSide(position.bytTurn));
+Features FeaturesOf(const Armies& armies, std::uint8_t side, const Distances& distances) {
+    const Army& own = armies.OfSide(side);
+    const Army& enemy = armies.OfSide(OtherSide(side));
     Features features{};
-    SideView(own, enemy, distances).Write(features.data());
-    SideView(enemy, own, distances).Write(features.data() + featureCount);
+    SideView(own, enemy, distances, features.data()).Write();
+    SideView(enemy, own, distances, features.data() + featureCount).Write();
+    features[balanceFeature] = Balance(own, enemy);
     return features;
 }
 

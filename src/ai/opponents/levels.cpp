@@ -7,8 +7,12 @@ namespace qarn {
 namespace {
 
 constexpr double errs = 1.0 / 8;
-constexpr SearchWidth captainsWidth{.replies = 24};
-constexpr SearchWidth warlordsWidth{.replies = 12, .followUps = 4};
+constexpr SearchLimits captainsLimits{
+    .stages = {{{.turns = 16, .plies = 3}}}, .replies = 4, .positions = 150'000};
+constexpr SearchLimits warlordsLimits{
+    .stages = {{{.turns = 30, .plies = 3}, {.turns = 5, .plies = 5}}},
+    .replies = 4,
+    .positions = 400'000};
 
 }  // namespace
 
@@ -17,18 +21,20 @@ std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed
     UniformGenerator chance;
     chance.Seed(seed);
     Search search(position, learnedWeights, thinking);
-    const std::vector<RatedTurn> turns = search.RateTurns(position);
-    if (chance.Next() >= errs) return turns.front().plan;
+    const std::vector<RatedTurn> turns = search.RateTurns();
+    if (chance.Next() >= errs) return PlanOf(position, turns.front().turn);
     const auto half = static_cast<double>((turns.size() + 1) / 2);
-    return turns[static_cast<std::size_t>(chance.Next() * half)].plan;
+    return PlanOf(position, turns[static_cast<std::size_t>(chance.Next() * half)].turn);
 }
 
 std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t, Thinking& thinking) {
-    return Search(position, learnedWeights, thinking).Best(position, captainsWidth).plan;
+    Search search(position, learnedWeights, thinking);
+    return PlanOf(position, search.Best(captainsLimits).turn);
 }
 
 std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t, Thinking& thinking) {
-    return Search(position, learnedWeights, thinking).Best(position, warlordsWidth).plan;
+    Search search(position, learnedWeights, thinking);
+    return PlanOf(position, search.Best(warlordsLimits).turn);
 }
 
 }  // namespace qarn

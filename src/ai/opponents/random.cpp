@@ -6,11 +6,12 @@
 namespace qarn {
 
 std::optional<Plan> ChooseRandomTurn(const Position& position, std::uint64_t seed, Thinking&) {
-    std::vector<Plan> turns;
+    std::vector<Turn> turns;
     ListTurns(position, turns);
     UniformGenerator chance;
     chance.Seed(seed);
-    return turns[static_cast<std::size_t>(chance.Next() * static_cast<double>(turns.size()))];
+    const auto count = static_cast<double>(turns.size());
+    return PlanOf(position, turns[static_cast<std::size_t>(chance.Next() * count)]);
 }
 
 }  // namespace qarn

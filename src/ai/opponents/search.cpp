@@ -2,9 +2,6 @@
 
 #include <algorithm>
 
-#include "ai/opponents/turns.h"
-#include "rules/play_turn.h"
-#include "rules/questions/casualties.h"
 #include "rules/questions/odds.h"
 #include "rules/questions/start.h"
 
@@ -13,107 +10,194 @@ namespace {
 
 bool IsBetter(const RatedTurn& a, const RatedTurn& b) { return a.value > b.value; }
 
-// A turn whose outcome depends on the dice.
-bool Rolls(const TurnOutcome& outcome) { return outcome.attack && outcome.attack->roll; }
+// What can come of a roll, with its chance in twenty-fifths.
+struct Case {
+    Dice dice;
+    int chance = 0;
+};
+constexpr int allChances = dieSides * dieSides;
+
+// How much what is won already counts beside what the evaluation hopes for. Without it a side that
+// stands well rather waits than strikes, since the strike stays open to it.
+constexpr float haste = 0.4F;
+
+struct Cases {
+    std::array<Case, 4> cases;
+    std::size_t count = 0;
+
+    void Add(Dice dice, int chance) {
+        if (chance > 0) cases[count++] = {dice, chance};
+    }
+    const Case* begin() const { return cases.data(); }
+    const Case* end() const { return begin() + count; }
+};
+
+// The likelier ways to lose first: they bound the rest soonest.
+Cases CasesOf(const Attacked& attack) {
+    const Odds odds = OddsOf(attack.attack, attack.defense);
+    Cases cases;
+    cases.Add({.roll = dieSides}, odds.lose * dieSides);
+    cases.Add({.roll = attack.threshold}, odds.tie * dieSides);
+    cases.Add({.roll = 1, .secondRoll = 1}, odds.win * (dieSides - 1));
+    cases.Add({.roll = 1, .secondRoll = rollThatCosts}, odds.win);
+    return cases;
+}
 
 }  // namespace
 
 Search::Search(const Position& position, const Weights& weights, Thinking& thinking)
-    : distances_(DistancesFor(position)), weights_(weights), thinking_(thinking) {}
+    : distances_(DistancesFor(position)),
+      weights_(weights),
+      thinking_(thinking),
+      root_(position, distances_) {}
 
 // Worth to the side to move.
-float Search::Value(const Position& position) {
+float Search::StaticValue(const Node& node) {
     ++thinking_.positions;
-    return Evaluate(position, distances_, weights_);
+    const Features features = FeaturesOf(node.armies, node.Side(), distances_);
+    const float value = Activate(features, weights_).value;
+    return value + haste * (ShareOf(features) - value);
 }
 
 // The expected value of a turn to the side that takes it, over all that the dice can do. `valueOf`
-// gives the value of a position to the side that is to move in it. Sets the plan's casualty.
+// gives the value of a node to the side that is to move in it. Sets the turn's casualty.
 template <typename ValueOf>
-float Search::Expect(const Position& position, Plan& plan, ValueOf valueOf) {
-    const std::uint8_t side = position.bytTurn;
-    const auto valueAfter = [&](const Plan& turn, Dice dice) {
-        Position after = position;
-        const TurnOutcome outcome = PlayTurn(after, turn, dice);
-        if (outcome.winner != 0) return outcome.winner == side ? 1.0F : 0.0F;
-        const float value = valueOf(after);
-        return after.bytTurn == side ? value : 1 - value;
+float Search::Expect(const Node& node, Turn& turn, Window window, const ValueOf& valueOf) {
+    const std::uint8_t side = node.Side();
+    const auto valueAfter = [&](const Node& after, Window within, const auto& value) {
+        if (after.winner != 0) return after.winner == side ? 1.0F : 0.0F;
+        if (after.Side() == side) return value(after, within);
+        return 1 - value(after, Window{1 - within.high, 1 - within.low});
     };
 
-    Position after = position;
-    const TurnOutcome sure = PlayTurn(after, plan, {});
-    if (!Rolls(sure)) return valueAfter(plan, {});
+    Node sure = node;
+    const std::optional<Attacked> attack = Play(sure, turn, {}, distances_);
+    if (!attack || !attack->roll) return valueAfter(sure, window, valueOf);
 
-    const Attacked& attack = *sure.attack;
-    const Odds odds = OddsOf(attack.attack, attack.defense);
-    float bestLoss = -1;
-    const auto lossWorth = [&](Dice dice) {
-        for (const std::uint8_t i : CharactersOf(position, ListedOn(position, plan.start))) {
-            Plan variant = plan;
-            variant.casualty = i;
-            const float value = valueAfter(variant, dice);
-            if (value > bestLoss) {
-                bestLoss = value;
-                plan.casualty = i;
+    const Cases cases = CasesOf(*attack);
+    const auto chooseCasualty = [&](Dice dice) {
+        const auto standing = [&](const Node& after, Window) { return StaticValue(after); };
+        float best = -1;
+        std::uint8_t chosen = 0;
+        const Square from = turn.kind == PlanKind::March ? turn.before : turn.start;
+        const PeopleSet attackers =
+            from == turn.start ? ListedOn(node.position, from) : turn.people;
+        for (const std::uint8_t i : CharactersOf(node.position, attackers)) {
+            turn.casualty = i;
+            Node after = node;
+            Play(after, turn, dice, distances_);
+            const float value = valueAfter(after, Window{}, standing);
+            if (value > best) {
+                best = value;
+                chosen = i;
             }
         }
+        turn.casualty = chosen;
     };
+    chooseCasualty(cases.begin()->dice.roll == dieSides && attack->threshold < dieSides
+                       ? Dice{.roll = dieSides}
+                       : Dice{.roll = 1, .secondRoll = rollThatCosts});
+
     float sum = 0;
-    if (odds.lose > 0) {
-        lossWorth({.roll = dieSides});
-        sum += static_cast<float>(odds.lose) * bestLoss;
+    int left = allChances;
+    for (const Case& one : cases) {
+        left -= one.chance;
+        const auto chance = static_cast<float>(one.chance) / allChances;
+        const auto rest = static_cast<float>(left) / allChances;
+        const Window within{std::max(0.0F, (window.low - sum - rest) / chance),
+                            std::min(1.0F, (window.high - sum) / chance)};
+        Node after = node;
+        Play(after, turn, one.dice, distances_);
+        const float value = valueAfter(after, within, valueOf);
+        sum += chance * value;
+        if (sum + rest <= window.low) return sum + rest;
+        if (sum >= window.high) return sum;
     }
-    if (odds.tie > 0) {
-        sum += static_cast<float>(odds.tie) * valueAfter(plan, {.roll = attack.threshold});
-    }
-    if (odds.win > 0) {
-        const float won = valueAfter(plan, {.roll = 1, .secondRoll = 1});
-        const float wonWithLoss = valueAfter(plan, {.roll = 1, .secondRoll = rollThatCosts});
-        sum += static_cast<float>(odds.win) * (won * (dieSides - 1) + wonWithLoss) / dieSides;
-    }
-    return sum / dieSides;
+    return sum;
 }
 
-std::vector<RatedTurn> Search::RateTurns(const Position& position) {
-    std::vector<Plan> turns;
-    ListTurns(position, turns);
+std::vector<RatedTurn> Search::RateTurns(const Node& node) {
+    std::vector<Turn> turns;
+    ListTurns(node.position, turns);
     std::vector<RatedTurn> rated;
     rated.reserve(turns.size());
-    for (Plan& plan : turns) {
+    for (Turn& turn : turns) {
         const float value =
-            Expect(position, plan, [&](const Position& after) { return Value(after); });
-        rated.push_back({plan, value});
+            Expect(node, turn, {}, [&](const Node& after, Window) { return StaticValue(after); });
+        rated.push_back({turn, value});
     }
     std::stable_sort(rated.begin(), rated.end(), IsBetter);
     return rated;
 }
 
-// What a position is worth to the side to move when it takes its best turn.
-float Search::ValueAfterReply(const Position& position, std::size_t followUps) {
-    std::vector<RatedTurn> replies = RateTurns(position);
-    if (followUps == 0) return replies.front().value;
+// What a node is worth to the side to move when it takes its best turn, one ply ahead.
+float Search::BestReply(const Node& node, Window window) {
+    const auto standing = [&](const Node& after, Window) { return StaticValue(after); };
+    replies_.clear();
+    ListTurns(node.position, replies_);
+    const auto known = std::find(replies_.begin(), replies_.end(), refutation_);
+    if (known != replies_.end()) std::iter_swap(replies_.begin(), known);
     float best = 0;
-    replies.resize(std::min(replies.size(), followUps));
-    for (RatedTurn& reply : replies) {
-        const float value = Expect(
-            position, reply.plan, [&](const Position& after) { return ValueAfterReply(after, 0); });
-        best = std::max(best, value);
+    for (const Turn& listed : replies_) {
+        Turn turn = listed;
+        const float value = Expect(node, turn, {std::max(best, window.low), window.high}, standing);
+        if (value <= best) continue;
+        best = value;
+        refutation_ = listed;
+        if (best >= window.high) break;
     }
     return best;
 }
 
-RatedTurn Search::Best(const Position& position, const SearchWidth& width) {
-    std::vector<RatedTurn> turns = RateTurns(position);
-    if (width.replies == 0) return turns.front();
-    turns.resize(std::min(turns.size(), width.replies));
-    for (RatedTurn& turn : turns) {
-        turn.value = Expect(position, turn.plan, [&](const Position& after) {
-            return ValueAfterReply(after, width.followUps);
-        });
+// What a node is worth to the side to move when both sides take so many turns more.
+float Search::Value(const Node& node, int plies, Window window) {
+    if (plies == 0) return StaticValue(node);
+    if (plies == 1) return BestReply(node, window);
+    std::vector<RatedTurn> turns = RateTurns(node);
+    turns.resize(std::min(turns.size(), limits_.replies));
+    float best = 0;
+    for (RatedTurn& one : turns) {
+        const float value = Expect(
+            node, one.turn, {std::max(best, window.low), window.high},
+            [&](const Node& after, Window within) { return Value(after, plies - 1, within); });
+        best = std::max(best, value);
+        if (best >= window.high || IsOver()) break;
     }
-    return *std::max_element(
-        turns.begin(), turns.end(),
-        [](const RatedTurn& a, const RatedTurn& b) { return a.value < b.value; });
+    return best;
+}
+
+bool Search::IsOver() const {
+    return thinking_.positions >= limits_.positions || thinking_.decideNow.stop_requested();
+}
+
+// The turns by their value so many plies ahead, the best first; exact for the best `kept`. One
+// whose search was cut short is left out.
+std::vector<RatedTurn> Search::Deepen(const std::vector<RatedTurn>& turns, int plies,
+                                      std::size_t kept) {
+    std::vector<RatedTurn> rated;
+    for (RatedTurn one : turns) {
+        const float low = rated.size() < kept ? 0 : rated[kept - 1].value;
+        one.value = Expect(root_, one.turn, {low, 1}, [&](const Node& after, Window within) {
+            return Value(after, plies - 1, within);
+        });
+        if (IsOver()) break;
+        rated.insert(std::upper_bound(rated.begin(), rated.end(), one, IsBetter), one);
+    }
+    return rated;
+}
+
+RatedTurn Search::Best(const SearchLimits& limits) {
+    limits_ = limits;
+    std::vector<RatedTurn> turns = RateTurns();
+    for (std::size_t k = 0; k < limits.stages.size() && !IsOver(); ++k) {
+        const Stage& stage = limits.stages[k];
+        if (stage.turns == 0) break;
+        const std::size_t next = k + 1 < limits.stages.size() ? limits.stages[k + 1].turns : 0;
+        turns.resize(std::min(turns.size(), stage.turns));
+        const auto rated = Deepen(turns, stage.plies, std::max<std::size_t>(1, next));
+        if (!rated.empty()) turns = rated;
+    }
+    return turns.front();
 }
 
 }  // namespace qarn

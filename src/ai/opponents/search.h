@@ -1,51 +1,73 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
 #include "ai/chooser.h"
 #include "ai/opponents/evaluation.h"
-#include "core/plan.h"
-#include "core/position.h"
+#include "ai/opponents/node.h"
 
 namespace qarn {
 
 /// A turn and what it is expected to be worth to the side that takes it, 0 to 1.
 struct RatedTurn {
-    Plan plan;
+    Turn turn;
     float value = 0;
 };
 
+/// A stage of a search: the best turns of the stage before are looked at again, deeper.
+struct Stage {
+    std::size_t turns = 0;  ///< so many of them
+    int plies = 2;          ///< so many turns ahead of both sides, the first included; at least 2
+};
+
 /// How far and how wide a search looks.
-struct SearchWidth {
-    std::size_t replies = 0;  ///< the best so many turns are looked at with the opponent's answers
-    std::size_t followUps = 0;  ///< ... and the best so many of these with one's own next turn
+struct SearchLimits {
+    std::array<Stage, 3> stages{};  ///< those with no turns are left out
+    std::size_t replies = 8;        ///< at the plies between, the best so many turns count
+    std::uint64_t positions = 0;    ///< when so many have been evaluated, the search ends
 };
 
 /// Looks for the best turn by expectation: the dice are chance nodes with their exact odds, and the
 /// attackers' casualty is the one that serves them best. The result depends on the position, the
-/// weights and the width alone. (Expectiminimax, as in the backgammon programs, with the turns
-/// ordered and cut off by their value one ply ahead.)
+/// weights and the limits alone, unless it is told to decide now. (Expectiminimax with the bounds
+/// of Ballard's Star1, "The *-minimax search procedure for trees containing chance nodes", 1983;
+/// the turns ordered and cut off by their value one ply ahead.)
 class Search {
 public:
     /// Counts the positions in `thinking`.
     Search(const Position& position, const Weights& weights, Thinking& thinking);
 
     /// All turns of the side to move, the best first, each by its value one ply ahead.
-    std::vector<RatedTurn> RateTurns(const Position& position);
+    std::vector<RatedTurn> RateTurns() { return RateTurns(root_); }
 
-    /// The best turn with the answers of the opponent looked at as far as the width tells.
-    RatedTurn Best(const Position& position, const SearchWidth& width);
+    /// The best turn that is found within the limits.
+    RatedTurn Best(const SearchLimits& limits);
 
 private:
-    float Value(const Position& position);
+    /// The values between which a search is exact; at or beyond them it gives a bound.
+    struct Window {
+        float low = 0;
+        float high = 1;
+    };
+
+    std::vector<RatedTurn> RateTurns(const Node& node);
+    float StaticValue(const Node& node);
+    std::vector<RatedTurn> Deepen(const std::vector<RatedTurn>& turns, int plies, std::size_t kept);
+    float Value(const Node& node, int plies, Window window);
+    float BestReply(const Node& node, Window window);
+    bool IsOver() const;
     template <typename ValueOf>
-    float Expect(const Position& position, Plan& plan, ValueOf valueOf);
-    float ValueAfterReply(const Position& position, std::size_t followUps);
+    float Expect(const Node& node, Turn& turn, Window window, const ValueOf& valueOf);
 
     const Distances& distances_;
     const Weights& weights_;
     Thinking& thinking_;
+    Node root_;
+    SearchLimits limits_;
+    std::vector<Turn> replies_;  // of the last ply, kept for its memory
+    Turn refutation_;            // the reply that was best before is likely to be so again
 };
 
 }  // namespace qarn

@@ -15,10 +15,14 @@ namespace {
 // by one or all together.
 constexpr int mostCombined = 5;
 
+MovingGroup GroupOf(const Position& position, Square start, PeopleSet people) {
+    return {people, start, StrengthOf(position, people).Mobility};
+}
+
 // Lists the turns of one position.
 class TurnList {
 public:
-    TurnList(const Position& position, std::vector<Plan>& turns)
+    TurnList(const Position& position, std::vector<Turn>& turns)
         : position_(position), occupancy_(position), turns_(turns) {}
 
     void Fill() {
@@ -87,17 +91,17 @@ private:
     }
 
     void AddMarches(Square start, PeopleSet people) {
-        int mobility = 0;
-        for (const std::uint8_t i : people) mobility += position_.People[i].Mobility;
-        const ReachMap map(position_, occupancy_, {people, start, mobility});
+        const ReachMap map(position_, occupancy_, GroupOf(position_, start, people));
         for (const ReachMap::Way& way : map) {
             const bool useless =
                 way.attack ? !CanAttack(way) : IsLoneBirdOnWater(position_, people, way.square);
             if (useless) continue;
             turns_.push_back({.kind = PlanKind::March,
+                              .attacks = way.attack,
                               .start = start,
-                              .people = people,
-                              .path = map.PathTo(way.square)});
+                              .before = way.before,
+                              .end = way.square,
+                              .people = people});
         }
     }
 
@@ -116,19 +120,31 @@ private:
             const AttackAnswer attack = AskAttack(position_, from, to, false);
             const bool worth = attack.burns || IsShared(to);
             if (attack.refusal != AttackRefusal::None || !worth) continue;
-            turns_.push_back({.kind = PlanKind::Attack, .start = from, .target = to});
+            turns_.push_back({.kind = PlanKind::Attack, .start = from, .end = to});
         }
     }
 
     const Position& position_;
     const Occupancy occupancy_;
-    std::vector<Plan>& turns_;
+    std::vector<Turn>& turns_;
 };
 
 }  // namespace
 
-void ListTurns(const Position& position, std::vector<Plan>& turns) {
+void ListTurns(const Position& position, std::vector<Turn>& turns) {
     TurnList(position, turns).Fill();
+}
+
+Plan PlanOf(const Position& position, const Turn& turn) {
+    Plan plan{.kind = turn.kind, .start = turn.start, .casualty = turn.casualty};
+    if (turn.kind == PlanKind::Attack) plan.target = turn.end;
+    if (turn.kind == PlanKind::March) {
+        plan.people = turn.people;
+        plan.path =
+            ReachMap(position, Occupancy(position), GroupOf(position, turn.start, turn.people))
+                .PathTo(turn.end);
+    }
+    return plan;
 }
 
 }  // namespace qarn
