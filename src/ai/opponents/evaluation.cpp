@@ -10,12 +10,9 @@ namespace {
 // An S-curve from -1 to 1.
 float Softsign(float x) { return x / (1 + std::abs(x)); }
 
-// The same from 0 to 1.
-float ShareFrom(float x) { return (1 + Softsign(x)) / 2; }
-
 }  // namespace
 
-float ShareOf(const Features& features) { return ShareFrom(features[balanceFeature]); }
+float ShareOf(float balance) { return (1 + Softsign(balance)) / 2; }
 
 Activation Activate(const Features& features, const Weights& weights) {
     Activation activation{.hidden = weights.hiddenBias, .sum = weights.bias};
@@ -30,7 +27,7 @@ Activation Activate(const Features& features, const Weights& weights) {
         activation.hidden[k] = Softsign(activation.hidden[k]);
         activation.sum += activation.hidden[k] * weights.fromHidden[k];
     }
-    activation.value = ShareFrom(activation.sum);
+    activation.value = (1 + Softsign(activation.sum)) / 2;
     return activation;
 }
 

@@ -30,8 +30,8 @@ struct Activation {
 /// same position has the same value, to the last bit, on every machine.
 Activation Activate(const Features& features, const Weights& weights);
 
-/// The share of the side to move in the strengths of both sides, as the features tell it.
-float ShareOf(const Features& features);
+/// The share in the strengths of both sides that a balance of strengths stands for.
+float ShareOf(float balance);
 
 /// How likely the side to move is to win a position, 0 to 1.
 float Evaluate(const Position& position, const Distances& distances, const Weights& weights);

@@ -174,14 +174,14 @@ int StrengthOf(const Army& army) {
     return sum;
 }
 
+}  // namespace
+
 // With own and enemy strengths a and b the share is a / (a + b).
-float Balance(const Army& own, const Army& enemy) {
-    const auto a = static_cast<float>(StrengthOf(own));
-    const auto b = static_cast<float>(StrengthOf(enemy));
+float BalanceOf(const Armies& armies, std::uint8_t side) {
+    const auto a = static_cast<float>(StrengthOf(armies.OfSide(side)));
+    const auto b = static_cast<float>(StrengthOf(armies.OfSide(OtherSide(side))));
     return (a - b) / (a + b - std::abs(a - b) + 1);
 }
-
-}  // namespace
 
 Features FeaturesOf(const Armies& armies, std::uint8_t side, const Distances& distances) {
     const Army& own = armies.OfSide(side);
@@ -189,7 +189,7 @@ Features FeaturesOf(const Armies& armies, std::uint8_t side, const Distances& di
     Features features{};
     SideView(own, enemy, distances, features.data()).Write();
     SideView(enemy, own, distances, features.data() + featureCount).Write();
-    features[balanceFeature] = Balance(own, enemy);
+    features[balanceFeature] = BalanceOf(armies, side);
     return features;
 }
 

@@ -47,6 +47,9 @@ inline constexpr std::size_t balanceFeature = 2 * featureCount;
 /// into the share of the side to move.
 using Features = std::array<float, 2 * featureCount + 1>;
 
+/// The balance of strengths, as the side sees it.
+float BalanceOf(const Armies& armies, std::uint8_t side);
+
 /// The features of two armies of which the one of `side` is to move.
 Features FeaturesOf(const Armies& armies, std::uint8_t side, const Distances& distances);
 
