@@ -13,11 +13,12 @@ namespace {
 
 constexpr int mostTurns = 160;
 constexpr int mostIdleTurns = 80;  // without a loss; then the game is held to be locked
-constexpr float lambda = 0.7F;
-constexpr float keepsATurn = 0.96F;  // of what is still to be won or lost: sooner is better
+constexpr float lambda = 0.8F;
+constexpr float keepsATurn = 0.98F;  // of what is still to be won or lost: sooner is better
 constexpr double explores = 0.02;
 constexpr float temperature = 0.004F;
-constexpr int mostScattered = 60;
+constexpr int mostScattered = 60;  // turns
+
 struct Seen {
     Features features;
     std::uint8_t side;

@@ -8,10 +8,10 @@ namespace {
 
 constexpr double errs = 1.0 / 8;
 constexpr SearchLimits captainsLimits{
-    .stages = {{{.turns = 16, .plies = 3}}}, .replies = 4, .positions = 150'000};
+    .stages = {{{.turns = 16, .plies = 3}}}, .replies = 4, .positions = 100'000};
 constexpr SearchLimits warlordsLimits{
     .stages = {{{.turns = 30, .plies = 3}, {.turns = 5, .plies = 5}}},
-    .replies = 4,
+    .replies = 5,
     .positions = 400'000};
 
 }  // namespace

@@ -9,11 +9,11 @@ namespace qarn {
 std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed,
                                     Thinking& thinking);
 
-/// Sees the opponent's answer.
+/// Sees the opponent's best answers to its better turns, and its own next turn.
 std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t seed,
                                       Thinking& thinking);
 
-/// Sees its own next turn beyond that.
+/// Sees the same for more turns and answers, and for the best two turns more.
 std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t seed,
                                       Thinking& thinking);
 

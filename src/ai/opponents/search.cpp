@@ -24,6 +24,9 @@ constexpr float haste = 0.4F;
 // ways to win the same the sooner one is better.
 constexpr float hasteEachTurn = 0.05F;
 
+constexpr Dice losing{.roll = dieSides};
+constexpr Dice winningAtACost{.roll = 1, .secondRoll = rollThatCosts};
+
 struct Cases {
     std::array<Case, 4> cases;
     std::size_t count = 0;
@@ -39,10 +42,10 @@ struct Cases {
 Cases CasesOf(const Attacked& attack) {
     const Odds odds = OddsOf(attack.attack, attack.defense);
     Cases cases;
-    cases.Add({.roll = dieSides}, odds.lose * dieSides);
+    cases.Add(losing, odds.lose * dieSides);
     cases.Add({.roll = attack.threshold}, odds.tie * dieSides);
     cases.Add({.roll = 1, .secondRoll = 1}, odds.win * (dieSides - 1));
-    cases.Add({.roll = 1, .secondRoll = rollThatCosts}, odds.win);
+    cases.Add(winningAtACost, odds.win);
     return cases;
 }
 
@@ -62,45 +65,45 @@ float Search::StaticValue(const Node& node) {
     return value + haste * (ShareOf(features[balanceFeature]) - value);
 }
 
-// The expected value of a turn to the side that takes it, over all that the dice can do. `valueOf`
-// gives the value of a node to the side that is to move in it. Sets the turn's casualty.
+// What a node is worth to a side, which need not be the one to move in it. `valueOf` gives the
+// value of a node to the side that is.
+template <typename ValueOf>
+float Search::WorthTo(std::uint8_t side, const Node& node, Window window, const ValueOf& valueOf) {
+    if (node.winner != 0) return node.winner == side ? 1.0F : 0.0F;
+    if (node.Side() == side) return valueOf(node, window);
+    return 1 - valueOf(node, Window{1 - window.high, 1 - window.low});
+}
+
+// Whom the attackers had best lose: the one without whom they stand best at once.
+std::uint8_t Search::ChooseCasualty(const Node& node, Turn turn, Dice dice) {
+    const auto standing = [&](const Node& after, Window) { return StaticValue(after); };
+    const Square from = turn.kind == PlanKind::March ? turn.before : turn.start;
+    const PeopleSet attackers = from == turn.start ? ListedOn(node.position, from) : turn.people;
+    float best = -1;
+    std::uint8_t chosen = 0;
+    for (const std::uint8_t i : CharactersOf(node.position, attackers)) {
+        turn.casualty = i;
+        Node after = node;
+        Play(after, turn, dice, distances_);
+        const float value = WorthTo(node.Side(), after, {}, standing);
+        if (value <= best) continue;
+        best = value;
+        chosen = i;
+    }
+    return chosen;
+}
+
+// The expected value of a turn to the side that takes it, over all that the dice can do. Sets the
+// turn's casualty.
 template <typename ValueOf>
 float Search::Expect(const Node& node, Turn& turn, Window window, const ValueOf& valueOf) {
-    const std::uint8_t side = node.Side();
-    const auto valueAfter = [&](const Node& after, Window within, const auto& value) {
-        if (after.winner != 0) return after.winner == side ? 1.0F : 0.0F;
-        if (after.Side() == side) return value(after, within);
-        return 1 - value(after, Window{1 - within.high, 1 - within.low});
-    };
-
     Node sure = node;
     const std::optional<Attacked> attack = Play(sure, turn, {}, distances_);
-    if (!attack || !attack->roll) return valueAfter(sure, window, valueOf);
+    if (!attack || !attack->roll) return WorthTo(node.Side(), sure, window, valueOf);
 
     const Cases cases = CasesOf(*attack);
-    const auto chooseCasualty = [&](Dice dice) {
-        const auto standing = [&](const Node& after, Window) { return StaticValue(after); };
-        float best = -1;
-        std::uint8_t chosen = 0;
-        const Square from = turn.kind == PlanKind::March ? turn.before : turn.start;
-        const PeopleSet attackers =
-            from == turn.start ? ListedOn(node.position, from) : turn.people;
-        for (const std::uint8_t i : CharactersOf(node.position, attackers)) {
-            turn.casualty = i;
-            Node after = node;
-            Play(after, turn, dice, distances_);
-            const float value = valueAfter(after, Window{}, standing);
-            if (value > best) {
-                best = value;
-                chosen = i;
-            }
-        }
-        turn.casualty = chosen;
-    };
-    chooseCasualty(cases.begin()->dice.roll == dieSides && attack->threshold < dieSides
-                       ? Dice{.roll = dieSides}
-                       : Dice{.roll = 1, .secondRoll = rollThatCosts});
-
+    const bool canLose = attack->threshold < dieSides;
+    turn.casualty = ChooseCasualty(node, turn, canLose ? losing : winningAtACost);
     float sum = 0;
     int left = allChances;
     for (const Case& one : cases) {
@@ -111,8 +114,7 @@ float Search::Expect(const Node& node, Turn& turn, Window window, const ValueOf&
                             std::min(1.0F, (window.high - sum) / chance)};
         Node after = node;
         Play(after, turn, one.dice, distances_);
-        const float value = valueAfter(after, within, valueOf);
-        sum += chance * value;
+        sum += chance * WorthTo(node.Side(), after, within, valueOf);
         if (sum + rest <= window.low) return sum + rest;
         if (sum >= window.high) return sum;
     }

@@ -59,6 +59,9 @@ private:
     float BestTurn(const Node& node, int plies, Window window);
     float BestReply(const Node& node, Window window);
     bool IsOver() const;
+    std::uint8_t ChooseCasualty(const Node& node, Turn turn, Dice dice);
+    template <typename ValueOf>
+    float WorthTo(std::uint8_t side, const Node& node, Window window, const ValueOf& valueOf);
     template <typename ValueOf>
     float Expect(const Node& node, Turn& turn, Window window, const ValueOf& valueOf);
 
