@@ -25,6 +25,7 @@ void PlayPair(const MatchPlan& plan, const Position& start, std::uint64_t seed, 
     Count(tally, second, 2);
     tally.scores.Add((first.Score(1) + second.Score(2)) / 2);
     tally.judged.Add((first.JudgedScore(1) + second.JudgedScore(2)) / 2);
+    tally.firstSide.Add((first.JudgedScore(1) + second.JudgedScore(1)) / 2);
 }
 
 PairScores JudgedOfAll(const MatchResult& result) {
@@ -46,6 +47,7 @@ void MatchTally::Add(const MatchTally& others) {
     turns += others.turns;
     scores.Add(others.scores);
     judged.Add(others.judged);
+    firstSide.Add(others.firstSide);
     for (std::size_t k = 0; k < times.size(); ++k) {
         refused[k] += others.refused[k];
         times[k].Add(others.times[k]);

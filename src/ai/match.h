@@ -30,6 +30,7 @@ struct MatchTally {
     long turns = 0;
     PairScores scores;
     PairScores judged;                 ///< games cut off are judged by the strengths left
+    PairScores firstSide;              ///< the judged score of side 1, whoever played it
     std::array<long, 2> refused{};     ///< plans of A and B that the rules refuse
     std::array<ChoiceTimes, 2> times;  ///< of A and B
 

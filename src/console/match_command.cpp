@@ -131,6 +131,7 @@ Json TallyJson(std::string_view head, const MatchTally& tally) {
             {"lost", tally.lost},
             {"score", ShareJson(tally.scores.Mean())},
             {"judged", ShareJson(tally.judged.Mean())},
+            {"firstSide", ShareJson(tally.firstSide.Mean())},
             {"turnsPerGame", TurnsPerGame(tally)},
             {"a", PlayerJson(tally, 0)},
             {"b", PlayerJson(tally, 1)}};
