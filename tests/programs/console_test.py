@@ -201,7 +201,7 @@ class ConsoleTest(unittest.TestCase):
                          f"Cinderfell Tactical Game - a b.tgf ({name} vs. )")
 
     def test_opponents_play_whole_turns_and_answer_for_themselves(self):
-        new = 'new g.tgf VD Red computer Blue computer'
+        new = 'new g.tgf ER Red computer Blue computer'
         one, *_ = self.play("level scout 1", "level warlord 2", "level classic 1", "level nobody")
         self.assertEqual(one["level"], ["scout", "classic"])
         games = [self.play("seed 5", "level scout", new, *(400 * ["timer 20"])) for _ in range(2)]
