@@ -10,6 +10,7 @@
 #include "help_pages/compile_chm.h"
 #include "help_pages/fill.h"
 #include "help_pages/html.h"
+#include "help_pages/match_tables.h"
 #include "help_pages/rule_tables.h"
 #include "help_pages/scenario_page.h"
 #include "scenarios/catalogue.h"
@@ -112,7 +113,7 @@ void MakeScenarioPages(const fs::path& source, const fs::path& folder) {
     }
 }
 
-void MakePages(const fs::path& source, const fs::path& folder) {
+void MakePages(const fs::path& source, const fs::path& matches, const fs::path& folder) {
     fs::remove_all(folder);
     fs::create_directories(folder / "pictures");
     fs::copy(source / "pictures", folder / "pictures", fs::copy_options::recursive);
@@ -123,6 +124,8 @@ void MakePages(const fs::path& source, const fs::path& folder) {
         {"odds", [](const std::string&) { return OddsTable(); }},
         {"terrain", [](const std::string&) { return TerrainTable(); }},
         {"special-movers", [](const std::string&) { return SpecialMoverTable(); }},
+        {"strength", [&](const std::string&) { return StrengthTable(matches); }},
+        {"balance", [&](const std::string&) { return BalanceTable(matches); }},
         {"scenarios", [](const std::string&) { return ScenarioOverview(); }},
         {"scenario-contents", [](const std::string&) { return ScenarioContents(); }},
         {"menu", [&](const std::string& name) { return MenuCells(name, toldMenus); }},
@@ -148,13 +151,13 @@ void MakePages(const fs::path& source, const fs::path& folder) {
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    if (argc != 3 && argc != 5) {
-        std::fputs("usage: make_help PAGES FILLED_PAGES [CHMCMD HELP_FILE]\n", stderr);
+    if (argc != 4 && argc != 6) {
+        std::fputs("usage: make_help PAGES MATCHES FILLED_PAGES [CHMCMD HELP_FILE]\n", stderr);
         return 2;
     }
     try {
-        qarn::MakePages(argv[1], argv[2]);
-        if (argc == 5) qarn::CompileChm(argv[3], argv[2], argv[4]);
+        qarn::MakePages(argv[1], argv[2], argv[3]);
+        if (argc == 6) qarn::CompileChm(argv[4], argv[3], argv[5]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "make_help: %s\n", error.what());
         return 1;
