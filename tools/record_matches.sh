@@ -8,7 +8,7 @@ console=${CONSOLE:-build/release/qarn-console}
 pairs=${1:-50}
 turns=${2:-200}
 
-for match in scout-random captain-classic captain-scout warlord-captain warlord-warlord; do
+for match in scout-random captain-classic captain-scout warlord-captain captain-captain; do
     record=matches/$match.json
     trap 'rm -f "$record.new"' EXIT
     "$console" --match "${match%-*}" "${match#*-}" --scenario all --games "$pairs" \

@@ -71,12 +71,12 @@ rm "$folder/matches/captain-scout.json"
 mustFail 'a missing record' 'captain-scout.json: can not be read'
 
 freshPages
-echo '{"scenarios": []' >"$folder/matches/warlord-warlord.json"
-mustFail 'a damaged record' 'warlord-warlord.json: '
+echo '{"scenarios": []' >"$folder/matches/captain-captain.json"
+mustFail 'a damaged record' 'captain-captain.json: '
 
 freshPages
-sed -i 's/"scenario":"DW"/"scenario":"DX"/' "$folder/matches/warlord-warlord.json"
-mustFail 'a record without a scenario' 'warlord-warlord.json: no games of DW'
+sed -i 's/"scenario":"DW"/"scenario":"DX"/' "$folder/matches/captain-captain.json"
+mustFail 'a record without a scenario' 'captain-captain.json: no games of DW'
 
 # ---- The tables tell what the records hold ----
 
@@ -99,7 +99,7 @@ for result in SB:0.3499 SKF:0.35 DW:0.4499 TQM:0.45 CF:0.5 WR:0.55 HM:0.5501 VD:
     games="\"games\":100,\"firstSide\":$(share "${result#*:}")"
     results="$results,{\"scenario\":\"${result%:*}\",$games}"
 done
-echo "{\"scenarios\":[${results#,}]}" >"$folder/matches/warlord-warlord.json"
+echo "{\"scenarios\":[${results#,}]}" >"$folder/matches/captain-captain.json"
 build
 mustTell 'Warlord against Captain 1200 200 62.5 (12.5 to 75.0) 34'
 mustTell 'The Saltbrook 100 35.0 (12.5 to 75.0) badbeasts much better'

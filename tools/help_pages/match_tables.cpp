@@ -97,7 +97,7 @@ std::string StrengthTable(const fs::path& matches) {
 }
 
 std::string BalanceTable(const fs::path& matches) {
-    return OfRecord(matches / "warlord-warlord.json", [](const json& record) {
+    return OfRecord(matches / "captain-captain.json", [](const json& record) {
         std::string rows = Row(
             {"Scenario", "Games", "Share of the goodbeasts in % (95% interval)", "Stand"}, "th");
         for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
