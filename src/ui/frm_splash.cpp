@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "scenarios/balance.h"
 #include "shell/run_start_event.h"
 #include "ui/scenario_picture.h"
 #include "ui/text.h"
@@ -216,9 +217,12 @@ void FrmSplash::ShowScenario() {
     Show(lblScenarioBackground_, controls.lblScenarioBackground);
     const bool chosen = list.Visible && list.ListIndex >= 0;
     picture_.setVisible(chosen);
+    balance_.setVisible(chosen);
     if (!chosen) return;
     picture_.setPixmap(ScenarioPicture(list.ListIndex + 1, pictureSquare, devicePixelRatioF()));
     lblScenarioBackground_.setFixedWidth(columnCount * pictureSquare);
+    balance_.setText("Balance: " + ToQt(BalanceOfScenario(list.ListIndex + 1)));
+    balance_.setFixedWidth(columnCount * pictureSquare);
 }
 
 void FrmSplash::ShowFiles() {

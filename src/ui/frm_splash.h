@@ -87,6 +87,7 @@ private:
     ChoiceList lstScenarios_;
     QLabel picture_;
     QLabel lblScenarioBackground_;
+    QLabel balance_;
     ChoiceList fileLoad_;
     QPushButton cmdLoad_;
     QPushButton cmdDelete_;

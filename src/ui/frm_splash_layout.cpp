@@ -101,9 +101,12 @@ QLayout* FrmSplash::LayLists() {
 QLayout* FrmSplash::LayStory() {
     lblScenarioBackground_.setWordWrap(true);
     lblScenarioBackground_.setAlignment(Qt::AlignTop);
+    balance_.setObjectName("balance");
+    balance_.setWordWrap(true);
     auto* part = new QVBoxLayout;
     part->addWidget(&picture_);
     part->addWidget(&lblScenarioBackground_, 1);
+    part->addWidget(&balance_);
     return part;
 }
 

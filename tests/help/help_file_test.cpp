@@ -6,6 +6,7 @@
 #include <set>
 
 #include "help/chm_archive.h"
+#include "scenarios/balance.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "support/temp_folder.h"
@@ -157,6 +158,16 @@ TEST(HelpFile, CostsAreThoseOfTheRule) {
     }
     EXPECT_NE(TextOf(Page("Terrain Info.htm")).find(" Gallowrock 1 0 3 yes no 1 to move and 3"),
               std::string::npos);
+}
+
+TEST(HelpFile, BalanceIsThatOfTheStartWindow) {
+    const std::string text = TextOf(Page("Opponents.htm"));
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        const std::size_t row = text.find(NamesOfScenario(scenario).ListTitle);
+        ASSERT_NE(row, text.npos) << scenario;
+        const std::string end = ") " + BalanceOfScenario(scenario) + " ";
+        EXPECT_EQ(text.find(") ", row), text.find(end, row)) << scenario << end;
+    }
 }
 
 // ---- Damage ----

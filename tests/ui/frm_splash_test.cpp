@@ -7,6 +7,8 @@
 #include <QTest>
 #include <algorithm>
 
+#include "scenarios/balance.h"
+#include "scenarios/catalogue.h"
 #include "support/fake_desktop.h"
 #include "support/fake_ports.h"
 #include "ui/window_script.h"
@@ -112,7 +114,10 @@ TEST_F(StartWindowOnScreen, MakesANewGameByKeyboardAlone) {
     EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked (&Next) lstScenarios E&xit");
     EXPECT_EQ(Focus(), "lstScenarios");
     Key(Qt::Key_Return);  // no scenario yet
+    EXPECT_FALSE(Widget("balance")->isVisible());
     Key(Qt::Key_End);
+    EXPECT_TRUE(Widget("balance")->isVisible());
+    EXPECT_EQ(Text("balance"), "Balance: " + BalanceOfScenario(ScenarioNumber("AM")));
     EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked *&Next lstScenarios=Ambermoor E&xit");
     Key(Qt::Key_Return);
     EXPECT_EQ(Seen(), "'' (*&Next) &Computer (lstScenarios=Ambermoor) E&xit");

@@ -1,6 +1,5 @@
 #include "help_pages/match_tables.h"
 
-#include <cmath>
 #include <cstdio>
 #include <fstream>
 #include <functional>
@@ -9,6 +8,7 @@
 #include "help_pages/fill.h"
 #include "help_pages/html.h"
 #include "help_pages/scenario_page.h"
+#include "scenarios/balance.h"
 #include "scenarios/catalogue.h"
 
 namespace qarn {
@@ -16,9 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-
-constexpr double even = 0.05;   // so far from one half both sides stand alike
-constexpr double clear = 0.15;  // and beyond this one stands much better
 
 // What `tell` makes of a record.
 std::string OfRecord(const fs::path& path, const std::function<std::string(const json&)>& tell) {
@@ -51,15 +48,6 @@ std::string StrengthRow(const std::string& name, const json& record) {
     return Row({"<td class=\"text\">" + name + "</td>", Number(all.at("games")),
                 Number(record.at("mostTurns")), ShareText(all.at("judged")),
                 Number(all.at("drawn"))});
-}
-
-std::string BalanceWord(double firstSide) {
-    const double ahead = firstSide - 0.5;
-    // The shares of a record are exact fractions only up to the last bit.
-    constexpr double lastBit = 1e-9;
-    if (std::abs(ahead) <= even + lastBit) return "even";
-    const std::string side = ahead > 0 ? "goodbeasts" : "badbeasts";
-    return side + (std::abs(ahead) > clear + lastBit ? " much better" : " better");
 }
 
 const json& ResultOf(const json& record, std::string_view code) {
