@@ -8,7 +8,7 @@ namespace qarn {
 /// to 1: "even" from 0.45 to 0.55, "badbeasts better" below, "badbeasts much better" below 0.35.
 std::string BalanceWord(double firstSide);
 
-/// The word for scenario 1 to 12, by the recorded games of the strongest opponent against itself.
+/// The word for scenario 1 to 12, by the recorded games of Captain against itself.
 /// Throws std::out_of_range for another number, or when the record holds no such games.
 std::string BalanceOfScenario(int scenario);
 

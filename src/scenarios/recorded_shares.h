@@ -5,7 +5,7 @@
 
 namespace qarn {
 
-/// The shares of side 1 by the codes of the scenarios, from matches/warlord-warlord.json.
+/// The shares of side 1 by the codes of the scenarios, from matches/captain-captain.json.
 extern const std::map<std::string_view, double> recordedShares;
 
 }  // namespace qarn
