@@ -8,6 +8,7 @@
 #include "ui/frm_game.h"
 #include "ui/text.h"
 #include "window/opponents_turn.h"
+#include "window/run_event.h"
 #include "window/speed.h"
 #include "window/told_of_opponent.h"
 
@@ -77,7 +78,10 @@ bool FrmGame::IsThinking() const {
 void FrmGame::ShowFoundHint() {
     if (running_ || !game_.blnHintWanted || !thinker_ || !thinker_->HasDecided()) return;
     game_.blnHintWanted = false;
-    Run("ShowHint", [this](Game& game) { ShowHint(game, thinker_->Take()); });
+    // Not by Run: what it takes away first would have the choice dropped that is no longer wanted.
+    RunAlone([this] {
+        RunEvent(game_, "ShowHint", [this](Game& game) { ShowHint(game, thinker_->Take()); });
+    });
 }
 
 void FrmGame::TimeIsUp() {

@@ -94,7 +94,7 @@ protected:
     // Answers the boxes and dialogs that come up next, each with a key.
     void AnswerBoxes(std::deque<Qt::Key> keys) {
         if (keys.empty()) return;
-        QTimer::singleShot(0, qApp, [this, keys]() mutable {
+        QTimer::singleShot(0, window.get(), [this, keys]() mutable {
             QWidget* dialog = QApplication::activeModalWidget();
             if (dialog == nullptr) return AnswerBoxes(keys);
             titles.push_back(dialog->windowTitle().toStdString());

@@ -1,6 +1,7 @@
 #include <QMenu>
 
 #include "support/game_window.h"
+#include "ui/opponent_strip.h"
 
 namespace qarn {
 namespace {
@@ -167,6 +168,18 @@ TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
     EXPECT_FALSE(Acts());
     window->close();
     EXPECT_TRUE(ShownGame().blnEnded);
+}
+
+// As after a longer thought, its text stands beside the status line when the hint is found.
+TEST_F(OpponentWindow, FindsAHintThatTakesItsTime) {
+    Open("Q@14,7 TS@9,5 LS@10,2 S@3,7 WS@14,7 SK@8,5 V@8,2 WA@15,4 WA1@15,4 Z@17,2 ZA1@5,1");
+    AnswerBoxes({Qt::Key_Return});
+    Key(Qt::Key_H, Qt::ControlModifier);
+    auto* strip = window->findChild<OpponentStrip*>();
+    ASSERT_TRUE(strip != nullptr && ShownGame().blnHintWanted);
+    strip->Tell("Finding a hint.", 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ShownGame().controls.Hint.Visible; }));
+    EXPECT_TRUE(boxes.empty());
 }
 
 TEST_F(OpponentWindow, PlaysAWholeGameAgainstAnother) { PlayWholeGame("computer2"); }
