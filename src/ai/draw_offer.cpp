@@ -14,14 +14,14 @@ bool IsPlayedByOpponent(const Game& game, std::uint8_t side) {
 
 bool PersonAgrees(Game& game) {
     const std::string& name = game.record.strPlayerName[game.record.bytTurn];
-    return game.ports.dialogs.Show(
-               {.Title = "Draw",
-                .Text =
-                    name + " offers a draw: for " + std::to_string(turnsOfALock) +
-                    " turns neither side has come any further.\nDo you agree, and end the game?",
-                .Offered = Buttons::YesNo,
-                .DeclinedByDefault = true,
-                .ForThePerson = true}) == Answer::Yes;
+    return game.ports.dialogs.Show({.Title = "Draw",
+                                    .Text = name + " offers a draw: for " +
+                                            std::to_string(turnsOfALock) +
+                                            " turns neither side has come any further.\nDo you "
+                                            "agree? The game then ends, and its file is deleted.",
+                                    .Offered = Buttons::YesNo,
+                                    .DeclinedByDefault = true,
+                                    .ForThePerson = true}) == Answer::Yes;
 }
 
 }  // namespace

@@ -20,9 +20,10 @@ inline constexpr std::array opponentChoices{
                    "its questions."},
     OpponentChoice{"scout", "&Scout",
                    "Sees one turn ahead, and errs now and then as a beginner does."},
-    OpponentChoice{"captain", "Ca&ptain", "Sees what you can answer to each of its turns."},
+    OpponentChoice{"captain", "Ca&ptain",
+                   "Sees your best answers to its better turns, and its next turn after them."},
     OpponentChoice{"warlord", "&Warlord",
-                   "Looks further than your answer, and takes its time over it."},
+                   "Looks at more turns than Captain, and two turns further, and takes its time."},
 };
 
 inline constexpr std::string_view classicOpponent = opponentChoices.front().Name;

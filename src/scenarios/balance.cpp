@@ -1,6 +1,7 @@
 #include "scenarios/balance.h"
 
 #include <cmath>
+#include <stdexcept>
 
 #include "scenarios/catalogue.h"
 #include "scenarios/recorded_shares.h"
@@ -24,7 +25,11 @@ std::string BalanceWord(double firstSide) {
 }
 
 std::string BalanceOfScenario(int scenario) {
-    return BalanceWord(recordedShares.at(NamesOfScenario(scenario).Code));
+    const std::string_view code = NamesOfScenario(scenario).Code;
+    for (const RecordedShare& one : RecordedShares()) {
+        if (one.code == code) return BalanceWord(one.firstSide);
+    }
+    throw std::out_of_range("no games of " + std::string(code));
 }
 
 }  // namespace qarn

@@ -1,11 +1,17 @@
 #pragma once
 
-#include <map>
+#include <span>
 #include <string_view>
 
 namespace qarn {
 
-/// The shares of side 1 by the codes of the scenarios, from matches/captain-captain.json.
-extern const std::map<std::string_view, double> recordedShares;
+/// How side 1 did in a scenario when Captain played itself: its share of the games, 0 to 1.
+struct RecordedShare {
+    std::string_view code;  ///< of the scenario
+    double firstSide;
+};
+
+/// All that is recorded, from matches/captain-captain.json.
+std::span<const RecordedShare> RecordedShares();
 
 }  // namespace qarn

@@ -9,6 +9,7 @@
 #include "ai/opponents/levels.h"
 #include "ai/opponents/node.h"
 #include "ai/starting_position.h"
+#include "core/opponents.h"
 #include "core/random_numbers.h"
 #include "rules/questions/odds.h"
 #include "rules/questions/turn.h"
@@ -129,6 +130,12 @@ std::optional<Plan> ChoiceOf(std::string_view opponent, const std::string& posit
     const PlayedGame played(position);
     Thinking thinking;
     return FindOpponent(opponent)->choose(PositionOf(played.game.record), seed, thinking);
+}
+
+TEST(Levels, AreThereForEveryChoiceOfAPerson) {
+    for (const OpponentChoice& choice : opponentChoices) {
+        EXPECT_NE(FindOpponent(choice.Name), nullptr) << choice.Name;
+    }
 }
 
 TEST(Levels, ChooseTheSameForTheSameSeed) {

@@ -136,7 +136,8 @@ TEST_F(StartWindowTest, TheWizardAsksWhoPlaysForTheComputer) {
     EXPECT_EQ(controls.cboOpponent.List, (Texts{"Classic", "Scout", "Captain", "Warlord"}));
     controls.cboOpponent.ListIndex = 2;
     cboOpponent_Click(window);
-    EXPECT_EQ(controls.lblOpponent.Caption, "Sees what you can answer to each of its turns.");
+    EXPECT_EQ(controls.lblOpponent.Caption,
+              "Sees your best answers to its better turns, and its next turn after them.");
     tick(false);
     EXPECT_FALSE(controls.cboOpponent.Visible || controls.lblOpponent.Visible);
     tick(true);
