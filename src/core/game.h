@@ -8,6 +8,7 @@
 #include "core/happenings.h"
 #include "core/opponents.h"
 #include "core/ports.h"
+#include "core/view_choices.h"
 
 namespace qarn {
 
@@ -36,6 +37,7 @@ struct Game {
     std::array<std::string_view, 3> opponent{"", classicOpponent, classicOpponent};
 
     Speed speed = Speed::Second;  ///< of opponents that answer for themselves
+    ViewChoices view = {};        ///< the person's, which no file holds
     bool blnHintWanted = false;   ///< until the front end has it found and shown
 
     bool blnOpen = false;        ///< a game stands in the window

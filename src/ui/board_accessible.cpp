@@ -4,8 +4,9 @@
 #include <QTimer>
 #include <array>
 
+#include "play/square_text.h"
 #include "ui/board_widget.h"
-#include "ui/square_text.h"
+#include "ui/text.h"
 
 namespace qarn {
 namespace {
@@ -35,7 +36,7 @@ public:
 
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Name) return {};
-        return NameOfSquare(board_->ShownGame(), square_.x(), square_.y());
+        return ToQt(NameOfSquare(board_->ShownGame(), square_.x(), square_.y()));
     }
     void setText(QAccessible::Text, const QString&) override {}
 

@@ -7,17 +7,15 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
-#include "core/board_display.h"
 #include "core/board_geometry.h"
+#include "play/square_text.h"
 #include "ui/board_accessible.h"
-#include "ui/code_layout.h"
 #include "ui/hint_caption.h"
+#include "ui/paint_codes.h"
 #include "ui/paint_hint.h"
 #include "ui/paint_square_role.h"
-#include "ui/square_text.h"
 #include "ui/text.h"
 
 namespace qarn {
@@ -44,15 +42,6 @@ void ForEachSquare(Function function) {
     }
 }
 
-// Lines stand on whole pixels of the screen, so that they are sharp at any size.
-template <typename Lines>
-void SpreadLines(Lines& lines, double length, double ratio) {
-    const auto last = static_cast<double>(lines.size() - 1);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        lines[i] = std::round(length * ratio * static_cast<double>(i) / last) / ratio;
-    }
-}
-
 // An outline inside a rectangle, `width` thick.
 void PaintOutline(QPainter& painter, const QRectF& rect, double width, QColor color) {
     painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), width), color);
@@ -75,11 +64,11 @@ BoardWidget::BoardWidget(const Game& game, QWidget* parent) : QWidget(parent), g
 
 BoardWidget::ShownSquare BoardWidget::SquareOfGame(QPoint square) const {
     const SquareLabel& label = SquareOf(game_.controls.lbl, square);
-    return {QString::fromStdString(CaptionOfSquare(game_, square.x(), square.y())), label.BackColor,
-            label.ForeColor};
+    return {CodesOfSquare(game_, square.x(), square.y()), label.BackColor, label.ForeColor};
 }
 
 void BoardWidget::BringUpToDate() {
+    ShowView();
     ForEachSquare([&](QPoint square) {
         const ShownSquare now = SquareOfGame(square);
         ShownSquare& shown = SquareOf(shown_, square);
@@ -91,6 +80,12 @@ void BoardWidget::BringUpToDate() {
     ShowRoles();
     ShowHighlight();
     ShowHint();
+}
+
+void BoardWidget::ShowView() {
+    if (view_ == game_.view) return;
+    view_ = game_.view;
+    update();
 }
 
 void BoardWidget::ShowRoles() {
@@ -132,32 +127,6 @@ void BoardWidget::UpdateSquare(QPoint square) {
 
 void BoardWidget::resizeEvent(QResizeEvent*) { PlaceLines(); }
 
-void BoardWidget::PlaceLines() {
-    const double ratio = devicePixelRatioF();
-    lineWidth_ = std::max(1.0, std::floor(ratio)) / ratio;
-    SpreadLines(columnLines_, width() - lineWidth_, ratio);
-    SpreadLines(rowLines_, height() - lineWidth_, ratio);
-}
-
-QRectF BoardWidget::InnerSquare(QPoint square) const {
-    const auto X = static_cast<std::size_t>(square.x());
-    const auto Y = static_cast<std::size_t>(square.y());
-    return QRectF(QPointF(columnLines_[X - 1] + lineWidth_, rowLines_[Y - 1] + lineWidth_),
-                  QPointF(columnLines_[X], rowLines_[Y]));
-}
-
-QRect BoardWidget::PlaceOfSquare(QPoint square) const {
-    return InnerSquare(square)
-        .adjusted(-lineWidth_, -lineWidth_, lineWidth_, lineWidth_)
-        .toAlignedRect();
-}
-
-QPoint BoardWidget::SquareAt(QPointF place) const {
-    const int X = static_cast<int>(place.x() * columnCount / width()) + 1;
-    const int Y = static_cast<int>(place.y() * rowCount / height()) + 1;
-    return QPoint(std::clamp(X, 1, columnCount), std::clamp(Y, 1, rowCount));
-}
-
 // ---- Painting ----
 
 void BoardWidget::paintEvent(QPaintEvent* event) {
@@ -177,16 +146,16 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
 }
 
 void BoardWidget::PaintLines(QPainter& painter) const {
-    for (const double x : columnLines_) {
-        painter.fillRect(QRectF(x, 0, lineWidth_, height()), lineColor);
+    for (const double x : places_.ColumnLines()) {
+        painter.fillRect(QRectF(x, 0, places_.LineWidth(), height()), lineColor);
     }
-    for (const double y : rowLines_) {
-        painter.fillRect(QRectF(0, y, width(), lineWidth_), lineColor);
+    for (const double y : places_.RowLines()) {
+        painter.fillRect(QRectF(0, y, width(), places_.LineWidth()), lineColor);
     }
 }
 
 void BoardWidget::PaintGround(QPainter& painter, QPoint square) const {
-    painter.fillRect(InnerSquare(square), ToQt(SquareOf(shown_, square).BackColor));
+    painter.fillRect(places_.Inner(square), ToQt(SquareOf(shown_, square).BackColor));
     PaintRole(painter, square);
 }
 
@@ -194,34 +163,27 @@ void BoardWidget::PaintGround(QPainter& painter, QPoint square) const {
 void BoardWidget::PaintHint(QPainter& painter) const {
     if (hintWay_.empty()) return;
     std::vector<QRectF> squares;
-    for (const Square square : hintWay_) squares.push_back(InnerSquare({square.X, square.Y}));
+    for (const Square square : hintWay_) squares.push_back(places_.Inner({square.X, square.Y}));
     PaintHintArrow(painter, squares);
 }
 
 void BoardWidget::PaintCaptionOfHint(QPainter& painter) const {
     if (hintCaption_.isEmpty()) return;
     const CaptionPlace place = PlaceOfCaption(game_.controls, hintWay_);
-    PaintHintCaption(painter, InnerSquare(place.square), place.where, hintCaption_);
+    PaintHintCaption(painter, places_.Inner(place.square), place.where, hintCaption_);
 }
 
 void BoardWidget::PaintCodes(QPainter& painter, QPoint square) const {
-    const ShownSquare& label = SquareOf(shown_, square);
-    if (label.caption.isEmpty()) return;
-    painter.setPen(ToQt(label.ForeColor));
-    const QStringList codes = CodesOf(label.caption);
-    const CodeLayout layout = LayOutCodes(codes, InnerSquare(square), font());
-    painter.setFont(layout.font);
-    for (qsizetype i = 0; i < codes.size(); ++i) {
-        painter.drawText(layout.cells[static_cast<std::size_t>(i)],
-                         Qt::AlignCenter | Qt::TextDontClip, codes[i]);
-    }
+    const ShownSquare& shown = SquareOf(shown_, square);
+    qarn::PaintCodes(painter, places_.Inner(square), shown.codes, font(),
+                     {.ink = ToQt(shown.ForeColor), .plates = view_.sides});
 }
 
 // Below the codes, which stay readable, and within the outline that the square may have.
 void BoardWidget::PaintRole(QPainter& painter, QPoint square) const {
     const bool outlined = square == highlight_ || (square == cursor_ && hasFocus());
     const double inset = outlined ? 2 * Thick() : 0;
-    const QRectF room = InnerSquare(square).adjusted(inset, inset, -inset, -inset);
+    const QRectF room = places_.Inner(square).adjusted(inset, inset, -inset, -inset);
     for (const MarkedSquare& mark : roles_) {
         if (QPoint(mark.X, mark.Y) == square) PaintSquareRole(painter, room, mark.Role);
     }
@@ -232,16 +194,16 @@ double BoardWidget::Thick() const { return std::max(1.0, std::round(width() / 43
 void BoardWidget::PaintOutlines(QPainter& painter) const {
     const double thick = Thick();
     if (hovered_ != nowhere) {
-        PaintOutline(painter, InnerSquare(hovered_), lineWidth_,
+        PaintOutline(painter, places_.Inner(hovered_), places_.LineWidth(),
                      ToQt(SquareOf(shown_, hovered_).ForeColor));
     }
-    const QRectF inner = InnerSquare(cursor_);
+    const QRectF inner = places_.Inner(cursor_);
     if (hasFocus()) {
         PaintOutline(painter, inner, 2 * thick, cursorRimColor);
         PaintOutline(painter, inner, thick, cursorColor);
     }
     if (highlight_ != nowhere) {
-        PaintOutline(painter, InnerSquare(highlight_), 2 * thick, highlightColor);
+        PaintOutline(painter, places_.Inner(highlight_), 2 * thick, highlightColor);
     }
 }
 
@@ -322,7 +284,7 @@ bool BoardWidget::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const QPoint square = SquareAt(help->pos());
-    QToolTip::showText(help->globalPos(), TipOfSquare(game_, square.x(), square.y()), this,
+    QToolTip::showText(help->globalPos(), ToQt(TipOfSquare(game_, square.x(), square.y())), this,
                        PlaceOfSquare(square));
     return true;
 }

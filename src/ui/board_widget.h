@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "core/game.h"
+#include "play/square_codes.h"
+#include "ui/board_places.h"
 #include "ui/square_marks.h"
 
 namespace qarn {
@@ -31,9 +33,9 @@ public:
     void Click(QPoint square);
 
     /// The place of a square on the widget, its lines included.
-    QRect PlaceOfSquare(QPoint square) const;
+    QRect PlaceOfSquare(QPoint square) const { return places_.Whole(square); }
     /// The square at a place on the widget; the nearest one where the place is off it.
-    QPoint SquareAt(QPointF place) const;
+    QPoint SquareAt(QPointF place) const { return places_.SquareAt(place); }
 
     /// The game whose squares it shows.
     const Game& ShownGame() const { return game_; }
@@ -57,7 +59,7 @@ protected:
 private:
     // What a square shows.
     struct ShownSquare {
-        QString caption;
+        std::vector<SquareCode> codes;
         Color BackColor{0xFFFFFF};
         Color ForeColor{0x000080};
 
@@ -65,8 +67,7 @@ private:
     };
     ShownSquare SquareOfGame(QPoint square) const;
 
-    void PlaceLines();
-    QRectF InnerSquare(QPoint square) const;
+    void PlaceLines() { places_.Spread(size(), devicePixelRatioF()); }
     void PaintLines(QPainter& painter) const;
     void PaintGround(QPainter& painter, QPoint square) const;
     void PaintCodes(QPainter& painter, QPoint square) const;
@@ -75,6 +76,7 @@ private:
     void PaintOutlines(QPainter& painter) const;
     void PaintHint(QPainter& painter) const;
     void PaintCaptionOfHint(QPainter& painter) const;
+    void ShowView();
     void ShowRoles();
     void ShowHighlight();
     void ShowHint();
@@ -84,9 +86,8 @@ private:
 
     const Game& game_;
     std::array<std::array<ShownSquare, rowCount + 1>, columnCount + 1> shown_;
-    double lineWidth_ = 1;
-    std::array<double, columnCount + 1> columnLines_{};  // from the left
-    std::array<double, rowCount + 1> rowLines_{};        // from the top
+    ViewChoices view_;  // as it is shown
+    BoardPlaces places_;
     std::vector<MarkedSquare> roles_;
     QPoint highlight_;  // (0, 0): none
     Path hintWay_;      // empty: there is no hint

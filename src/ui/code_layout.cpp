@@ -6,20 +6,22 @@
 namespace qarn {
 namespace {
 
-constexpr qsizetype captionLength = 5;  // of one code: three characters and two blanks
-constexpr double largestFont = 0.28;    // by the width of the square
-constexpr double margin = 0.05;         // by the width of the square
-constexpr double rowHeight = 1.1;       // by the size of the font
-constexpr double gap = 0.3;             // by the size of the font
-constexpr int smallestFont = 5;         // pixels
+constexpr double largestFont = 0.28;  // by the width of the square
+constexpr double margin = 0.05;       // by the width of the square
+constexpr double gap = 0.3;           // by the size of the font
+constexpr int smallestFont = 5;       // pixels
 
 using Widths = std::vector<double>;
 using Row = Widths;
 
-Widths WidthsOf(const QStringList& codes, const QFont& font) {
+Widths WidthsOf(const QStringList& codes, const QFont& font, const CodeRoom& each) {
     const QFontMetricsF metrics(font);
+    const double aside = 2 * each.aside * font.pixelSize();
     Widths widths;
-    for (const QString& code : codes) widths.push_back(metrics.horizontalAdvance(code));
+    for (const QString& code : codes) {
+        const double width = metrics.horizontalAdvance(code) + aside;
+        widths.push_back(std::max(width, each.least * font.pixelSize()));
+    }
     return widths;
 }
 
@@ -51,15 +53,15 @@ std::vector<Row> Wrapped(const Widths& widths, double between, double room) {
     return rows;
 }
 
-bool Fit(const std::vector<Row>& rows, int fontSize, const QRectF& room) {
-    return static_cast<double>(rows.size()) * fontSize * rowHeight <= room.height() &&
+bool Fit(const std::vector<Row>& rows, int fontSize, double height, const QRectF& room) {
+    return static_cast<double>(rows.size()) * height <= room.height() &&
            std::all_of(rows.begin(), rows.end(), [&](const Row& row) {
                return WidthOf(row, fontSize * gap) <= room.width();
            });
 }
 
-std::vector<QRectF> Centred(const std::vector<Row>& rows, int fontSize, const QRectF& room) {
-    const double height = fontSize * rowHeight;
+std::vector<QRectF> Centred(const std::vector<Row>& rows, int fontSize, double height,
+                            const QRectF& room) {
     const double between = fontSize * gap;
     double top = room.center().y() - height * static_cast<double>(rows.size()) / 2;
     std::vector<QRectF> cells;
@@ -76,31 +78,26 @@ std::vector<QRectF> Centred(const std::vector<Row>& rows, int fontSize, const QR
 
 }  // namespace
 
-QStringList CodesOf(const QString& caption) {
-    QStringList codes;
-    for (qsizetype i = 0; i < caption.size(); i += captionLength) {
-        codes << caption.mid(i, captionLength).trimmed();
-    }
-    return codes;
-}
-
-CodeLayout LayOutCodes(const QStringList& codes, const QRectF& square, QFont font) {
+CodeLayout LayOutCodes(const QStringList& codes, const QRectF& square, QFont font,
+                       const CodeRoom& each) {
     const double inset = square.width() * margin;
     const QRectF room = square.adjusted(inset, inset, -inset, -inset);
     const int largest = std::max(smallestFont, static_cast<int>(square.width() * largestFont));
     font.setPixelSize(largest);
     font.setBold(true);
-    std::vector<Row> rows = Stacked(WidthsOf(codes, font));
-    if (Fit(rows, largest, room)) return {font, Centred(rows, largest, room)};
+    std::vector<Row> rows = Stacked(WidthsOf(codes, font, each));
+    double height = largest * each.height;
+    if (Fit(rows, largest, height, room)) return {font, Centred(rows, largest, height, room)};
 
     font.setBold(false);  // is read better when it is small
-    const Widths widths = WidthsOf(codes, font);
+    const Widths widths = WidthsOf(codes, font, each);
     int size = largest;
     do {
+        height = size * each.height;
         rows = Wrapped(Scaled(widths, double(size) / largest), size * gap, room.width());
-    } while (!Fit(rows, size, room) && --size >= smallestFont);
+    } while (!Fit(rows, size, height, room) && --size >= smallestFont);
     font.setPixelSize(size);
-    return {font, Centred(rows, size, room)};
+    return {font, Centred(rows, size, height, room)};
 }
 
 }  // namespace qarn

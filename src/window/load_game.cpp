@@ -15,6 +15,7 @@
 #include "shell/user_settings.h"
 #include "window/house_rules.h"
 #include "window/speed.h"
+#include "window/view_choices.h"
 
 namespace qarn {
 namespace {
@@ -36,6 +37,7 @@ void ClearGame(Game& game) {
     LoadSummarySetting(game);
     LoadHouseRules(game);
     LoadSpeed(game);
+    LoadViewChoices(game);
     LoadFileTypeMark(game);
     game.ports.random.Seed();
     ClearBoard(game);

@@ -20,6 +20,7 @@
 #include "window/opponents_turn.h"
 #include "window/save_game.h"
 #include "window/speed.h"
+#include "window/view_choices.h"
 
 namespace qarn {
 namespace {
@@ -28,6 +29,7 @@ constexpr std::string_view fileMenu = "&File";
 constexpr std::string_view detailsMenu = "&Details";
 constexpr std::string_view toolsMenu = "&Tools";
 constexpr std::string_view optionsMenu = "&Options";
+constexpr std::string_view viewMenu = "&View";
 constexpr std::string_view playMenu = "&Play";
 constexpr std::string_view helpMenu = "&Help";
 
@@ -59,6 +61,17 @@ constexpr MenuCommand OpponentsOfSide(std::string_view caption) {
             .Shortcut = "",
             .Submenu = opponentMenu,
             .Shown = IsComputers<side>};
+}
+
+template <bool ViewChoices::*what>
+constexpr MenuCommand ViewItem(std::string_view name, std::string_view caption) {
+    return {.Menu = viewMenu,
+            .Name = name,
+            .Caption = caption,
+            .Shortcut = "",
+            .Click = [](Game& game) { ChooseToShow(game, what, !(game.view.*what)); },
+            .Checkable = true,
+            .Ticked = [](const Game& game) { return game.view.*what; }};
 }
 
 void ChooseAndKeepOpponent(Game& game, std::size_t side, const OpponentChoice& opponent) {
@@ -113,6 +126,7 @@ constexpr std::array menuCommands{
                 mnuDefaultFilepath_Click},
     MenuCommand{optionsMenu, "mnuTGF", "Add and Remove the &TGF Filetype", "", mnuTGF_Click,
                 &Controls::mnuTGF, checkable},
+    ViewItem<&ViewChoices::sides>("mnuSides", "&Sides"),
     OpponentsOfSide<1>("Goodbeasts"),
     OpponentItem<1, 0>("mnuClassic1"),
     OpponentItem<1, 1>("mnuScout1"),

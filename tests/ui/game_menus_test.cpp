@@ -39,6 +39,8 @@ TEST_F(GameWindow, HasItsMenus) {
   &Display Summary  
   Default &Filepath  
   Add and Remove the &TGF Filetype  
+&View  
+  &Sides  
 &Play  
   &Opponent  
     --Goodbeasts

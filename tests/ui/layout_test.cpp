@@ -30,11 +30,6 @@ TEST(CodeLayout, KeepsEveryCodeWholeInItsSquare) {
     }
 }
 
-TEST(CodeLayout, ReadsTheCodesOfACaption) {
-    EXPECT_EQ(CodesOf("Q    WA1  BT   "), (QStringList{"Q", "WA1", "BT"}));
-    EXPECT_EQ(CodesOf(""), QStringList());
-}
-
 TEST(FittedLabel, ShrinksItsFontUntilTheTextFits) {
     QWidget parent;
     QFont font = parent.font();

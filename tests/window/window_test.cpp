@@ -8,6 +8,7 @@
 #include "support/sequence.h"
 #include "window/hint_mark.h"
 #include "window/told_of_opponent.h"
+#include "window/view_choices.h"
 
 namespace qarn {
 namespace {
@@ -44,6 +45,21 @@ TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
               "The setting can not be stored: No space left on device");
     played.Open();
     EXPECT_EQ(played.game.record.house, (HouseRules{true, false}));
+}
+
+TEST(MenuCommands, WhatIsShownIsKeptForThePerson) {
+    PlayedGame played("HM");
+    EXPECT_EQ(played.game.view, ViewChoices());
+    ViewChoices all;
+    for (const ViewChoice& choice : AllViewChoices()) {
+        all.*choice.Chosen = true;
+        EXPECT_TRUE(played.Do("menu " + std::string(choice.Item)));
+        played.Load("HM");
+        EXPECT_EQ(played.game.view, all) << choice.Item;
+    }
+    EXPECT_TRUE(played.Do("menu mnuSides"));
+    played.Open();
+    EXPECT_FALSE(played.game.view.sides);
 }
 
 TEST(MenuCommands, HintIsOfferedUntilSomebodyMoves) {

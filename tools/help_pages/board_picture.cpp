@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "rules/terrain.h"
+#include "ui/side_plate.h"
 
 namespace qarn {
 namespace {
@@ -17,18 +18,6 @@ constexpr int chipHeight = 12;
 constexpr int chipsInColumn = 4;
 constexpr QColor grid{0x60, 0x60, 0x60};
 constexpr QColor numbers{0x55, 0x55, 0x55};
-
-struct ChipColors {
-    QColor fill;
-    QColor edge;
-    QColor text;
-};
-
-ChipColors ColorsOfSide(std::uint8_t side) {
-    if (side == 1) return {QColor(0xFF, 0xFF, 0xFF), QColor(0x10, 0x60, 0x20), QColor(0, 0x40, 0)};
-    if (side == 2) return {QColor(0x28, 0x10, 0x10), QColor(0xFF, 0xC0, 0xC0), QColor("white")};
-    return {QColor(0xD8, 0xC0, 0x98), QColor(0x60, 0x40, 0x10), QColor(0x40, 0x28, 0)};
-}
 
 QColor BackColor(std::uint8_t code) { return QColor::fromRgb(ColorsOfTerrain(code).BackColor.rgb); }
 
@@ -78,14 +67,8 @@ void DrawNumbers(QPainter& painter) {
 
 void PaintChip(QPainter& painter, QRect place, std::uint8_t side, const QString& code,
                bool narrow) {
-    const ChipColors colors = ColorsOfSide(side);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(colors.edge);
-    painter.setBrush(colors.fill);
-    painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    painter.setPen(colors.text);
     painter.setFont(PictureFont(narrow ? 7 : 9, true));
-    painter.drawText(place, Qt::AlignCenter, code);
+    PaintPlate(painter, place, side, code);
 }
 
 // One below the other; more than a column holds stand in two.

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QPainter>
+#include <vector>
+
+#include "play/square_codes.h"
+
+namespace qarn {
+
+/// How the codes of a square are shown.
+struct CodeLook {
+    QColor ink;           ///< of codes without plates
+    bool plates = false;  ///< each on the plate of its side
+};
+
+/// Paints the codes of one square into its rectangle, in a font of this kind.
+void PaintCodes(QPainter& painter, const QRectF& square, const std::vector<SquareCode>& codes,
+                const QFont& font, const CodeLook& look);
+
+}  // namespace qarn

@@ -1,0 +1,32 @@
+#include "play/square_text.h"
+
+#include <gtest/gtest.h>
+
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+TEST(SquareText, TellsOwnersAndStrengthsWhileSidesAreShown) {
+    PlayedGame played("Q@9,5 WS@9,5 ZA1@9,5 BT@9,5 BT@9,5 Z@17,2 BT@1,9");
+    const Game& game = played.game;
+    EXPECT_EQ(TipOfSquare(game, 17, 2), "(17, 2) Ocean\nCorsair: mobility 3, attack 3, defense 3");
+    EXPECT_TRUE(played.Do("menu mnuSides"));
+    EXPECT_EQ(NameOfSquare(game, 9, 5),
+              "(9, 5) Mountain. Red: Hero, 3 mobility, 5 attack, 5 defense; Warlord's Slaves, "
+              "4 mobility, 8 attack, 5 defense. Blue: Corsair's Army, 3 mobility, 4 attack, "
+              "4 defense. Boat (2).");
+    EXPECT_EQ(TipOfSquare(game, 9, 5),
+              "(9, 5) Mountain\nRed: Hero, 3 mobility, 5 attack, 5 defense\n"
+              "Red: Warlord's Slaves, 4 mobility, 8 attack, 5 defense\n"
+              "Blue: Corsair's Army, 3 mobility, 4 attack, 4 defense\nBoat (2)");
+    EXPECT_EQ(NameOfSquare(game, 1, 9), "(1, 9) Sand. Boat.");
+    EXPECT_EQ(NameOfSquare(game, 1, 1), "(1, 1) Forest.");
+    EXPECT_EQ(TipOfSquare(game, 1, 1), "(1, 1) Forest");
+    played.game.record.strPlayerName = {};
+    EXPECT_EQ(NameOfSquare(game, 17, 2),
+              "(17, 2) Ocean. Badbeasts: Corsair, 3 mobility, 3 attack, 3 defense.");
+}
+
+}  // namespace
+}  // namespace qarn
