@@ -20,23 +20,8 @@ void PrintReach(std::ostream& out, const std::vector<ReachedSquare>& reach) {
     if (!reach.empty()) out << '\n';
 }
 
-int Percent(int numbersOfTheDie) { return 100 * numbersOfTheDie / dieSides; }
-
 void PrintAttack(std::ostream& out, const std::optional<AttackOdds>& attack) {
-    if (!attack) {
-        out << "not possible.\n";
-        return;
-    }
-    out << int{attack->attack} << " against " << int{attack->defense} << ": ";
-    if (attack->burns) {
-        out << "burns it down.\n";
-        return;
-    }
-    const Odds& odds = attack->odds;
-    out << "wins " << Percent(odds.win) << " %, ties " << Percent(odds.tie) << " %, loses "
-        << Percent(odds.lose) << " %";
-    if (odds.lossAfterWin > 0) out << "; after a win one in five costs a character";
-    out << ".\n";
+    out << (attack ? TextOf(*attack) : "not possible") << ".\n";
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "core/group.h"
 #include "core/house_rules.h"
+#include "core/last_move.h"
 #include "core/path.h"
 #include "core/people_set.h"
 #include "core/square.h"
@@ -117,6 +118,7 @@ struct GameRecord {
 
     ActionRecord Action;
     qarn::Standstill Standstill;
+    qarn::LastMove LastMove;
 };
 
 /// The people of one square.

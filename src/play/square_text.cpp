@@ -4,6 +4,8 @@
 
 #include "core/enumerate.h"
 #include "core/game.h"
+#include "play/odds_ahead.h"
+#include "play/step_told.h"
 
 namespace qarn {
 namespace {
@@ -54,6 +56,12 @@ std::string Owned(const GameRecord& record, const SquareList& list, const char* 
     return transports.empty() ? text : text + newOwner + Enumerate(transports);
 }
 
+std::string OnALine(const std::string& text) { return text.empty() ? text : '\n' + text; }
+
+Square SquareAt(int X, int Y) {
+    return {static_cast<std::uint8_t>(X), static_cast<std::uint8_t>(Y)};
+}
+
 std::string NamesOn(const GameRecord& record, const SquareList& list) {
     std::string text;
     for (const std::string_view name : GetPeopleNames(record, list.People())) {
@@ -88,8 +96,11 @@ std::string NameOfSquare(const Game& game, int X, int Y) {
 
 std::string TipOfSquare(const Game& game, int X, int Y) {
     const SquareList list = LocationOfPeople(game.record, X, Y);
-    if (!game.view.sides) return Place(game, X, Y) + LinesOf(game.record, list);
-    return Place(game, X, Y) + Owned(game.record, list, "\n", true, "\n");
+    return Place(game, X, Y) +
+           (game.view.sides ? Owned(game.record, list, "\n", true, "\n")
+                            : LinesOf(game.record, list)) +
+           (game.view.reach ? OnALine(StepTold(game.record, SquareAt(X, Y))) : "") +
+           OnALine(OddsAheadTold(game, SquareAt(X, Y)));
 }
 
 }  // namespace qarn

@@ -16,7 +16,8 @@ std::string NameOfSide(const GameRecord& record, std::uint8_t side);
 std::string NameOfSquare(const Game& game, int X, int Y);
 
 /// What the tool tip of square (X, Y) tells: where it is, its terrain, and the groups on it with
-/// their strengths, one a line; while sides are shown, their owners too.
+/// their strengths, one a line; while sides are shown, their owners too. While reach is shown, what
+/// the group in move would meet with there; while odds are shown, what an attack would come to.
 std::string TipOfSquare(const Game& game, int X, int Y);
 
 }  // namespace qarn

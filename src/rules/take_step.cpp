@@ -5,6 +5,7 @@
 #include "core/position.h"
 #include "rules/movement.h"
 #include "rules/step.h"
+#include "rules/step_texts.h"
 #include "rules/texts.h"
 
 namespace qarn {
@@ -47,37 +48,6 @@ void StepOnto(Game& game, Square D) {
         game.controls.lblStatus.Caption += "\nClick Done &Moving";
         record.blnMoveMode = false;
     }
-}
-
-// A plain step has nothing to say beyond the mobility units left.
-std::string TextOf(StepResult r) {
-    switch (r) {
-        case StepResult::PlainStep:
-            return {};
-        case StepResult::JoinedOwn:
-            return "You stepped into a square with characters from your side.";
-        case StepResult::AttackWon:
-            return "You won the attack.";
-        case StepResult::Impossible:
-            return "It is physically imposible to go there.";
-        case StepResult::NotEnoughMobility:
-            return "You do not have enough mobility units to go there.";
-        case StepResult::TooManyTransports:
-            return "There will be more than 7 transportation pieces in that unit.";
-        case StepResult::TooManyCharacters:
-            return "There will be more than 4 characters in that unit.";
-        case StepResult::WaterWithoutBoat:
-            return "You can not go on water without a boat.";
-        case StepResult::AttackTied:
-            return "The attack was a draw.";
-        case StepResult::AttackLost:
-            return "You lost the attack.";
-        case StepResult::AttackCancelled:
-            return "The attack was canceled.";
-        case StepResult::DirectAttack:
-            break;
-    }
-    return {};
 }
 
 // Leaves the attack that was not made, and puts the move back as it stood before the question. That

@@ -17,6 +17,7 @@ public:
     /// the widget's.
     void Spread(QSize size, double devicePixelRatio);
 
+    QSize Size() const { return size_; }
     double LineWidth() const { return lineWidth_; }
     const std::array<double, columnCount + 1>& ColumnLines() const { return columnLines_; }
     const std::array<double, rowCount + 1>& RowLines() const { return rowLines_; }

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
-#include <vector>
 
 #include "core/game.h"
-#include "play/square_codes.h"
 #include "ui/board_places.h"
-#include "ui/square_marks.h"
+#include "ui/shown_board.h"
 
 namespace qarn {
 
@@ -25,12 +22,17 @@ public:
     void BringUpToDate();
 
     /// The square that the keyboard clicks.
-    QPoint Cursor() const { return cursor_; }
+    QPoint Cursor() const { return shown_.cursor; }
     /// Moves it to a square, or to the nearest one where that is off the board.
     void MoveCursor(QPoint square);
 
     /// Clicks a square as a mouse does: the cursor goes there too.
     void Click(QPoint square);
+
+    /// The square under the mouse or the cursor, whichever moved last; (0, 0): none.
+    Square LookedAt() const { return look_.square; }
+    /// Whether the person asks where the enemy could strike.
+    void AskForStrikes(bool asks);
 
     /// The place of a square on the widget, its lines included.
     QRect PlaceOfSquare(QPoint square) const { return places_.Whole(square); }
@@ -43,6 +45,8 @@ public:
 signals:
     /// A square was clicked, with the mouse, a key or by a screen reader.
     void SquareClicked(int X, int Y);
+    /// The person looks at something else, see LookedAt.
+    void LooksElsewhere();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -57,43 +61,24 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    // What a square shows.
-    struct ShownSquare {
-        std::vector<SquareCode> codes;
-        Color BackColor{0xFFFFFF};
-        Color ForeColor{0x000080};
-
-        friend bool operator==(const ShownSquare&, const ShownSquare&) = default;
-    };
-    ShownSquare SquareOfGame(QPoint square) const;
-
-    void PlaceLines() { places_.Spread(size(), devicePixelRatioF()); }
-    void PaintLines(QPainter& painter) const;
-    void PaintGround(QPainter& painter, QPoint square) const;
-    void PaintCodes(QPainter& painter, QPoint square) const;
-    double Thick() const;  // half an outline
-    void PaintRole(QPainter& painter, QPoint square) const;
-    void PaintOutlines(QPainter& painter) const;
-    void PaintHint(QPainter& painter) const;
-    void PaintCaptionOfHint(QPainter& painter) const;
-    void ShowView();
+    void ShowSquare(QPoint square);
     void ShowRoles();
     void ShowHighlight();
     void ShowHint();
+    void ShowReach();
+    void LookAt(QPoint square);
+    void LookAt(const Look& look);
+    void MoveMark(QPoint& mark, QPoint square);
+
+    void PlaceLines() { places_.Spread(size(), devicePixelRatioF()); }
     void Hover(QPoint square);
     void TellCursor();
     void UpdateSquare(QPoint square);
 
     const Game& game_;
-    std::array<std::array<ShownSquare, rowCount + 1>, columnCount + 1> shown_;
-    ViewChoices view_;  // as it is shown
+    ShownBoard shown_;
     BoardPlaces places_;
-    std::vector<MarkedSquare> roles_;
-    QPoint highlight_;  // (0, 0): none
-    Path hintWay_;      // empty: there is no hint
-    QString hintCaption_;
-    QPoint cursor_{columnCount / 2, rowCount / 2};
-    QPoint hovered_;  // (0, 0): none
+    Look look_;
     QPoint pressed_;  // (0, 0): none
 };
 

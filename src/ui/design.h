@@ -26,6 +26,8 @@ inline constexpr QRect lblStatusTwips(120, 9840, 8895, 495);
 // The status line gives room for the strip beside it.
 inline constexpr QRect lblStatusBesideStripTwips(120, 9840, 6300, 495);
 inline constexpr QRect opponentStripTwips(6480, 9810, 6720, 540);
+// Between the status line and the panel.
+inline constexpr QRect oddsNoteTwips(9090, 9810, 4110, 540);
 inline constexpr QRect quickInfoTitleTwips(90, 60, 1395, 240);
 inline constexpr QRect lblSummaryTwips(90, 315, 1395, 855);
 

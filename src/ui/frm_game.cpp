@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "play/odds_ahead.h"
 #include "shell/about.h"
 #include "shell/kept_opponents.h"
 #include "ui/design.h"
@@ -49,6 +50,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
         if (!TakesClicks(game_)) return;
         Run("lblX_Click", [=](Game& game) { lblX_Click(game, X, Y); });
     });
+    connect(board_, &BoardWidget::LooksElsewhere, this, &FrmGame::ShowOdds);
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
 
     PrepareTimer();
@@ -92,6 +94,7 @@ void FrmGame::ShowWidgets() {
     setWindowTitle(ToQt(game_.controls.Caption));
     board_->BringUpToDate();
     panel_.Show(game_);
+    ShowOdds();
     menus_.Show(game_);
     if (game_.blnOpen && isHidden()) {
         show();
@@ -100,6 +103,16 @@ void FrmGame::ShowWidgets() {
     }
     // Where a control loses the focus, the next event mostly comes from the board.
     if (focused != nullptr && (!focused->isEnabled() || focused->isHidden())) board_->setFocus();
+}
+
+void FrmGame::ShowOdds() {
+    const std::string text = OddsAheadTold(game_, board_->LookedAt());
+    if (oddsNote_ == nullptr) {
+        if (text.empty()) return;
+        oddsNote_ = new OddsNote(area_);
+        area_->Place(oddsNote_, oddsNoteTwips);
+    }
+    oddsNote_->Show(ToQt(text));
 }
 
 // The about window is open while its menu item is disabled.
@@ -143,6 +156,7 @@ void FrmGame::changeEvent(QEvent* event) {
 
 // What the focused widget has no use for.
 void FrmGame::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Shift) board_->AskForStrikes(true);
     const bool hint = game_.blnHintWanted || game_.controls.Hint.Visible;
     if (event->key() == Qt::Key_Escape && hint) {
         Run("DropHint", DropHint);
@@ -152,6 +166,11 @@ void FrmGame::keyPressEvent(QKeyEvent* event) {
     } else {
         QMainWindow::keyPressEvent(event);
     }
+}
+
+void FrmGame::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Shift) board_->AskForStrikes(false);
+    QMainWindow::keyReleaseEvent(event);
 }
 
 void FrmGame::closeEvent(QCloseEvent* event) {

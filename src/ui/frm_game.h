@@ -13,6 +13,7 @@
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
 #include "ui/game_menus.h"
+#include "ui/odds_note.h"
 #include "ui/opponent_strip.h"
 #include "ui/qt_ports.h"
 #include "ui/scaled_area.h"
@@ -36,6 +37,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -45,6 +47,7 @@ private:
     void BringUpToDate();
     void ShowWidgets();
     void Choose(const MenuCommand& command);
+    void ShowOdds();
     void ShowAbout();
     void End();
 
@@ -75,6 +78,7 @@ private:
     std::unique_ptr<Thinker> thinker_;  // of opponents that look ahead, once one has played
     OpponentStrip* strip_ = nullptr;    // ... and theirs
     std::string_view acting_;           // the opponent that chose last
+    OddsNote* oddsNote_ = nullptr;      // once odds have been shown
     QPointer<QDialog> about_;
 };
 

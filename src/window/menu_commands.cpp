@@ -127,6 +127,8 @@ constexpr std::array menuCommands{
     MenuCommand{optionsMenu, "mnuTGF", "Add and Remove the &TGF Filetype", "", mnuTGF_Click,
                 &Controls::mnuTGF, checkable},
     ViewItem<&ViewChoices::sides>("mnuSides", "&Sides"),
+    ViewItem<&ViewChoices::reach>("mnuReach", "&Reach"),
+    ViewItem<&ViewChoices::odds>("mnuOdds", "&Odds"),
     OpponentsOfSide<1>("Goodbeasts"),
     OpponentItem<1, 0>("mnuClassic1"),
     OpponentItem<1, 1>("mnuScout1"),

@@ -28,6 +28,7 @@ bool RunEvent(Game& game, std::string_view name, const std::function<void(Game&)
     try {
         handler(game);
         CountTurns(game.record.Standstill, game.happenings);
+        FollowMove(game.record.LastMove, game.happenings);
         if (!game.happenings.empty()) ForgetHint(game);  // the game has gone on
     } catch (const ProgramEnd& end) {
         game.blnOpen = false;

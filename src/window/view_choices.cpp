@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::array viewChoices{
     ViewChoice{"mnuSides", &ViewChoices::sides},
+    ViewChoice{"mnuReach", &ViewChoices::reach},
+    ViewChoice{"mnuOdds", &ViewChoices::odds},
 };
 
 // The settings call it as the menu does, without the head of its name.

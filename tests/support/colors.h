@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <algorithm>
 #include <cmath>
 
 namespace qarn {
@@ -17,7 +18,7 @@ inline double Luminance(QRgb color) {
 
 /// The contrast of two colours, from 1 to 21.
 inline double Contrast(QRgb a, QRgb b) {
-    const auto [darker, brighter] = std::minmax(Luminance(a), Luminance(b));
+    const auto [darker, brighter] = std::minmax({Luminance(a), Luminance(b)});
     return (brighter + 0.05) / (darker + 0.05);
 }
 

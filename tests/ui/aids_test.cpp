@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QPainter>
 
 #include "support/game_window.h"
@@ -68,6 +69,58 @@ TEST_F(GameWindow, PutsPlatesBehindTheCodesOfTheSides) {
     EXPECT_EQ(SquaresWith(dark), "17,2 ");
     EXPECT_EQ(SquaresWith(brown), "9,4 ");
     EXPECT_NE(SquaresWith(bright).find("9,4 "), std::string::npos);
+}
+
+TEST_F(GameWindow, ShowsWhereGroupsCanGo) {
+    constexpr QRgb light = 0xFFFFFF;
+    Open("9,5=6 9,4=6 9,6=6 8,5=6 10,5=6 Q@9,5 Z@17,2");
+    window->resize(1600, 1100);
+    const auto lightForests = [&] {
+        std::string squares;
+        for (const QPoint square : {QPoint(9, 4), QPoint(9, 6), QPoint(8, 5), QPoint(10, 5)}) {
+            const QRgb edge =
+                Picture().pixel(PlaceOfSquare(square.x(), square.y()).topLeft() + QPoint(4, 30));
+            squares += (edge & RGB_MASK) == light ? 'x' : '-';
+        }
+        return squares;
+    };
+    EXPECT_EQ(lightForests(), "----");
+    MenuItem("mnuReach")->trigger();
+    board->setFocus();
+    board->MoveCursor({9, 5});
+    EXPECT_EQ(lightForests(), "xxxx");
+    board->MoveCursor({1, 1});
+    EXPECT_EQ(lightForests(), "----");
+    ExpectBoardPainted();
+    QTest::keyPress(window.get(), Qt::Key_Shift);
+    EXPECT_NE(SquaresWith(0x9C0010), "");
+    QTest::keyRelease(window.get(), Qt::Key_Shift);
+    EXPECT_EQ(SquaresWith(0x9C0010), "");
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(9, 5);
+    EXPECT_EQ(lightForests(), "----");
+    Key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(lightForests(), "xxxx");
+    ClickSquare(9, 4);
+    EXPECT_EQ(lightForests(), "----") << "One mobility unit is left.";
+    ExpectBoardPainted();
+}
+
+TEST_F(GameWindow, TellsTheOddsOfTheEnemyPointedAt) {
+    Open("9,5=0 10,5=0 Q@9,5 WS@9,5 ZA1@10,5 Z@17,2");
+    Key(Qt::Key_A, Qt::AltModifier);
+    ClickSquare(9, 5);
+    EXPECT_EQ(Find("oddsNote"), nullptr);
+    MenuItem("mnuOdds")->trigger();
+    QTest::mouseMove(window->windowHandle(), PlaceOfSquare(10, 5).center());
+    EXPECT_EQ(Text("oddsNote"),
+              "13 against 4: wins 60\u00A0%, ties 20\u00A0%, loses 20\u00A0%; after a win one in "
+              "five costs a character.");
+    EXPECT_TRUE(Find("oddsNote")->isVisible());
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("oddsNote"))->role(),
+              QAccessible::Notification);
+    QTest::mouseMove(window->windowHandle(), PlaceOfSquare(17, 2).center());
+    EXPECT_FALSE(Find("oddsNote")->isVisible());
 }
 
 }  // namespace

@@ -41,6 +41,8 @@ TEST_F(GameWindow, HasItsMenus) {
   Add and Remove the &TGF Filetype  
 &View  
   &Sides  
+  &Reach  
+  &Odds  
 &Play  
   &Opponent  
     --Goodbeasts

@@ -1,0 +1,182 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "core/position.h"
+#include "play/odds_ahead.h"
+#include "play/reach_marks.h"
+#include "play/stacks.h"
+#include "play/step_told.h"
+#include "play/strikes.h"
+#include "rules/questions/reach.h"
+#include "rules/questions/start.h"
+#include "support/played_game.h"
+
+namespace qarn {
+namespace {
+
+/// Games at random positions, in which what is told beforehand can be tried.
+class TriedGame : public PlayedGame {
+public:
+    TriedGame() : PlayedGame("HM") { Do("menu mnuReach"); }
+
+    // Everybody stands somewhere in a corner, so that they meet.
+    void Scatter(std::mt19937& chance) {
+        record_.bytTurn = static_cast<std::uint8_t>(1 + chance() % 2);
+        for (std::size_t i = 1; i <= peopleCount; ++i) {
+            record_.People[i].LocationX = static_cast<std::uint8_t>(12 + chance() % 7);
+            record_.People[i].LocationY = static_cast<std::uint8_t>(1 + chance() % 6);
+        }
+        GoBack();
+    }
+    void GoBack() {
+        game.record = record_;
+        game.controls = controls_;
+        game.blnOpen = true;
+        dialogs.queued.clear();
+        random.queued.clear();
+    }
+    void Begin(Square square) {
+        Do("press cmdMove");
+        Click(square);
+        Do("press cmdDoneSel");
+    }
+    void Click(Square square) {
+        Do("click " + std::to_string(square.X) + " " + std::to_string(square.Y));
+    }
+    // The fight that a click leads to, if it does, whatever its boxes ask.
+    const Attacked* Fight(Square square) {
+        dialogs.queued = {Answer::Yes, Answer::Yes, Answer::Yes};
+        random.QueueRoll(5);
+        random.QueueRoll(5);
+        Click(square);
+        for (const Happening& happening : game.happenings) {
+            if (const auto* attacked = std::get_if<Attacked>(&happening)) return attacked;
+        }
+        return nullptr;
+    }
+
+private:
+    GameRecord record_ = game.record;
+    Controls controls_ = game.controls;
+};
+
+void ExpectTold(const std::optional<AttackOdds>& told, const Attacked* fight) {
+    ASSERT_EQ(told.has_value(), fight != nullptr);
+    if (fight == nullptr) return;
+    EXPECT_EQ(told->attack, fight->attack);
+    EXPECT_EQ(std::min(told->defense, told->attack), fight->defense);
+    EXPECT_EQ(told->burns, !fight->roll);
+}
+
+// Walks to every square that is marked, and tries every neighbour that is not.
+void TryMoveFrom(TriedGame& tried, Square start) {
+    tried.Begin(start);
+    const MovingGroup group = GroupInMove(tried.game.record).value();
+    const auto reach = ReachOf(PositionOf(tried.game.record), group);
+    ASSERT_EQ(ReachMarks(tried.game, {}).size(), reach.size());
+    for (const ReachedSquare& to : reach) {
+        SCOPED_TRACE(StepTold(tried.game.record, to.square));
+        const auto odds = OddsAhead(tried.game.record, to.square);
+        EXPECT_EQ(odds.has_value(), to.attack);
+        for (std::size_t i = 1; i + 1 < to.path.size(); ++i) tried.Click(to.path[i]);
+        if (to.attack) {
+            ExpectTold(odds, tried.Fight(to.square));
+        } else {
+            tried.Click(to.square);
+            EXPECT_EQ(tried.game.record.bytGroupX, to.square.X);
+            EXPECT_EQ(tried.game.record.bytGroupY, to.square.Y);
+            EXPECT_EQ(tried.game.record.bytMobilityLeft, group.mobilityLeft - to.cost);
+        }
+        tried.GoBack();
+        tried.Begin(start);
+    }
+    tried.GoBack();
+}
+
+void TryAttacksFrom(TriedGame& tried, Square start) {
+    for (const auto& [X, Y] : {std::pair{0, 1}, {1, 0}, {0, -1}, {-1, 0}}) {
+        if (!IsOnBoard(start.X + X, start.Y + Y)) continue;
+        const Square to{static_cast<std::uint8_t>(start.X + X),
+                        static_cast<std::uint8_t>(start.Y + Y)};
+        tried.Do("press cmdAttack");
+        tried.Click(start);
+        if (const auto odds = OddsAhead(tried.game.record, to)) ExpectTold(odds, tried.Fight(to));
+        tried.GoBack();
+    }
+}
+
+TEST(ReachAndOdds, AreWhatTheGameThenDoes) {
+    TriedGame tried;
+    std::mt19937 chance(1);
+    for (int round = 0; round < 40; ++round) {
+        tried.Scatter(chance);
+        const GameRecord& record = tried.game.record;
+        const Square start = SquareOf(record.People[1 + chance() % 17]);
+        if (AskStart(PositionOf(record), start) != StartRefusal::None) continue;
+        TryMoveFrom(tried, start);
+        TryAttacksFrom(tried, start);
+        if (testing::Test::HasFailure()) return;
+    }
+}
+
+std::string Squares(const std::vector<Square>& squares) {
+    std::string text;
+    for (const Square square : squares) {
+        text += std::to_string(square.X) + "," + std::to_string(square.Y) + " ";
+    }
+    return text;
+}
+
+TEST(Strikes, AreWhereTheEnemyCouldGoOrAttack) {
+    const auto of = [](const char* position) {
+        return Squares(StrikesOf(PositionOf(PlayedGame(position).game.record), 2));
+    };
+    // With the Attack command too, where no step leads: over water, but not up a mountain.
+    EXPECT_EQ(of("ZA1@5,1 Q@1,1"), "2,1 3,1 4,1 4,2 4,3 5,2 6,1 ");
+    EXPECT_EQ(of("ZA1@16,7 Q@1,1"), "16,8 17,7 ");
+    EXPECT_EQ(of("Q@1,1"), "");
+}
+
+struct Row {
+    const char *position, *commands;
+    Square square;
+    const char* told;
+};
+
+TEST(StepTold, SaysWhyTheNextClickIsRefused) {
+    for (const Row& row : std::initializer_list<Row>{
+             {"Q@16,10 Z@1,1", "", {16, 9}, ""},
+             {"Q@16,10 Z@1,1", "begin", {16, 10}, ""},
+             {"Q@16,10 Z@1,1", "begin", {16, 9}, "A step here costs 1 mobility unit of 3."},
+             {"Q@16,10 Z@1,1",
+              "begin",
+              {13, 10},
+              "Square by square, you come here for 3 mobility units."},
+             {"Q@16,10 Z@1,1", "begin", {12, 10}, "You can not come here in this move."},
+             {"Q@16,10 16,9=2 Z@1,1", "begin", {16, 9}, "You can not go on water without a boat."},
+             {"Q@16,10 16,9=1 Z@1,1",
+              "begin",
+              {16, 9},
+              "You do not have enough mobility units to go there. It costs 5 mobility units, and 3 "
+              "are left."},
+             {"Q@16,10 HF@16,10 TS@16,9 LS@16,9 S@16,9 Z@1,1",
+              "begin",
+              {16, 9},
+              "There will be more than 4 characters in that unit."},
+             {"turn2 16,9=8 Z@16,10 Q@1,1",
+              "begin",
+              {16, 9},
+              "Badbeasts do not enter an abbey that is empty."}}) {
+        PlayedGame played(row.position);
+        if (*row.commands != '\0') {
+            played.Do("press cmdMove");
+            played.Do("click 16 10");
+            played.Do("press cmdDoneSel");
+        }
+        EXPECT_EQ(StepTold(played.game.record, row.square), row.told) << row.position;
+    }
+}
+
+}  // namespace
+}  // namespace qarn
