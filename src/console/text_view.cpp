@@ -1,9 +1,11 @@
 #include "console/text_view.h"
 
 #include <array>
+#include <optional>
 #include <ostream>
 
 #include "core/captions.h"
+#include "play/side_colors.h"
 #include "rules/terrain.h"
 #include "window/buttons.h"
 #include "window/opponents_turn.h"
@@ -19,22 +21,51 @@ std::string Rgb(Color color) {
            std::to_string(color.rgb & 0xFF);
 }
 
-std::string Colored(const SquareLabel& square, const std::string& text) {
-    return "\x1b[38;2;" + Rgb(square.ForeColor) + ";48;2;" + Rgb(square.BackColor) + "m" + text +
-           "\x1b[0m";
+std::string Colored(Color text, Color ground, const std::string& shown) {
+    return "\x1b[38;2;" + Rgb(text) + ";48;2;" + Rgb(ground) + "m" + shown + "\x1b[0m";
 }
 
-// A square is four characters wide. Its first line holds the terrain's sign and the first code, its
-// second line the second code, behind a + when there are more.
-std::string LineOfSquare(const Game& game, int X, int Y, int line) {
-    const SquareList list = LocationOfPeople(game.record, X, Y);
-    const auto codes = GetPeopleCodes(game.record, list.People());
-    const std::size_t shown = static_cast<std::size_t>(line);
-    const std::string code(shown < codes.size() ? codes[shown] : "   ");
+// One line of a square is four characters wide: a mark and a code.
+struct CellLine {
+    char mark;
+    std::string code;
+    std::optional<std::uint8_t> side;  // whose code it is, while sides are shown
+};
+
+// The first of those who stand on a square decides whose it is; capitals are side 1's.
+char MarkOfSide(const GameRecord& record, const SquareList& list, bool more) {
+    if (list.bytTotalPeople == 0) return more ? '+' : ' ';
+    const bool first = record.People[list.bytPeopleNumbers[1]].Side == 1;
+    if (more) return first ? 'Y' : 'y';
+    return first ? 'X' : 'x';
+}
+
+// The first line holds the terrain's sign and the first code, the second line the second code,
+// behind a mark when there are more.
+CellLine LineOfSquare(const Game& game, int X, int Y, std::size_t line) {
+    const GameRecord& record = game.record;
+    const SquareList list = LocationOfPeople(record, X, Y);
+    const bool more = list.bytNumberofPeople > 2;
     const std::uint8_t T =
-        game.record.bytTerrain[static_cast<std::size_t>(X)][static_cast<std::size_t>(Y)];
-    if (line == 0) return terrainSigns[T] + code;
-    return (codes.size() > 2 ? "+" : " ") + code;
+        record.bytTerrain[static_cast<std::size_t>(X)][static_cast<std::size_t>(Y)];
+    CellLine cell{more ? '+' : ' ', "   ", {}};
+    if (game.view.sides) cell.mark = MarkOfSide(record, list, more);
+    if (line == 0) cell.mark = terrainSigns[T];
+    if (line < list.People().size()) {
+        const PeopleRecord& people = record.People[list.People()[line]];
+        cell.code = people.Code;
+        if (game.view.sides) cell.side = people.Side;
+    }
+    return cell;
+}
+
+std::string Colored(const SquareLabel& square, const CellLine& cell) {
+    const auto onGround = [&](const std::string& text) {
+        return Colored(square.ForeColor, square.BackColor, text);
+    };
+    if (!cell.side) return onGround(cell.mark + cell.code);
+    const SideColors colors = ColorsOfSide(*cell.side);
+    return onGround({cell.mark}) + Colored(colors.text, colors.fill, cell.code);
 }
 
 std::string Padded(int number, std::size_t width) {
@@ -42,13 +73,13 @@ std::string Padded(int number, std::size_t width) {
     return std::string(width - digits.size(), ' ') + digits;
 }
 
-void PrintRow(std::ostream& out, const Game& game, int Y, int line, bool colors) {
+void PrintRow(std::ostream& out, const Game& game, int Y, std::size_t line, bool colors) {
     out << (line == 0 ? Padded(Y, 2) : "  ") << ' ';
     for (int X = 1; X <= columnCount; ++X) {
         const SquareLabel& square =
             game.controls.lbl[static_cast<std::size_t>(X)][static_cast<std::size_t>(Y)];
-        const std::string text = LineOfSquare(game, X, Y, line);
-        out << (colors ? Colored(square, text) : text);
+        const CellLine cell = LineOfSquare(game, X, Y, line);
+        out << (colors ? Colored(square, cell) : cell.mark + cell.code);
     }
     out << '\n';
 }
@@ -125,6 +156,8 @@ A move:    press cmdMove, click its square, untick who stays, press cmdDoneSel, 
 An attack: press cmdAttack, click your square, click the enemy's square.
 Terrain:   . plain  ^ mountain  ~ ocean  = stream  : sand  % swamp  * forest  # fortress  + abbey
            A + before the second code of a square: more groups stand there.
+Sides:     menu mnuSides tells them apart in colour, and by an X before the second code of a square of
+           the goodbeasts, an x of the badbeasts; Y and y where more groups stand there.
 )";
 }
 

@@ -2,6 +2,8 @@
 
 #include <QPainterPath>
 
+#include "play/side_colors.h"
+
 namespace qarn {
 namespace {
 
@@ -27,22 +29,18 @@ QPainterPath ShapeOf(const QRectF& place, std::uint8_t side) {
     return shape;
 }
 
+QColor ToQt(Color color) { return QColor::fromRgb(color.rgb); }
+
 }  // namespace
 
-PlateColors ColorsOfPlate(std::uint8_t side) {
-    if (side == 1) return {QColor(0xFF, 0xFF, 0xFF), QColor(0x10, 0x60, 0x20), QColor(0, 0x40, 0)};
-    if (side == 2) return {QColor(0x28, 0x10, 0x10), QColor(0xFF, 0xC0, 0xC0), QColor("white")};
-    return {QColor(0xD8, 0xC0, 0x98), QColor(0x60, 0x40, 0x10), QColor(0x40, 0x28, 0)};
-}
-
 void PaintPlate(QPainter& painter, const QRectF& place, std::uint8_t side, const QString& code) {
-    const PlateColors colors = ColorsOfPlate(side);
+    const SideColors colors = ColorsOfSide(side);
     const double thick = std::max(1.0, place.height() * edge);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colors.edge, thick));
-    painter.setBrush(colors.fill);
+    painter.setPen(QPen(ToQt(colors.edge), thick));
+    painter.setBrush(ToQt(colors.fill));
     painter.drawPath(ShapeOf(place.adjusted(thick / 2, thick / 2, -thick / 2, -thick / 2), side));
-    painter.setPen(colors.text);
+    painter.setPen(ToQt(colors.text));
     painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, code);
 }
 

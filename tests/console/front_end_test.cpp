@@ -36,6 +36,18 @@ TEST(Terminal, ShowsAmpersandsInNamesAndNoneInCaptions) {
     EXPECT_NE(bob.ForPerson("").find("\nIt is &Bob's turn.\n"), std::string::npos);
 }
 
+TEST(Terminal, TellsSidesByColourAndByTheCaseOfAMark) {
+    ConsoleGame game(SavedGame("Q@1,1 Z@2,1 BT@3,1 WS@4,1 HF@4,1 BT@4,1 ZA1@5,1 ZA2@5,1 ZA3@5,1"));
+    const auto secondLine = [](const std::string& text) {
+        const std::string line = text.substr(text.rfind("\n 1 "));
+        return line.substr(line.find('\n', 1) + 4, 20);
+    };
+    EXPECT_EQ(secondLine(game.ForPerson("state")), "            +HF +ZA2");
+    EXPECT_EQ(secondLine(game.ForPerson("menu mnuSides")), "X   x       YHF yZA2");
+    EXPECT_NE(game.ForPerson("state", true).find("\x1b[38;2;255;255;255;48;2;40;16;16mZ  \x1b[0m"),
+              std::string::npos);
+}
+
 TEST(Terminal, HelpNamesEveryCommand) {
     const std::string help = ConsoleGame(SavedGame("HM")).ForPerson("help");
     std::vector<std::string> names{"help", "quit"};

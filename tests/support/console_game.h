@@ -28,10 +28,10 @@ struct ConsoleGame {
     }
 
     /// What a person reads in a terminal.
-    std::string ForPerson(const std::string& commands) {
+    std::string ForPerson(const std::string& commands, bool colors = false) {
         std::istringstream in(Lines(commands));
         std::ostringstream out;
-        status = RunForPerson(in, out, {settings, *fileTypes, {}}, path, false);
+        status = RunForPerson(in, out, {settings, *fileTypes, {}}, path, colors);
         return out.str();
     }
 
