@@ -14,6 +14,7 @@
 #include "core/file_store.h"
 #include "core/game_file.h"
 #include "core/opponents.h"
+#include "play/play_menu.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 #include "shell/kept_opponents.h"
@@ -23,7 +24,6 @@
 #include "window/load_game.h"
 #include "window/menu_commands.h"
 #include "window/opponents_turn.h"
-#include "window/run_event.h"
 #include "window/save_game.h"
 
 namespace qarn {
@@ -114,7 +114,7 @@ Session::Session(const DesktopPorts& desktop)
 }
 
 std::span<const Session::Command> Session::Commands() {
-    static constexpr std::array<Command, 19> commands{{
+    static constexpr std::array<Command, 21> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -133,6 +133,8 @@ std::span<const Session::Command> Session::Commands() {
         {"reach", 0, 2, true, &Session::AskReach},
         {"odds", 4, 4, true, &Session::AskOdds},
         {"hint", 0, 0, true, &Session::AskHint},
+        {"undo", 0, 0, true, &Session::ChooseInMenuPlay},
+        {"cancel", 0, 0, true, &Session::ChooseInMenuPlay},
         {"close", 0, 0, true, &Session::Close},
     }};
     return commands;
@@ -241,7 +243,7 @@ void Session::SetTick(const std::string& word, bool ticked) {
 
 void Session::ChooseMenu(const Words& words) {
     const MenuCommand& command = RequireChoosable(game_, words[1]);
-    Run(std::string(command.Name) + "_Click", command.Click);
+    Run(std::string(command.Name) + "_Click", HandlerOf(command, history_));
     if (std::exchange(game_.blnHintWanted, false)) {
         Run("ShowHint",
             [&](Game& game) { answers_.hint = ShowHint(game, ChooseAtOnce(ChoiceOfHint(game))); });
@@ -253,6 +255,7 @@ void Session::PassTime(const Words& words) {
         words.size() > 1 ? ParseNumber<long>(words[1], 1, std::numeric_limits<long>::max()) : 1;
     for (long time = 0; time < times && game_.blnOpen && game_.controls.tmrAI.Enabled; ++time) {
         qarn::Tick(game_);
+        history_.NoteTick(game_);
         NoteHappenings();
     }
 }
@@ -326,12 +329,22 @@ void Session::AskOdds(const Words& words) {
 
 void Session::AskHint(const Words&) { ChooseMenu({"menu", "mnuHint"}); }
 
+void Session::ChooseInMenuPlay(const Words& words) {
+    static constexpr std::array<std::pair<std::string_view, const char*>, 2> items{{
+        {"undo", "mnuTakeBack"},
+        {"cancel", "mnuCancelMove"},
+    }};
+    const auto item = std::find_if(items.begin(), items.end(),
+                                   [&](const auto& one) { return one.first == words.front(); });
+    ChooseMenu({"menu", item->second});
+}
+
 void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
 
 // ---- Events ----
 
 void Session::Run(std::string_view name, const std::function<void(Game&)>& handler) {
-    RunEvent(game_, name, handler);
+    history_.Run(game_, name, handler);
     NoteHappenings();
 }
 

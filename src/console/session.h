@@ -10,6 +10,7 @@
 #include "console/answers.h"
 #include "console/console_ports.h"
 #include "core/game.h"
+#include "play/turn_history.h"
 
 namespace qarn {
 
@@ -66,6 +67,7 @@ private:
     void AskReach(const Words& words);
     void AskOdds(const Words& words);
     void AskHint(const Words& words);
+    void ChooseInMenuPlay(const Words& words);
     void Close(const Words& words);
 
     void ExecuteOrThrow(const Words& words);
@@ -80,6 +82,7 @@ private:
     ConsoleRandomNumbers random_;
     ConsoleHelp help_;
     Game game_;
+    TurnHistory history_;
     Happenings happenings_;
     Answers answers_;
 };

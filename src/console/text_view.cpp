@@ -143,6 +143,8 @@ void PrintHelp(std::ostream& out) {
   reach X Y        which squares the whole stack on that square could reach
   odds X1 Y1 X2 Y2 what an attack from the first square on the second would bring
   hint             what the strongest opponent would do in this turn
+  undo             take the last click, press or tick of this turn back
+  cancel           take the whole move or attack back that has begun
   answer WORD...   answers for the next boxes: yes, no, retry, cancel
   random R...      numbers from 0 to below 1 for the next draws
   seed N           the seed of the numbers after these

@@ -23,12 +23,16 @@ struct SquareLabel {
     PeopleSet Shown;  ///< whose codes make up its caption, see CaptionOfSquare
     Color BackColor{0xFFFFFF};
     Color ForeColor{0x000080};
+
+    friend bool operator==(const SquareLabel&, const SquareLabel&) = default;
 };
 
 struct Label {
     std::string Caption;
     bool Visible = true;
     int Top = 0;
+
+    friend bool operator==(const Label&, const Label&) = default;
 };
 
 /// A label whose caption is one of the program's own texts.
@@ -36,6 +40,8 @@ struct KeyLabel {
     std::string_view Caption;
     bool Visible = true;
     int Top = 0;
+
+    friend bool operator==(const KeyLabel&, const KeyLabel&) = default;
 };
 
 struct Button {
@@ -43,6 +49,8 @@ struct Button {
     bool Enabled = true;
     bool Visible = true;
     int Top = 0;
+
+    friend bool operator==(const Button&, const Button&) = default;
 };
 
 struct CheckBox {
@@ -50,6 +58,8 @@ struct CheckBox {
     bool Enabled = true;
     bool Visible = false;
     bool Value = false;  ///< ticked
+
+    friend bool operator==(const CheckBox&, const CheckBox&) = default;
 };
 
 /// A frame or shape that a handler moves about.
@@ -57,6 +67,8 @@ struct Marker {
     int Left = 0;
     int Top = 0;
     bool Visible = false;
+
+    friend bool operator==(const Marker&, const Marker&) = default;
 };
 
 /// A hint: an arrow on the board, and what the status line says beside it.
@@ -66,16 +78,22 @@ struct HintMark {
     bool Visible = false;
     std::string Sentence = {};
     std::string StatusBefore = {};  ///< the status line without it
+
+    friend bool operator==(const HintMark&, const HintMark&) = default;
 };
 
 struct MenuState {
     bool Enabled = true;
     bool Visible = true;
     bool Checked = false;
+
+    friend bool operator==(const MenuState&, const MenuState&) = default;
 };
 
 struct Timer {
     bool Enabled = false;
+
+    friend bool operator==(const Timer&, const Timer&) = default;
 };
 
 enum class Control { None, cmdMove, chkFirst };
@@ -110,12 +128,16 @@ struct Controls {
     MenuState mnuSummary;
     MenuState mnuTGF;
     MenuState mnuAbout;
+    MenuState mnuTakeBack{.Enabled = false};
+    MenuState mnuCancelMove{.Enabled = false};
 
     Timer tmrAI;
 
     /// The control that a handler has given the focus to. The front end moves the focus there and
     /// sets this back to None.
     Control SetFocus = Control::None;
+
+    friend bool operator==(const Controls&, const Controls&) = default;
 };
 
 /// The place of terrain key label `code` in the window's design, in twips from the top.

@@ -17,6 +17,8 @@ struct GameState {
     GameRecord record;
     Controls controls;
     bool blnOpen = false;
+
+    friend bool operator==(const GameState&, const GameState&) = default;
 };
 
 /// How long an opponent takes over each stage of its action: as long as Classic, a third of it, or

@@ -24,11 +24,15 @@ inline constexpr int checkBoxCount = 11;
 struct PeopleRecord : Group {
     std::string_view Name;
     std::string_view Code = "   ";  ///< exactly 3 characters, padded with blanks
+
+    friend bool operator==(const PeopleRecord&, const PeopleRecord&) = default;
 };
 
 /// What one kind of terrain costs and gives.
 struct TerrainKindRecord : TerrainValues {
     std::string_view Comments;
+
+    friend bool operator==(const TerrainKindRecord&, const TerrainKindRecord&) = default;
 };
 
 /// The action that the computer is replaying through the window's controls.
@@ -47,6 +51,8 @@ struct ActionRecord {
     std::uint8_t bytAIStep = 0;       ///< the next stage of the replay
     std::uint8_t bytAIPathIndex = 0;  ///< the next path step, from 1
     std::uint8_t bytAIDeadChoice = 0;
+
+    friend bool operator==(const ActionRecord&, const ActionRecord&) = default;
 };
 
 /// Everything about the game in progress. A load starts from an empty record, so that nothing of an
@@ -119,6 +125,8 @@ struct GameRecord {
     ActionRecord Action;
     qarn::Standstill Standstill;
     qarn::LastMove LastMove;
+
+    friend bool operator==(const GameRecord&, const GameRecord&) = default;
 };
 
 /// The people of one square.

@@ -17,6 +17,8 @@ struct TurnTrace {
 struct LastMove {
     TurnTrace underWay;
     TurnTrace shown;
+
+    friend bool operator==(const LastMove&, const LastMove&) = default;
 };
 
 /// Follows what an event has brought about.

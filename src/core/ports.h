@@ -29,11 +29,13 @@ public:
     /// Shows a box and gives the answer to it: the person's or, while an opponent answers for
     /// itself, that it agrees.
     Answer Show(const MessageBox& box) {
-        if (!opponentAnswers_ || box.ForThePerson) return Ask(box);
-        const Answer answer = box.Offered == Buttons::YesNo ? Answer::Yes : Answer::OK;
-        ShowAnswered(box, answer);
+        const Answer answer = AnswerTo(box);
+        if (answer != Answer::No && answer != Answer::Cancel) ++confirmed_;
         return answer;
     }
+
+    /// How many boxes have been confirmed so far: answered with anything but no or cancel.
+    int Confirmed() const { return confirmed_; }
 
     /// From now on the opponent answers the boxes itself, or the person does again.
     void LetOpponentAnswer(bool answers) { opponentAnswers_ = answers; }
@@ -62,7 +64,15 @@ protected:
     virtual void ShowAnswered(const MessageBox& box, Answer answer) = 0;
 
 private:
+    Answer AnswerTo(const MessageBox& box) {
+        if (!opponentAnswers_ || box.ForThePerson) return Ask(box);
+        const Answer answer = box.Offered == Buttons::YesNo ? Answer::Yes : Answer::OK;
+        ShowAnswered(box, answer);
+        return answer;
+    }
+
     bool opponentAnswers_ = false;
+    int confirmed_ = 0;
 };
 
 /// Uniform random numbers.

@@ -14,6 +14,8 @@ struct Standstill {
     /// Between what bounds the evaluation of each side has stayed all the while; once measured.
     std::array<float, 3> lowest{}, highest{};
     bool drawn = false;  ///< the computers have agreed on a draw, and rest until the game goes on
+
+    friend bool operator==(const Standstill&, const Standstill&) = default;
 };
 
 /// Counts what an event has brought about.

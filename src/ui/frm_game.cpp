@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "play/odds_ahead.h"
+#include "play/play_menu.h"
 #include "shell/about.h"
 #include "shell/kept_opponents.h"
 #include "ui/design.h"
@@ -17,7 +18,6 @@
 #include "window/hint_mark.h"
 #include "window/load_game.h"
 #include "window/opponents_turn.h"
-#include "window/run_event.h"
 #include "window/save_game.h"
 
 namespace qarn {
@@ -66,7 +66,7 @@ void FrmGame::Open(const std::string& strGamePath) {
 
 void FrmGame::Run(const std::string& name, const std::function<void(Game&)>& handler) {
     if (strip_ != nullptr && !OpponentActs(game_)) strip_->Dismiss();
-    RunAlone([&] { RunEvent(game_, name, handler); });
+    RunAlone([&] { history_.Run(game_, name, handler); });
 }
 
 // One event at a time: what comes in while a box is open, as the timer does, is passed over.
@@ -141,7 +141,7 @@ void FrmGame::End() {
 
 void FrmGame::Choose(const MenuCommand& command) {
     if (!CanChoose(game_, command)) return;
-    Run(std::string(command.Name) + "_Click", command.Click);
+    Run(std::string(command.Name) + "_Click", HandlerOf(command, history_));
 }
 
 // ---- Events of the window itself ----
@@ -157,8 +157,7 @@ void FrmGame::changeEvent(QEvent* event) {
 // What the focused widget has no use for.
 void FrmGame::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Shift) board_->AskForStrikes(true);
-    const bool hint = game_.blnHintWanted || game_.controls.Hint.Visible;
-    if (event->key() == Qt::Key_Escape && hint) {
+    if (event->key() == Qt::Key_Escape && HasHint()) {
         Run("DropHint", DropHint);
     } else if (event->key() == Qt::Key_Escape && IsThinking()) {
         tmrAI_.stop();  // it need not wait for its time
@@ -172,6 +171,16 @@ void FrmGame::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Shift) board_->AskForStrikes(false);
     QMainWindow::keyReleaseEvent(event);
 }
+
+// Esc drops a hint before it cancels a move, whose menu item would take it first.
+bool FrmGame::event(QEvent* event) {
+    const bool escapes = event->type() == QEvent::ShortcutOverride &&
+                         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (escapes && HasHint()) event->accept();
+    return QMainWindow::event(event);
+}
+
+bool FrmGame::HasHint() const { return game_.blnHintWanted || game_.controls.Hint.Visible; }
 
 void FrmGame::closeEvent(QCloseEvent* event) {
     event->ignore();

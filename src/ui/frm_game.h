@@ -10,6 +10,7 @@
 
 #include "core/game.h"
 #include "desktop/help_program.h"
+#include "play/turn_history.h"
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
 #include "ui/game_menus.h"
@@ -35,6 +36,7 @@ public:
     const Game& ShownGame() const { return game_; }
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -48,6 +50,7 @@ private:
     void ShowWidgets();
     void Choose(const MenuCommand& command);
     void ShowOdds();
+    bool HasHint() const;
     void ShowAbout();
     void End();
 
@@ -67,6 +70,7 @@ private:
     QtDialogs dialogs_;
     HelpProgram help_;
     Game game_;
+    TurnHistory history_;
     bool running_ = false;     // a handler runs, perhaps with a box open
     bool fitsScreen_ = false;  // with the frame that it has been given
 

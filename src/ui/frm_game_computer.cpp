@@ -8,7 +8,6 @@
 #include "ui/frm_game.h"
 #include "ui/text.h"
 #include "window/opponents_turn.h"
-#include "window/run_event.h"
 #include "window/speed.h"
 #include "window/told_of_opponent.h"
 
@@ -80,13 +79,16 @@ void FrmGame::ShowFoundHint() {
     game_.blnHintWanted = false;
     // Not by Run: what it takes away first would have the choice dropped that is no longer wanted.
     RunAlone([this] {
-        RunEvent(game_, "ShowHint", [this](Game& game) { ShowHint(game, thinker_->Take()); });
+        history_.Run(game_, "ShowHint", [this](Game& game) { ShowHint(game, thinker_->Take()); });
     });
 }
 
 void FrmGame::TimeIsUp() {
     if (IsThinking() || TellsMore()) return;
-    RunAlone([this] { Tick(game_, [this](const Choice& choice) { return MakeChoice(choice); }); });
+    RunAlone([this] {
+        Tick(game_, [this](const Choice& choice) { return MakeChoice(choice); });
+        history_.NoteTick(game_);
+    });
 }
 
 std::optional<Plan> FrmGame::MakeChoice(const Choice& choice) {

@@ -2,14 +2,10 @@
 
 #include "core/game.h"
 #include "core/position.h"
+#include "window/opponents_turn.h"
 
 namespace qarn {
 namespace {
-
-bool HasComputersTurnInHand(const Game& game) {
-    const GameRecord& record = game.record;
-    return IsComputersTurn(record) && (game.controls.tmrAI.Enabled || record.Action.blnAIBusy);
-}
 
 // Whoever has stepped has paid for it.
 bool HasMoved(const GameRecord& record) {
@@ -22,7 +18,7 @@ bool HasMoved(const GameRecord& record) {
 }  // namespace
 
 bool IsHintOffered(const Game& game) {
-    return game.blnOpen && !HasComputersTurnInHand(game) && !HasMoved(game.record) &&
+    return game.blnOpen && !HasTurnInHand(game) && !HasMoved(game.record) &&
            !game.record.blnCasualtyPending;
 }
 

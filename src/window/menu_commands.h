@@ -56,7 +56,8 @@ struct MenuCommand {
     std::string_view Name;  ///< empty: a separator line, or a heading where it has a caption
     std::string_view Caption;
     std::string_view Shortcut;       ///< as "Ctrl+S"; empty: none
-    void (*Click)(Game&) = nullptr;  ///< its handler; null for a separator line
+    void (*Click)(Game&) = nullptr;  ///< its handler; null for a separator line, and where the
+                                     ///< handler stands in a room above, see HandlerOf
     /// Where the item's state stands in the controls; null: always visible, and enabled while its
     /// menu is.
     MenuState Controls::*State = nullptr;

@@ -13,6 +13,11 @@ bool IsOwnMoveUnderWay(const GameRecord& record) {
     return record.Action.blnAIBusy && record.Action.blnOwnMove;
 }
 
+bool HasTurnInHand(const Game& game) {
+    const GameRecord& record = game.record;
+    return IsComputersTurn(record) && (game.controls.tmrAI.Enabled || record.Action.blnAIBusy);
+}
+
 bool IsPersonsMoveUnderWay(const GameRecord& record) {
     const bool any = record.blnMoveMode || record.blnAttackMode || record.blnMoveUnderWay ||
                      record.blnCasualtyPending;

@@ -12,6 +12,9 @@ struct WindowButton;
 /// True while the move or attack that the computer's action began goes on.
 bool IsOwnMoveUnderWay(const GameRecord& record);
 
+/// True while the computer plays its turn; false once it has found nothing to do.
+bool HasTurnInHand(const Game& game);
+
 /// True while a person has begun a move or an attack and not ended it.
 bool IsPersonsMoveUnderWay(const GameRecord& record);
 

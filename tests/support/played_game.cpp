@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/board_display.h"
+#include "play/play_menu.h"
 #include "rules/terrain.h"
 #include "scenarios/setup.h"
 #include "support/facts.h"
@@ -12,7 +13,6 @@
 #include "window/buttons.h"
 #include "window/load_game.h"
 #include "window/menu_commands.h"
-#include "window/run_event.h"
 #include "window/save_game.h"
 
 namespace qarn {
@@ -27,7 +27,7 @@ std::string Shown(const MessageBox& box, Answer answer) {
 }
 
 // Gives false when the button can not be pressed.
-bool Press(Game& game, const std::string& name) {
+bool Press(Game& game, TurnHistory& history, const std::string& name) {
     int code = 0;
     const bool ofKey = std::sscanf(name.c_str(), "cmdSeeTerDet(%d)", &code) == 1;
     const WindowButton* found = FindButton(name);
@@ -35,7 +35,8 @@ bool Press(Game& game, const std::string& name) {
     const Button& button = ofKey ? game.controls.cmdSeeTerDet.at(static_cast<std::size_t>(code))
                                  : game.controls.*found->State;
     if (!button.Visible || !button.Enabled) return false;
-    RunEvent(game, name, [&](Game& g) { ofKey ? cmdSeeTerDet_Click(g, code) : found->Click(g); });
+    history.Run(game, ofKey ? "cmdSeeTerDet_Click" : name + "_Click",
+                [&](Game& g) { ofKey ? cmdSeeTerDet_Click(g, code) : found->Click(g); });
     return true;
 }
 
@@ -52,7 +53,7 @@ void PlayedGame::Open(const std::string& contents) {
 
 void PlayedGame::Open() {
     game.blnOpen = game.blnEnded = false;
-    RunEvent(game, "Form_Load", [&](Game& g) { Form_Load(g, path); });
+    history.Run(game, "Form_Load", [&](Game& g) { Form_Load(g, path); });
 }
 
 void PlayedGame::Load(const std::string& position) {
@@ -103,26 +104,28 @@ bool PlayedGame::Do(const std::string& command) {
     words >> verb;
     if (verb == "click") {
         words >> X >> Y;
-        RunEvent(game, "lblX_Click", [&](Game& g) { lblX_Click(g, X, Y); });
+        history.Run(game, "lblX_Click", [&](Game& g) { lblX_Click(g, X, Y); });
     } else if (verb == "press") {
         words >> name;
-        return Press(game, name);
+        return Press(game, history, name);
     } else if (verb == "tick" || verb == "untick") {
         words >> X;
-        CheckBox& box = game.controls.chkItems.at(static_cast<std::size_t>(X));
-        if (!box.Visible || !box.Enabled) return false;
-        box.Value = verb == "tick";
+        const auto box = static_cast<std::size_t>(X);
+        const CheckBox& chkItem = game.controls.chkItems.at(box);
+        if (!chkItem.Visible || !chkItem.Enabled) return false;
+        history.Run(game, "chkItems_Click",
+                    [&](Game& g) { g.controls.chkItems[box].Value = verb == "tick"; });
     } else if (verb == "menu") {
         words >> name;
         const MenuCommand* item = FindMenuCommand(name);
         if (item == nullptr || !CanChoose(game, *item)) return false;
-        RunEvent(game, name, item->Click);
+        history.Run(game, name + "_Click", HandlerOf(*item, history));
     } else if (verb == "saveas") {
         words >> name;
         dialogs.saveFileName = name.empty() ? "" : folder / name;
         return Do("menu mnuSaveAs");
     } else if (verb == "close") {
-        RunEvent(game, "Form_Unload", Form_Unload);
+        history.Run(game, "Form_Unload", Form_Unload);
     } else if (verb == "answer") {
         while (words >> name) dialogs.queued.push_back(name == "yes" ? Answer::Yes : Answer::No);
     } else if (verb == "roll") {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "play/turn_history.h"
 #include "support/facts.h"
 #include "support/fake_ports.h"
 #include "support/saved_game.h"
@@ -47,6 +48,7 @@ public:
     FakeFileTypes fileTypes;
     Game game{
         .record = {}, .controls = {}, .ports = {dialogs, random, help, settings, fileTypes, {}}};
+    TurnHistory history;
 };
 
 }  // namespace qarn

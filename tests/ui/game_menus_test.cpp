@@ -44,6 +44,10 @@ TEST_F(GameWindow, HasItsMenus) {
   &Reach  
   &Odds  
 &Play  
+  &Take Back  Ctrl+Z
+  &Cancel Move  Esc
+  &Hint  Ctrl+H
+  --
   &Opponent  
     --Goodbeasts
     &Classic  
@@ -62,7 +66,6 @@ TEST_F(GameWindow, HasItsMenus) {
   House &Rules  
     &Own Groups Only  
     One &Turn for a Burning  
-  &Hint  Ctrl+H
 &Help  
   &Getting Started  
   &Help  F1

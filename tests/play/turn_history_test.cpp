@@ -1,0 +1,216 @@
+#include "play/turn_history.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "scenarios/catalogue.h"
+#include "scenarios/setup.h"
+#include "support/played_game.h"
+#include "window/opponents_turn.h"
+#include "window/save_game.h"
+
+namespace qarn {
+namespace {
+
+// A scenario's groups in a crowd, in which a person of either side does anything, and takes back.
+class TakenBackGame {
+public:
+    TakenBackGame(int scenario, unsigned seed) : chance_(seed) {
+        std::string crowd(NamesOfScenario(scenario).Code);
+        for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
+            const std::string code(entry.Code.Text());
+            crowd += " " + code + "@" + std::to_string(7 + Below(6)) + "," +
+                     std::to_string(3 + Below(5));
+            if (entry.Side != 0) crowd += " " + code + ".Attack=" + std::to_string(1 + Below(25));
+        }
+        played_.Load(crowd);
+    }
+
+    bool IsOver() const { return played_.game.blnEnded; }
+    int Turns() const { return turns_; }
+    int TakenBack() const { return takenBack_; }
+
+    // One event of a person, and what it leaves to be taken back.
+    void DoSomething() {
+        const Seen before = See();
+        played_.dialogs.queued.assign(3, Below(4) > 0 ? Answer::Yes : Answer::No);
+        played_.random.queued = {Below(5) / 5.0, Below(5) / 5.0};
+        const std::size_t boxes = played_.dialogs.boxes.size();
+        const std::string command = Command();
+        if (!played_.Do(command)) return;
+        const auto& happenings = played_.game.happenings;
+        const auto answers = std::span(played_.dialogs.answers).subspan(boxes);
+        const bool confirmed = std::ranges::count(answers, Answer::No) < std::ssize(answers);
+        const bool passed = std::ranges::count(happenings, Happening(TurnCame{1})) > 0 ||
+                            std::ranges::count(happenings, Happening(TurnCame{2})) > 0;
+        if (confirmed || passed) {
+            seen_.clear();
+            EXPECT_FALSE(CanTakeBack()) << command;
+            turns_ += passed ? 1 : 0;
+            open_ = !IsPersonsMoveUnderWay(Record());
+        } else if (open_ && (before.move || IsPersonsMoveUnderWay(Record()))) {
+            seen_.push_back(before);
+        }
+    }
+
+    void TakeSomeBack() {
+        for (int events = 1 + Below(4); events > 0 && !seen_.empty(); --events, ++takenBack_) {
+            ASSERT_TRUE(CanTakeBack());
+            const bool whole = Below(5) == 0 && IsPersonsMoveUnderWay(Record());
+            const auto start = std::find_if(seen_.rbegin(), seen_.rend(),
+                                            [](const Seen& one) { return !one.move; });
+            ASSERT_TRUE(played_.Do(whole ? "menu mnuCancelMove" : "menu mnuTakeBack"));
+            if (whole) seen_.erase(start.base(), seen_.end());
+            ASSERT_EQ(See().state, seen_.back().state);
+            const std::string& file = seen_.back().file;
+            ASSERT_TRUE(file.empty() || file == Saved());
+            played_.ExpectBoardShown();
+            EXPECT_TRUE(played_.game.happenings.empty());
+            seen_.pop_back();
+        }
+        EXPECT_EQ(CanTakeBack(), !seen_.empty());
+    }
+
+private:
+    struct Seen {
+        GameState state;
+        bool move = false;  // is under way
+        std::string file;   // empty: not saved
+    };
+
+    const GameRecord& Record() const { return played_.game.record; }
+    int Below(int bound) { return static_cast<int>(chance_() % static_cast<unsigned>(bound)); }
+    bool CanTakeBack() { return played_.game.controls.mnuTakeBack.Enabled; }
+
+    std::string Saved() {
+        SaveGame(played_.game);
+        return ReadFile(played_.path);
+    }
+
+    Seen See() {
+        const Game& game = played_.game;
+        return {{game.record, game.controls, game.blnOpen},
+                IsPersonsMoveUnderWay(game.record),
+                Below(200) == 0 ? Saved() : ""};
+    }
+
+    std::string Near(int place, int last) {
+        return " " + std::to_string(std::clamp(place + Below(3) - 1, 1, last));
+    }
+
+    // Mostly what the game waits for, and now and then anything else.
+    std::string Command() {
+        const Controls& controls = played_.game.controls;
+        const auto& at = Record().People.at(static_cast<std::size_t>(1 + Below(peopleCount)));
+        const std::string own =
+            "click " + std::to_string(at.LocationX) + " " + std::to_string(at.LocationY);
+        const Square from = Record().blnMoveUnderWay
+                                ? Square{Record().bytGroupX, Record().bytGroupY}
+                                : Square{Record().bytAnchorX, Record().bytAnchorY};
+        const std::string near = "click" + Near(from.X, columnCount) + Near(from.Y, rowCount);
+        const std::string tick =
+            (Below(2) == 0 ? "tick " : "untick ") + std::to_string(1 + Below(4));
+        const bool starts = Record().blnMoveUnderWay || Record().blnAttackerChosen;
+        const std::string commands[] = {Below(3) > 0 ? "press cmdMove" : "press cmdAttack", tick,
+                                        controls.cmdDoneSel.Visible ? "press cmdDoneSel" : near,
+                                        starts || !OnBoard(at) ? near : own};
+        return commands[Below(4)];
+    }
+
+    std::mt19937 chance_;
+    PlayedGame played_;
+    std::vector<Seen> seen_;
+    bool open_ = true;
+    int turns_ = 0;
+    int takenBack_ = 0;
+};
+
+TEST(TurnHistory, GivesTheVeryGameBeforeAnyEventOfATurn) {
+    int turns = 0, takenBack = 0;
+    for (unsigned seed = 1; turns < 3000; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        TakenBackGame game(1 + static_cast<int>(seed % scenarioCount), seed);
+        for (int event = 0; event < 3000 && !game.IsOver(); ++event) {
+            game.DoSomething();
+            if (seed * static_cast<unsigned>(event) % 23 == 0) game.TakeSomeBack();
+            if (testing::Test::HasFatalFailure()) return;
+        }
+        turns += game.Turns();
+        takenBack += game.TakenBack();
+    }
+    EXPECT_GT(takenBack, 4000);
+}
+
+// What is done before and after, and what of it can be taken back then.
+TEST(TurnHistory, EndsWithADieABoxOrTheTurn) {
+    const std::string move = "press cmdMove; click 9 10; press cmdDoneSel";
+    const std::string direct = move + "; answer yes; ";
+    struct Row {
+        std::string commands;
+        std::size_t events;
+        bool cancels;
+    };
+    const Row rows[] = {
+        {"click 9 10", 0, false},
+        {"press cmdSquareDetails; click 9 10; press cmdSquareDetails", 0, false},
+        {"press cmdMove", 1, true},
+        {move + "; click 1 1; click 1 1", 5, true},
+        {move + "; press cmdSeeTerDet(1); menu mnuSummary", 3, true},
+        {move + "; press cmdMove", 0, false},
+        {move + "; answer no; click 10 10", 4, true},
+        {direct + "roll 5; click 10 10", 0, false},
+        {direct + "roll 5; click 10 10; tick 1", 0, false},
+        {direct + "roll 3; click 10 10; click 9 9", 0, false},
+        {"press cmdAttack; click 9 10", 2, true},
+        {"press cmdAttack; click 9 10; press cmdAttack", 3, false},
+        {"press cmdAttack; press cmdAttack; press cmdMove", 3, true},
+        {"press cmdAttack; click 9 10; roll 3; click 10 10", 0, false},
+        {"press cmdMove; click 8 5; press cmdDoneSel; click 8 4", 4, true},
+        {"press cmdMove; click 8 5; press cmdDoneSel; click 8 4; press cmdMove", 0, false},
+    };
+    for (const Row& row : rows) {
+        PlayedGame played("LS@9,10 SK@9,10 J@8,5 ZA1@10,10 Z@1,1");
+        std::istringstream commands(row.commands);
+        for (std::string one; std::getline(commands >> std::ws, one, ';');) played.Do(one);
+        EXPECT_EQ(played.history.Events(), row.events) << row.commands;
+        EXPECT_EQ(played.Do("menu mnuCancelMove"), row.cancels) << row.commands;
+        EXPECT_EQ(played.history.Events() == 0, !played.Do("menu mnuTakeBack"));
+    }
+}
+
+TEST(TurnHistory, LeavesWhatIsNoPartOfTheTurn) {
+    PlayedGame played("Q@9,10 WA@15,4");
+    for (const char* command :
+         {"press cmdAttack", "press cmdAttack", "saveas other.tgf", "menu mnuSummary",
+          "menu mnuOwnGroupsOnly", "press cmdSeeTerDet(1)", "press cmdSquareDetails"}) {
+        EXPECT_TRUE(played.Do(command)) << command;
+    }
+    const Controls& controls = played.game.controls;
+    EXPECT_FALSE(played.Do("menu mnuTakeBack")) << "what is looked at comes first";
+    EXPECT_TRUE(played.Do("press cmdSquareDetails") && played.Do("menu mnuTakeBack"));
+    EXPECT_EQ(controls.cmdAttack.Caption, "&Retreat");
+    EXPECT_TRUE(controls.Caption.find("other.tgf") != std::string::npos &&
+                played.game.record.strGamePath.ends_with("other.tgf"));
+    EXPECT_TRUE(!controls.mnuSummary.Checked && played.game.record.house.ownGroupsOnly &&
+                controls.lblTerrainDescription.Visible);
+    EXPECT_TRUE(controls.lblDetailMore.Caption.starts_with("Click on the square"));
+    // An event that fails is none.
+    played.history.Run(played.game, "lblX_Click", [](Game&) { throw 7; });
+    EXPECT_EQ(played.history.Events(), 1u);
+}
+
+// A person's hand in the computer's turn can be taken back once the computer rests.
+TEST(TurnHistory, IsThePersonsOnly) {
+    PlayedGame played("computer1 Q@9,10 WA@15,4");
+    played.Do("press cmdMove");
+    EXPECT_EQ(played.history.Events(), 0u);
+    played.game.controls.tmrAI.Enabled = false;
+    played.Do("click 9 10");
+    EXPECT_FALSE(played.Do("menu mnuCancelMove")) << "its start is not known";
+    EXPECT_TRUE(played.Do("menu mnuTakeBack") && played.Do("click 9 10"));
+}
+
+}  // namespace
+}  // namespace qarn
