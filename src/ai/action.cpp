@@ -37,18 +37,6 @@ bool IsHighlit(Stage stage) { return stage < MoveFinished || stage == UntickThos
 
 // ---- From a plan to an action ----
 
-// A square from which the side to move can pass: one whose stack need not return to it.
-Square SquareToPassFrom(const Position& position) {
-    Square square;
-    for (const Group& group : position.People) {
-        if (!OnBoard(group) || group.Side != position.bytTurn) continue;
-        square = {group.LocationX, group.LocationY};
-        const bool starts = AskStart(position, square) == StartRefusal::None;
-        if (starts && !IsLoneBirdOnWater(position, ListedOn(position, square), square)) break;
-    }
-    return square;
-}
-
 Plan AsMarchOrAttack(const Position& position, const Plan& plan) {
     if (plan.kind != PlanKind::Pass) return plan;
     const Square square = SquareToPassFrom(position);

@@ -1,6 +1,7 @@
 #include "ai/draw_offer.h"
 
 #include "ai/locked_position.h"
+#include "ai/opponents/evaluation.h"
 #include "core/game.h"
 #include "core/opponents.h"
 #include "rules/casualties.h"
@@ -24,7 +25,18 @@ bool PersonAgrees(Game& game) {
                                     .ForThePerson = true}) == Answer::Yes;
 }
 
+// How likely to win an opponent must think itself at most to take a draw.
+constexpr float worse = 0.45F;
+
 }  // namespace
+
+bool TakesDraw(const Game& game) {
+    const GameRecord& record = game.record;
+    if (!IsPlayedByOpponent(game, OtherSide(record.bytTurn))) return false;
+    const Position position = PositionOf(record);
+    const float persons = Evaluate(position, DistancesFor(position), learnedWeights);
+    return IsLocked(record.Standstill) || 1 - persons < worse;
+}
 
 bool AgreesOnDraw(Game& game) {
     GameRecord& record = game.record;

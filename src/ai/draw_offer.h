@@ -10,4 +10,8 @@ struct Game;
 /// other: then the game stays open, they rest, and this gives true.
 bool AgreesOnDraw(Game& game);
 
+/// Whether the opponent takes a draw that the person to move offers: where the game is locked, or
+/// where it thinks that it stands worse. Classic takes none.
+bool TakesDraw(const Game& game);
+
 }  // namespace qarn

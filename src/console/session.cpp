@@ -114,7 +114,7 @@ Session::Session(const DesktopPorts& desktop)
 }
 
 std::span<const Session::Command> Session::Commands() {
-    static constexpr std::array<Command, 21> commands{{
+    static constexpr std::array<Command, 24> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -135,6 +135,9 @@ std::span<const Session::Command> Session::Commands() {
         {"hint", 0, 0, true, &Session::AskHint},
         {"undo", 0, 0, true, &Session::ChooseInMenuPlay},
         {"cancel", 0, 0, true, &Session::ChooseInMenuPlay},
+        {"pass", 0, 0, true, &Session::ChooseInMenuPlay},
+        {"resign", 0, 0, true, &Session::ChooseInMenuPlay},
+        {"draw", 0, 0, true, &Session::ChooseInMenuPlay},
         {"close", 0, 0, true, &Session::Close},
     }};
     return commands;
@@ -330,9 +333,12 @@ void Session::AskOdds(const Words& words) {
 void Session::AskHint(const Words&) { ChooseMenu({"menu", "mnuHint"}); }
 
 void Session::ChooseInMenuPlay(const Words& words) {
-    static constexpr std::array<std::pair<std::string_view, const char*>, 2> items{{
+    static constexpr std::array<std::pair<std::string_view, const char*>, 5> items{{
         {"undo", "mnuTakeBack"},
         {"cancel", "mnuCancelMove"},
+        {"pass", "mnuPassTurn"},
+        {"resign", "mnuResign"},
+        {"draw", "mnuOfferDraw"},
     }};
     const auto item = std::find_if(items.begin(), items.end(),
                                    [&](const auto& one) { return one.first == words.front(); });

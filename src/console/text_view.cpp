@@ -145,6 +145,9 @@ void PrintHelp(std::ostream& out) {
   hint             what the strongest opponent would do in this turn
   undo             take the last click, press or tick of this turn back
   cancel           take the whole move or attack back that has begun
+  pass             pass the turn
+  resign           give the game up
+  draw             offer a draw
   answer WORD...   answers for the next boxes: yes, no, retry, cancel
   random R...      numbers from 0 to below 1 for the next draws
   seed N           the seed of the numbers after these

@@ -108,11 +108,11 @@ void CountPeople(Game& game) {
     if (record.bytPeopleLeft[1] == 0 || record.bytPeopleLeft[2] == 0) EndGame(game);
 }
 
-void EndGame(Game& game) {
-    const GameRecord& record = game.record;
-    const std::uint8_t winner = record.bytPeopleLeft[1] > 0 ? 1 : 2;
+void EndGame(Game& game) { EndGameWonBy(game, game.record.bytPeopleLeft[1] > 0 ? 1 : 2); }
+
+void EndGameWonBy(Game& game, std::uint8_t winner) {
     game.happenings.emplace_back(Ended{winner});
-    TellThePerson(game, std::string(record.strVictoryText[winner]));
+    TellThePerson(game, std::string(game.record.strVictoryText.at(winner)));
     DeleteFileAndEnd(game);
 }
 

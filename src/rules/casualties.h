@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "core/people_set.h"
 
 namespace qarn {
@@ -20,8 +22,12 @@ void EliminateAll(Game& game, PeopleSet people);
 /// Recounts the groups left of both sides and ends the game when a side has none.
 void CountPeople(Game& game);
 
-/// Shows the winner's victory text, deletes the game file and ends the program (throws ProgramEnd).
+/// Shows the victory text of the side that still has groups, deletes the game file and ends the
+/// program (throws ProgramEnd).
 void EndGame(Game& game);
+
+/// The same for a side that has won, whoever is left.
+void EndGameWonBy(Game& game, std::uint8_t winner);
 
 /// Tells that the game is a draw.
 void TellDraw(Game& game);

@@ -105,6 +105,12 @@ constexpr MenuCommand SpeedItem(std::string_view name, std::string_view caption)
             .Ticked = [](const Game& game) { return game.speed == speed; }};
 }
 
+// One whose handler stands in a room above.
+constexpr MenuCommand PlayItem(std::string_view name, std::string_view caption,
+                               bool (*offered)(const Game&)) {
+    return {playMenu, name, caption, "", nullptr, nullptr, false, "", offered};
+}
+
 constexpr std::array menuCommands{
     MenuCommand{fileMenu, "New", "&New...", "Ctrl+N", New_Click},
     MenuCommand{fileMenu, "Open", "&Open...", "Ctrl+O", Open_Click},
@@ -132,6 +138,7 @@ constexpr std::array menuCommands{
     MenuCommand{playMenu, "mnuTakeBack", "&Take Back", "Ctrl+Z", nullptr, &Controls::mnuTakeBack},
     MenuCommand{playMenu, "mnuCancelMove", "&Cancel Move", "Esc", nullptr,
                 &Controls::mnuCancelMove},
+    PlayItem("mnuPassTurn", "&Pass Turn", IsPersonToBegin),
     MenuCommand{playMenu, "mnuHint", "&Hint", "Ctrl+H", mnuHint_Click, nullptr, false, "",
                 IsHintOffered},
     MenuCommand{playMenu, "", "", "", nullptr},
@@ -152,6 +159,9 @@ constexpr std::array menuCommands{
                   [](const Game& game) { return game.record.house.ownGroupsOnly; }),
     HouseRuleItem("mnuOneTurnForABurning", "One &Turn for a Burning", mnuOneTurnForABurning_Click,
                   [](const Game& game) { return game.record.house.oneTurnForABurning; }),
+    MenuCommand{playMenu, "", "", "", nullptr},
+    PlayItem("mnuResign", "&Resign", IsPersonsTurn),
+    PlayItem("mnuOfferDraw", "&Offer Draw", IsPersonToBeginOwn),
     MenuCommand{helpMenu, "mnuGetStarted", "&Getting Started", "", mnuGetStarted_Click},
     MenuCommand{helpMenu, "mnuHelp", "&Help", "F1", mnuHelp_Click},
     MenuCommand{helpMenu, "", "", "", nullptr},

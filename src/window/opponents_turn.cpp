@@ -24,6 +24,16 @@ bool IsPersonsMoveUnderWay(const GameRecord& record) {
     return any && !IsOwnMoveUnderWay(record);
 }
 
+bool IsPersonToBegin(const Game& game) {
+    const GameRecord& record = game.record;
+    return game.blnOpen && !HasTurnInHand(game) && !IsPersonsMoveUnderWay(record) &&
+           !IsOwnMoveUnderWay(record) && !record.blnDetailsMode;
+}
+
+bool IsPersonToBeginOwn(const Game& game) { return IsPersonToBegin(game) && IsPersonsTurn(game); }
+
+bool IsPersonsTurn(const Game& game) { return game.blnOpen && !IsComputersTurn(game.record); }
+
 bool OpponentActs(const Game& game) {
     const GameRecord& record = game.record;
     if (!IsComputersTurn(record) || !game.controls.tmrAI.Enabled) return false;

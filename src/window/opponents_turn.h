@@ -18,6 +18,16 @@ bool HasTurnInHand(const Game& game);
 /// True while a person has begun a move or an attack and not ended it.
 bool IsPersonsMoveUnderWay(const GameRecord& record);
 
+/// True while a person can begin a move or an attack, their own or one for the computer that found
+/// nothing to do: nobody's is under way, and nothing is looked at.
+bool IsPersonToBegin(const Game& game);
+
+/// The same, in a turn of the person's own.
+bool IsPersonToBeginOwn(const Game& game);
+
+/// True in a person's turn.
+bool IsPersonsTurn(const Game& game);
+
 /// True while an opponent that answers for itself has its turn in hand, be it that it thinks or
 /// acts. What would meddle with it waits; looking, leaving and saving do not.
 bool OpponentActs(const Game& game);

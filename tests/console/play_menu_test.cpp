@@ -31,5 +31,18 @@ TEST(PlayMenu, TakesBackByCommands) {
     EXPECT_FALSE(objects[17]["ok"] || objects[18]["ok"]) << "a die has been rolled";
 }
 
+TEST(PlayMenu, AsksByQueuedAnswers) {
+    ConsoleGame game(SavedGame("Q@9,10 WA@15,4"));
+    const auto objects =
+        game.ForProgram("pass; answer yes; pass; resign; answer no yes; draw; draw; state");
+    EXPECT_EQ(objects[0]["boxes"][0]["answer"], "no");
+    EXPECT_EQ(objects[0]["record"]["bytTurn"], 1);
+    EXPECT_EQ(objects[2]["record"]["bytTurn"], 2);
+    EXPECT_EQ(objects[2]["happenings"], (Json{{{"what", "turn"}, {"side", 2}}}));
+    EXPECT_FALSE(objects[3]["ended"] || objects[5]["ended"]);
+    EXPECT_EQ(objects[6]["happenings"], (Json{{{"what", "end"}, {"winner", 0}}}));
+    EXPECT_TRUE(objects[6]["ended"]);
+}
+
 }  // namespace
 }  // namespace qarn

@@ -175,6 +175,7 @@ TEST_F(GameWindow, IsWalkedThroughWithTheTabKey) {
     EXPECT_EQ(walk(), "board chkItems(1) chkItems(2) cmdDoneSel " + key);
 }
 
+// Escape does nothing but cancel a move or an attack.
 TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
     Open("Q@9,5 WA@17,2");
     struct Row {
@@ -192,6 +193,7 @@ TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
         Key(row.key, Qt::AltModifier);
         EXPECT_EQ(Text("lblStatus"), row.status);
         for (QWidget* focused : {static_cast<QWidget*>(board), Find("cmdSquareDetails")}) {
+            if (MenuItem("mnuCancelMove")->isEnabled()) continue;
             QTest::keyClick(focused, Qt::Key_Escape);
             EXPECT_EQ(Text("lblStatus"), row.status);
             EXPECT_TRUE(window->isVisible());

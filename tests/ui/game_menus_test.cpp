@@ -46,6 +46,7 @@ TEST_F(GameWindow, HasItsMenus) {
 &Play  
   &Take Back  Ctrl+Z
   &Cancel Move  Esc
+  &Pass Turn  
   &Hint  Ctrl+H
   --
   &Opponent  
@@ -66,6 +67,9 @@ TEST_F(GameWindow, HasItsMenus) {
   House &Rules  
     &Own Groups Only  
     One &Turn for a Burning  
+  --
+  &Resign  
+  &Offer Draw  
 &Help  
   &Getting Started  
   &Help  F1

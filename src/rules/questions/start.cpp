@@ -2,6 +2,7 @@
 
 #include "core/game_record.h"
 #include "rules/questions/sides.h"
+#include "rules/questions/step.h"
 
 namespace qarn {
 
@@ -20,6 +21,17 @@ PeopleSet ListedOn(const Position& position, Square square) {
         if (listed.Count() < checkBoxCount) listed.Add(i);
     }
     return listed;
+}
+
+Square SquareToPassFrom(const Position& position) {
+    Square square;
+    for (const Group& group : position.People) {
+        if (!OnBoard(group) || group.Side != position.bytTurn) continue;
+        square = {group.LocationX, group.LocationY};
+        const bool starts = AskStart(position, square) == StartRefusal::None;
+        if (starts && !IsLoneBirdOnWater(position, ListedOn(position, square), square)) break;
+    }
+    return square;
 }
 
 }  // namespace qarn

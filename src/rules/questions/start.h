@@ -21,4 +21,8 @@ StartRefusal AskStart(const Position& position, Square square);
 /// move, or to have died.
 PeopleSet ListedOn(const Position& position, Square square);
 
+/// A square from which the side to move can pass, by a move that ends where it starts: one whose
+/// stack need not return to it, if there is any.
+Square SquareToPassFrom(const Position& position);
+
 }  // namespace qarn
