@@ -20,9 +20,10 @@ bool IsOfATurn(std::string_view event) {
 }
 
 template <typename Kind>
-bool Any(const Happenings& happenings) {
-    return std::any_of(happenings.begin(), happenings.end(),
-                       [](const Happening& one) { return std::holds_alternative<Kind>(one); });
+int CountOf(const Happenings& happenings) {
+    return static_cast<int>(
+        std::count_if(happenings.begin(), happenings.end(),
+                      [](const Happening& one) { return std::holds_alternative<Kind>(one); }));
 }
 
 void KeepNamesAndSettings(const Game& game, GameState& state) {
@@ -48,6 +49,7 @@ void KeepWhatIsLookedAt(const Controls& now, Controls& controls) {
 bool TurnHistory::Run(Game& game, std::string_view name,
                       const std::function<void(Game&)>& handler) {
     const bool played = !game.record.blnDetailsMode && IsOfATurn(name);
+    if (!game.blnOpen) turns_ = 0;
     const int confirmed = game.ports.dialogs.Confirmed();
     if (!RunEvent(game, name, handler)) return false;
     Note(game, played, game.ports.dialogs.Confirmed() != confirmed);
@@ -56,8 +58,10 @@ bool TurnHistory::Run(Game& game, std::string_view name,
 
 void TurnHistory::Note(Game& game, bool played, bool confirmed) {
     const bool underWay = IsPersonsMoveUnderWay(game.record);
-    const bool decided = played && (confirmed || Any<Attacked>(game.happenings));
-    if (decided || Any<TurnCame>(game.happenings) || HasTurnInHand(game)) {
+    const bool decided = played && (confirmed || CountOf<Attacked>(game.happenings) > 0);
+    const int turns = CountOf<TurnCame>(game.happenings);
+    if (!game.blnEnded) turns_ += turns;
+    if (decided || turns > 0 || HasTurnInHand(game)) {
         before_.clear();
         closed_ = decided && underWay;
     } else if (played && !closed_ && (underWay || IsPersonsMoveUnderWay(game.beforeEvent.record))) {

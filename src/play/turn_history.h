@@ -22,6 +22,9 @@ public:
     /// Notes an event that was run by something else: a tick of the computer's timer.
     void NoteTick(Game& game) { Note(game, false, false); }
 
+    /// How many turns of both sides have begun since the game was opened.
+    int Turns() const { return turns_; }
+
     /// How many events can be taken back.
     std::size_t Events() const { return before_.size(); }
 
@@ -38,7 +41,8 @@ private:
     std::size_t StartOfMove(const Game& game) const;
 
     std::vector<GameState> before_;  // each of the events, the oldest first
-    bool closed_ = false;            // until the move or attack under way is over
+    int turns_ = 0;
+    bool closed_ = false;  // until the move or attack under way is over
 };
 
 }  // namespace qarn

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "play/end_report.h"
 #include "play/odds_ahead.h"
 #include "play/play_menu.h"
 #include "shell/about.h"
@@ -135,7 +136,7 @@ void FrmGame::End() {
     tmrAI_.stop();
     if (thinker_) thinker_->Drop();
     StoreWindowPlace(*this, game_.ports.settings);
-    hide();
+    if (!IsOver(game_)) hide();  // its last position can still be seen
     QCoreApplication::exit(game_.exitStatus);
 }
 

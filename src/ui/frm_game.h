@@ -35,6 +35,9 @@ public:
     /// The game, which has ended, or was left, once it is no longer open.
     const Game& ShownGame() const { return game_; }
 
+    /// How many turns of both sides have begun since it was opened.
+    int TurnsPlayed() const { return history_.Turns(); }
+
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -6,6 +6,8 @@
 #include "desktop/desktop_wastebasket.h"
 #include "desktop/linux_desktop.h"
 #include "desktop/login_manager.h"
+#include "play/end_report.h"
+#include "ui/frm_end.h"
 #include "ui/frm_game.h"
 #include "ui/frm_splash.h"
 #include "ui/frm_yes_no_help.h"
@@ -52,6 +54,15 @@ private:
         blnOpen_ = window.ShownGame().blnLeftByOpen;
         exitStatus_ = window.ShownGame().exitStatus;
         next_ = window.ShownGame().blnEnded ? NextWindow::None : NextWindow::Start;
+        if (IsOver(window.ShownGame())) AskWhatNext(window);
+    }
+
+    void AskWhatNext(FrmGame& window) {
+        FrmEnd end(&window, window.ShownGame(),
+                   ReportOfEnd(window.ShownGame(), window.TurnsPlayed()));
+        end.exec();
+        next_ = end.Next();
+        blnOpen_ = false;
     }
 
     ClockSeededNumbers random_;

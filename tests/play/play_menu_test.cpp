@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "play/end_report.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -101,6 +102,27 @@ TEST(PlayMenu, EndsTheGameOnlyWhereSomebodyAgrees) {
         EXPECT_EQ(played.dialogs.boxes.back().Text.substr(0, row.last.size()), row.last);
         EXPECT_EQ(played.game.blnEnded, row.ends) << row.position;
         EXPECT_EQ(std::filesystem::exists(played.path), !row.ends);
+    }
+}
+
+// Red loses a fight, Blue passes, and Red wins the next one.
+TEST(EndReport, TellsWhoWonAndWhoWasLost) {
+    PlayedGame played("LS@9,10 SK@9,10 WS@11,10 TS@11,10 ZA1@10,10");
+    for (const char* command :
+         {"press cmdAttack", "click 9 10", "roll 5", "click 10 10", "tick 2", "press cmdDoneSel",
+          "answer yes", "menu mnuPassTurn", "press cmdMove", "click 11 10", "press cmdDoneSel",
+          "answer yes", "roll 1"}) {
+        EXPECT_TRUE(played.Do(command) && !IsOver(played.game)) << command;
+    }
+    played.Do("click 10 10");
+    ASSERT_TRUE(IsOver(played.game)) << played.game.controls.lblStatus.Caption;
+    const EndReport report = ReportOfEnd(played.game, played.history.Turns());
+    EXPECT_EQ(report.outcome, "Red has won.");
+    EXPECT_EQ(report.turns, "3 turns");
+    for (const PeopleRecord& one : played.game.record.People) {
+        if (one.Side == 0) continue;
+        const bool told = report.lost.at(one.Side).find(one.Name) != std::string::npos;
+        EXPECT_EQ(told, !OnBoard(one)) << one.Name;
     }
 }
 

@@ -12,7 +12,7 @@ TEST_F(GameWindow, TakesBackByKeys) {
     const std::string choosing = Text("lblStatus");
     Key(Qt::Key_S, Qt::AltModifier);
     ClickSquare(9, 6);
-    EXPECT_EQ(Text("lblStatus"), "You have 7 mobility units left.");
+    EXPECT_EQ(Text("lblStatus"), "You have 6 mobility units left.");
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Text("lblStatus"), "You have 8 mobility units.\nSelect your destination.");
     Key(Qt::Key_Z, Qt::ControlModifier);

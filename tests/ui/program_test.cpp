@@ -4,11 +4,14 @@
 
 #include <QAction>
 #include <QInputDialog>
+#include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QTest>
+#include <filesystem>
 
 #include "support/temp_folder.h"
+#include "ui/frm_end.h"
 #include "ui/frm_game.h"
 #include "ui/frm_splash.h"
 #include "ui/window_script.h"
@@ -79,6 +82,44 @@ TEST_F(WholeProgram, GoesFromGamesToTheStartWindowAndBack) {
     EXPECT_EQ(RunProgram(folder / "first.tgf"), 0);
     EXPECT_TRUE(script.Done());
     EXPECT_GT(ReadFile(folder / "second.tgf").size(), newGame.size()) << "it was saved";
+}
+
+// Whoever is to move resigns, and chooses what comes next.
+void Resign(WindowScript& script, const std::string& caption, const char* next) {
+    script.On<FrmGame>([=](FrmGame& window) {
+        EXPECT_EQ(window.windowTitle().toStdString(), caption);
+        window.findChild<QAction*>("mnuResign")->trigger();
+    });
+    script.On<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Resign");
+        QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    script.On<QMessageBox>([](QMessageBox& box) { Type(box, ""); });
+    script.On<FrmEnd>([=](FrmEnd& window) {
+        const auto text = [&](const char* name) {
+            return window.findChild<QLabel*>(name)->text().toStdString();
+        };
+        EXPECT_TRUE(text("lblOutcome") == "Red has won." || text("lblOutcome") == "Blue has won.");
+        EXPECT_EQ(text("lblTurns"), "1 turn");
+        EXPECT_EQ(text("lblLost1"), "nobody");
+        QTest::mouseClick(window.findChild<QWidget*>(next), Qt::LeftButton);
+    });
+}
+
+TEST_F(WholeProgram, AsksAtTheEndWhatComesNext) {
+    WriteFile(folder / "game.tgf", newGame);
+    const std::string game = "Hollowmere Tactical Game - game.tgf ";
+    Resign(script, game + "(Red vs. Blue)", "cmdAgain");
+    Resign(script, game + "(Red vs. Blue)", "cmdExchange");
+    Resign(script, game + "(Blue vs. Red)", "cmdStart");
+    script.On<FrmSplash>([](FrmSplash& window) { Type(window, "", Qt::Key_Escape); });
+    EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+    EXPECT_FALSE(std::filesystem::exists(folder / "game.tgf"));
+
+    WriteFile(folder / "game.tgf", newGame);
+    Resign(script, game + "(Red vs. Blue)", "cmdExit");
+    EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+    EXPECT_TRUE(script.Done());
 }
 
 TEST_F(WholeProgram, BeginsWithTheStartWindowAndEndsWithAGame) {

@@ -1,0 +1,104 @@
+#include "ui/frm_end.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/failure_text.h"
+#include "core/game.h"
+#include "play/end_report.h"
+#include "ui/text.h"
+#include "ui/window_icon.h"
+#include "window/play_again.h"
+
+namespace qarn {
+namespace {
+
+constexpr double headingSize = 1.6;  // by the other texts
+constexpr int namesWidth = 300;      // at least
+constexpr int gap = 12;
+
+QLabel* Text(const std::string& text, const char* name) {
+    auto* label = new QLabel(ToQt(text));
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QLabel* Heading(const std::string& text) {
+    QLabel* heading = Text(text, "lblOutcome");
+    QFont font = heading->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * headingSize);
+    heading->setFont(font);
+    return heading;
+}
+
+void AddLosses(QGridLayout* grid, int row, const std::string& player, const std::string& lost,
+               const char* name) {
+    QLabel* names = Text(lost, name);
+    names->setWordWrap(true);
+    names->setMinimumWidth(namesWidth);
+    grid->addWidget(new QLabel(ToQt(player + " lost")), row, 0, Qt::AlignTop);
+    grid->addWidget(names, row, 1, Qt::AlignTop);
+}
+
+}  // namespace
+
+FrmEnd::FrmEnd(QWidget* gameWindow, const Game& game, const EndReport& report)
+    : QDialog(gameWindow), game_(game) {
+    setWindowTitle("End of the Game");
+    setWindowIcon(WindowIcon());
+
+    auto* facts = new QGridLayout;
+    facts->setHorizontalSpacing(gap);
+    facts->setColumnStretch(1, 1);
+    facts->addWidget(new QLabel("It took"), 0, 0);
+    facts->addWidget(Text(report.turns, "lblTurns"), 0, 1);
+    const auto& names = game.record.strPlayerName;
+    AddLosses(facts, 1, names[1], report.lost[1], "lblLost1");
+    AddLosses(facts, 2, names[2], report.lost[2], "lblLost2");
+
+    auto* buttons = new QHBoxLayout;
+    AddButton(buttons, "cmdAgain", "&Again", "The same scenario from its start",
+              &FrmEnd::PlayAgain);
+    AddButton(buttons, "cmdExchange", "Sides E&xchanged", "The same, each on the other side",
+              &FrmEnd::ExchangeSides);
+    AddButton(buttons, "cmdStart", "&Start Window", "Another game", &FrmEnd::GoToStartWindow);
+    AddButton(buttons, "cmdExit", "&Exit", "Ends the program", &FrmEnd::Exit);
+
+    auto* all = new QVBoxLayout(this);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+    all->setSpacing(gap);
+    all->addWidget(Heading(report.outcome));
+    all->addLayout(facts);
+    all->addLayout(buttons);
+}
+
+void FrmEnd::AddButton(QHBoxLayout* row, const char* name, const char* caption, const char* tip,
+                       void (FrmEnd::*choose)()) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    connect(button, &QPushButton::clicked, this, [this, choose] { (this->*choose)(); });
+    row->addWidget(button);
+}
+
+void FrmEnd::WriteAndPlay(bool exchanged) {
+    try {
+        WriteGameAgain(game_, exchanged);
+    } catch (...) {
+        game_.ports.dialogs.Tell(FailureText(std::current_exception(), "cmdAgain_Click"));
+        return;
+    }
+    Leave(NextWindow::Game);
+}
+
+void FrmEnd::Leave(NextWindow next) {
+    next_ = next;
+    accept();
+}
+
+}  // namespace qarn
