@@ -28,6 +28,9 @@ inline constexpr QRect lblStatusBesideStripTwips(120, 9840, 6300, 495);
 inline constexpr QRect opponentStripTwips(6480, 9810, 6720, 540);
 // Between the status line and the panel.
 inline constexpr QRect oddsNoteTwips(9090, 9810, 4110, 540);
+inline constexpr QRect noMoveTextTwips(90, 30, 2850, 480);
+inline constexpr QRect cmdPassItsTurnTwips(2985, 83, 1650, 375);
+inline constexpr QRect cmdOtherOpponentTwips(4755, 83, 1875, 375);
 inline constexpr QRect quickInfoTitleTwips(90, 60, 1395, 240);
 inline constexpr QRect lblSummaryTwips(90, 315, 1395, 855);
 

@@ -88,6 +88,7 @@ void FrmGame::BringUpToDate() {
     ShowAbout();
     panel_.FocusOn(std::exchange(game_.controls.SetFocus, Control::None));
     FollowComputer();
+    ShowNoMove();
 }
 
 void FrmGame::ShowWidgets() {

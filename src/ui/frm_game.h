@@ -14,6 +14,7 @@
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
 #include "ui/game_menus.h"
+#include "ui/no_move_strip.h"
 #include "ui/odds_note.h"
 #include "ui/opponent_strip.h"
 #include "ui/qt_ports.h"
@@ -69,6 +70,8 @@ private:
     bool TellsMore() const;
     void TellAnswered(const MessageBox& box, Answer answer);
     void ShowThinking();
+    void ShowNoMove();
+    NoMoveStrip& StripOfNoMove();
 
     QtDialogs dialogs_;
     HelpProgram help_;
@@ -84,6 +87,7 @@ private:
     QTimer tmrAI_{this};
     std::unique_ptr<Thinker> thinker_;  // of opponents that look ahead, once one has played
     OpponentStrip* strip_ = nullptr;    // ... and theirs
+    NoMoveStrip* noMove_ = nullptr;     // once the computer has found no move
     std::string_view acting_;           // the opponent that chose last
     OddsNote* oddsNote_ = nullptr;      // once odds have been shown
     QPointer<QDialog> about_;

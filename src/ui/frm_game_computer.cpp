@@ -4,6 +4,7 @@
 #include "ai/turn_driver.h"
 #include "core/captions.h"
 #include "core/opponents.h"
+#include "play/pass_turn.h"
 #include "ui/design.h"
 #include "ui/frm_game.h"
 #include "ui/text.h"
@@ -105,7 +106,10 @@ OpponentStrip& FrmGame::Strip() {
         area_->Place(strip_, opponentStripTwips);
         connect(strip_, &OpponentStrip::Changed, this, [this] {
             panel_.MakeRoomForStrip(!strip_->isHidden());
-            if (!running_) FollowComputer();
+            if (!running_) {
+                FollowComputer();
+                ShowNoMove();
+            }
         });
     }
     return *strip_;
@@ -115,6 +119,35 @@ bool FrmGame::TellsMore() const { return strip_ != nullptr && strip_->HasMore();
 
 void FrmGame::TellAnswered(const MessageBox& box, Answer answer) {
     Strip().Tell(ToQt(ToldOfOpponent(NameOf(acting_), box, answer)), MillisecondsOf(game_.speed));
+}
+
+NoMoveStrip& FrmGame::StripOfNoMove() {
+    if (noMove_ == nullptr) {
+        noMove_ = new NoMoveStrip(area_);
+        connect(noMove_, &NoMoveStrip::PassWanted, this,
+                [this] { Run("mnuPassTurn_Click", PassTurn); });
+    }
+    return *noMove_;
+}
+
+// Where the strip of opponents is not in use.
+void FrmGame::ShowNoMove() {
+    const bool told = strip_ != nullptr && !strip_->isHidden();
+    const bool shows = HasFoundNoMove(game_) && !told;
+    if (noMove_ == nullptr && !shows) return;
+    NoMoveStrip& strip = StripOfNoMove();
+    if (shows) {
+        const std::uint8_t side = game_.record.bytTurn;
+        QList<QAction*> others;
+        for (const char* name : {"mnuScout%1", "mnuCaptain%1", "mnuWarlord%1"}) {
+            others << findChild<QAction*>(QString(name).arg(side));
+        }
+        strip.Tell(ToQt(game_.record.strPlayerName.at(side)), others);
+    } else if (strip.isAncestorOf(focusWidget())) {
+        board_->setFocus();
+    }
+    strip.setVisible(shows);
+    panel_.MakeRoomForStrip(shows || told);
 }
 
 void FrmGame::ShowThinking() {

@@ -30,6 +30,10 @@ bool IsPersonToBegin(const Game& game) {
            !IsOwnMoveUnderWay(record) && !record.blnDetailsMode;
 }
 
+bool HasFoundNoMove(const Game& game) {
+    return IsPersonToBegin(game) && IsComputersTurn(game.record) && !game.record.Standstill.drawn;
+}
+
 bool IsPersonToBeginOwn(const Game& game) { return IsPersonToBegin(game) && IsPersonsTurn(game); }
 
 bool IsPersonsTurn(const Game& game) { return game.blnOpen && !IsComputersTurn(game.record); }

@@ -18,11 +18,14 @@ bool HasTurnInHand(const Game& game);
 /// True while a person has begun a move or an attack and not ended it.
 bool IsPersonsMoveUnderWay(const GameRecord& record);
 
-/// True while a person can begin a move or an attack, their own or one for the computer that found
-/// nothing to do: nobody's is under way, and nothing is looked at.
+/// True while a person can begin a move or an attack, their own or one for the computer that rests:
+/// nobody's is under way, and nothing is looked at.
 bool IsPersonToBegin(const Game& game);
 
-/// The same, in a turn of the person's own.
+/// The same, for the computer that found nothing to do.
+bool HasFoundNoMove(const Game& game);
+
+/// True while a person can begin one in a turn of their own.
 bool IsPersonToBeginOwn(const Game& game);
 
 /// True in a person's turn.

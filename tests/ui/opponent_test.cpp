@@ -80,7 +80,22 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     AnswerBoxes({Qt::Key_Return});
     Tick();
     EXPECT_EQ(boxes, std::vector<std::string>{"No good move!"});
+    boxes.clear();
     EXPECT_FALSE(Timer()->isActive());
+    EXPECT_EQ(Text("noMoveText"), "Red found no move.\nMove for it, or:");
+    EXPECT_FALSE(Find("noMoveStrip")->geometry().intersects(Find("lblStatus")->geometry()));
+    QTest::mouseClick(Button("cmdPassItsTurn"), Qt::LeftButton);
+    EXPECT_EQ(ShownGame().record.bytTurn, 2);
+    EXPECT_FALSE(Find("noMoveStrip")->isVisible());
+
+    window = std::make_unique<FrmGame>(random, desktop);
+    Open("computer1 Q@10,10 Z@1,1");
+    AnswerBoxes({Qt::Key_Return});
+    Tick();
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_FALSE(Find("noMoveStrip")->isVisible());
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(Find("noMoveStrip")->isVisible());
     Key(Qt::Key_M, Qt::AltModifier);
     ClickSquare(10, 10);
     MenuItem("mnuWarlord1")->trigger();

@@ -1,0 +1,35 @@
+#include "ui/no_move_strip.h"
+
+#include <QMenu>
+
+#include "ui/design.h"
+
+namespace qarn {
+
+NoMoveStrip::NoMoveStrip(ScaledArea* area) : QFrame(area) {
+    setObjectName("noMoveStrip");
+    setFrameShape(QFrame::Box);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    text_.setObjectName("noMoveText");
+    text_.setForegroundRole(QPalette::ToolTipText);
+    cmdPass_.setObjectName("cmdPassItsTurn");
+    cmdOther_.setObjectName("cmdOtherOpponent");
+    cmdOther_.setMenu(new QMenu(&cmdOther_));
+    for (QPushButton* button : {&cmdPass_, &cmdOther_}) button->setAutoDefault(true);
+    connect(&cmdPass_, &QPushButton::clicked, this, &NoMoveStrip::PassWanted);
+
+    area->Place(this, opponentStripTwips);
+    area->Place(&text_, noMoveTextTwips);
+    area->Place(&cmdPass_, cmdPassItsTurnTwips);
+    area->Place(&cmdOther_, cmdOtherOpponentTwips);
+    hide();
+}
+
+void NoMoveStrip::Tell(const QString& player, const QList<QAction*>& opponents) {
+    cmdOther_.menu()->clear();
+    cmdOther_.menu()->addActions(opponents);
+    text_.Tell(player + " found no move.\nMove for it, or:");
+}
+
+}  // namespace qarn
