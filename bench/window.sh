@@ -7,7 +7,7 @@ build=$(cd "$1" && pwd)
 bench=$build/bench
 
 if [ -z "${INSIDE_DISPLAY-}" ]; then
-    INSIDE_DISPLAY=yes exec xvfb-run -a -s '-screen 0 1024x768x24 -noreset' "$0" "$build"
+    INSIDE_DISPLAY=yes exec xvfb-run -a -s '-screen 0 2560x1440x24 -noreset' "$0" "$build"
 fi
 
 folder=$(mktemp -d)
@@ -17,5 +17,5 @@ printf 'HM\r\nRed\r\nBlue\r\n1\r\n' >"$folder/game.tgf"
 
 echo "From the start to the window on screen, beside an empty Qt window:"
 "$bench/start_up" "$bench/empty_window" "$build/qarn $folder/game.tgf"
-echo "A repaint of the whole board, and a click until everything it changed is painted:"
+echo "A repaint of the whole board, a click, and the pointer, until everything it changed is painted:"
 "$bench/window_bench"

@@ -36,7 +36,8 @@ std::vector<SquareCode> CodesOfSquare(const Game& game, int X, int Y) {
         const PeopleRecord& people = game.record.People[i];
         codes.push_back({WithoutPadding(people.Code), people.Side});
     }
-    return game.view.sides && codes.size() > mostBeforeFolding ? Folded(codes) : codes;
+    const bool folds = game.view.sides || game.view.largeCodes;
+    return folds && codes.size() > mostBeforeFolding ? Folded(codes) : codes;
 }
 
 }  // namespace qarn

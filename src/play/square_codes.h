@@ -16,8 +16,9 @@ struct SquareCode {
     friend bool operator==(const SquareCode&, const SquareCode&) = default;
 };
 
-/// The codes that square (X, Y) shows, in roster order. While sides are shown, a crowded square has
-/// each code of its transport pieces once, with their number, as "BT×3".
+/// The codes that square (X, Y) shows, in roster order. While sides are shown, or large
+/// codes, a crowded square has each code of its transport pieces once, with their number, as
+/// "BT×3".
 std::vector<SquareCode> CodesOfSquare(const Game& game, int X, int Y);
 
 }  // namespace qarn

@@ -4,7 +4,9 @@
 #include <cmath>
 
 #include "ui/paint_codes.h"
+#include "ui/paint_coordinates.h"
 #include "ui/paint_hint.h"
+#include "ui/paint_last_move.h"
 #include "ui/paint_reach.h"
 #include "ui/paint_square_role.h"
 
@@ -36,6 +38,7 @@ void BoardPainter::Paint(const QRegion& region) {
     };
     PaintLines();
     forEachShown([&](QPoint square) { PaintGround(square); });
+    PaintLastMove();
     PaintHint();
     forEachShown([&](QPoint square) { PaintMarked(square); });
     PaintOutlines();
@@ -54,7 +57,12 @@ void BoardPainter::PaintLines() {
 
 void BoardPainter::PaintGround(QPoint square) {
     const QRectF inner = places_.Inner(square);
-    painter_.fillRect(inner, ToQt(SquareOf(board_.squares, square).BackColor));
+    const ShownSquare& shown = SquareOf(board_.squares, square);
+    if (board_.view.terrainPatterns) {
+        terrain_.Paint(painter_, inner, shown.terrain);
+    } else {
+        painter_.fillRect(inner, ToQt(shown.BackColor));
+    }
     const ReachMark& mark = SquareOf(board_.reach, square);
     if (mark.square != Square{}) PaintReachFrame(painter_, inner, mark.kind);
     PaintRole(square);
@@ -70,14 +78,21 @@ void BoardPainter::PaintRole(QPoint square) {
     }
 }
 
+std::vector<QRectF> BoardPainter::PlacesOf(const Path& path) const {
+    std::vector<QRectF> places;
+    for (const Square square : path) places.push_back(places_.Inner({square.X, square.Y}));
+    return places;
+}
+
+void BoardPainter::PaintLastMove() {
+    const auto& [path, fight] = board_.lastMove;
+    if (fight != Square{}) PaintBurst(painter_, places_.Inner({fight.X, fight.Y}));
+    if (path.size() > 1) PaintLastPath(painter_, PlacesOf(path));
+}
+
 // Below the codes, which stay readable.
 void BoardPainter::PaintHint() {
-    if (board_.hintWay.empty()) return;
-    std::vector<QRectF> squares;
-    for (const Square square : board_.hintWay) {
-        squares.push_back(places_.Inner({square.X, square.Y}));
-    }
-    PaintHintArrow(painter_, squares);
+    if (!board_.hintWay.empty()) PaintHintArrow(painter_, PlacesOf(board_.hintWay));
 }
 
 void BoardPainter::PaintCaptionOfHint() {
@@ -86,18 +101,24 @@ void BoardPainter::PaintCaptionOfHint() {
                      board_.hintCaption);
 }
 
-// The codes, and the label of a mark in its corner, out of their way.
+// The codes, and what stands at the edges of the square, out of their way.
 void BoardPainter::PaintMarked(QPoint square) {
     const ShownSquare& shown = SquareOf(board_.squares, square);
     const ReachMark& mark = SquareOf(board_.reach, square);
     const QRectF inner = places_.Inner(square);
-    const CodeLook look{.ink = ToQt(shown.ForeColor), .plates = board_.view.sides};
-    if (mark.square == Square{}) {
-        PaintCodes(painter_, inner, shown.codes, font_, look);
-        return;
+    const QColor ground = ToQt(shown.BackColor);
+    QRectF room = inner;
+    if (board_.view.coordinates) {
+        PaintCoordinates(painter_, inner, square, ground);
+        room = BesideCoordinates(inner, square);
     }
-    PaintCodes(painter_, BesideReachLabel(inner), shown.codes, font_, look);
-    PaintReachLabel(painter_, inner, mark);
+    if (mark.square != Square{}) room = room.intersected(BesideReachLabel(inner));
+    PaintCodes(painter_, room, shown.codes, font_,
+               {.ink = ToQt(shown.ForeColor),
+                .ground = ground,
+                .plates = board_.view.sides,
+                .large = board_.view.largeCodes});
+    if (mark.square != Square{}) PaintReachLabel(painter_, inner, mark);
 }
 
 double BoardPainter::Thick() const {

@@ -35,12 +35,13 @@ void BoardWidget::BringUpToDate() {
     ShowHighlight();
     ShowHint();
     ShowReach();
+    ShowLastMove();
 }
 
 void BoardWidget::ShowSquare(QPoint square) {
     const SquareLabel& label = SquareOf(game_.controls.lbl, square);
     const ShownSquare now{CodesOfSquare(game_, square.x(), square.y()), label.BackColor,
-                          label.ForeColor};
+                          label.ForeColor, SquareOf(game_.record.bytTerrain, square)};
     ShownSquare& shown = SquareOf(shown_.squares, square);
     if (now == shown) return;
     shown = now;
@@ -88,6 +89,13 @@ void BoardWidget::ShowReach() {
     shown_.reach = marks;
 }
 
+void BoardWidget::ShowLastMove() {
+    const TurnTrace trace = game_.view.lastMove ? game_.record.LastMove.shown : TurnTrace();
+    if (trace == shown_.lastMove) return;
+    shown_.lastMove = trace;
+    update();
+}
+
 void BoardWidget::LookAt(QPoint square) {
     LookAt(Look{{static_cast<std::uint8_t>(square.x()), static_cast<std::uint8_t>(square.y())},
                 look_.strikes});
@@ -115,12 +123,17 @@ void BoardWidget::UpdateSquare(QPoint square) {
 
 void BoardWidget::resizeEvent(QResizeEvent*) { PlaceLines(); }
 
+void BoardWidget::PlaceLines() {
+    places_.Spread(size(), devicePixelRatioF());
+    terrain_.Spread(places_, devicePixelRatioF());
+}
+
 // ---- Painting ----
 
 void BoardWidget::paintEvent(QPaintEvent* event) {
     PlaceLines();  // the window may have come to a screen of another pixel ratio
     QPainter painter(this);
-    BoardPainter(painter, places_, shown_, font()).Paint(event->region());
+    BoardPainter(painter, places_, shown_, font(), terrain_).Paint(event->region());
 }
 
 // ---- Mouse and keyboard ----
@@ -179,6 +192,12 @@ void BoardWidget::keyPressEvent(QKeyEvent* event) {
             break;
         case Qt::Key_Down:
             MoveCursor(shown_.cursor + QPoint(0, 1));
+            break;
+        case Qt::Key_Home:
+            MoveCursor({1, shown_.cursor.y()});
+            break;
+        case Qt::Key_End:
+            MoveCursor({columnCount, shown_.cursor.y()});
             break;
         case Qt::Key_Space:
         case Qt::Key_Return:

@@ -5,6 +5,7 @@
 #include "core/game.h"
 #include "ui/board_places.h"
 #include "ui/shown_board.h"
+#include "ui/terrain_pattern.h"
 
 namespace qarn {
 
@@ -66,11 +67,12 @@ private:
     void ShowHighlight();
     void ShowHint();
     void ShowReach();
+    void ShowLastMove();
     void LookAt(QPoint square);
     void LookAt(const Look& look);
     void MoveMark(QPoint& mark, QPoint square);
 
-    void PlaceLines() { places_.Spread(size(), devicePixelRatioF()); }
+    void PlaceLines();
     void Hover(QPoint square);
     void TellCursor();
     void UpdateSquare(QPoint square);
@@ -79,6 +81,7 @@ private:
     ShownBoard shown_;
     BoardPlaces places_;
     Look look_;
+    TerrainSquares terrain_;
     QPoint pressed_;  // (0, 0): none
 };
 

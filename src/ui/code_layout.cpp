@@ -82,16 +82,24 @@ CodeLayout LayOutCodes(const QStringList& codes, const QRectF& square, QFont fon
                        const CodeRoom& each) {
     const double inset = square.width() * margin;
     const QRectF room = square.adjusted(inset, inset, -inset, -inset);
-    const int largest = std::max(smallestFont, static_cast<int>(square.width() * largestFont));
-    font.setPixelSize(largest);
+    const auto sizeOf = [&](double part) {
+        return std::max(smallestFont, static_cast<int>(square.width() * part));
+    };
+    const int largest = sizeOf(each.largestFont);
     font.setBold(true);
-    std::vector<Row> rows = Stacked(WidthsOf(codes, font, each));
-    double height = largest * each.height;
-    if (Fit(rows, largest, height, room)) return {font, Centred(rows, largest, height, room)};
+    for (int size = largest; size >= std::min(largest, sizeOf(CodeRoom().largestFont)); --size) {
+        font.setPixelSize(size);
+        const std::vector<Row> rows = Stacked(WidthsOf(codes, font, each));
+        const double height = size * each.height;
+        if (Fit(rows, size, height, room)) return {font, Centred(rows, size, height, room)};
+    }
 
     font.setBold(false);  // is read better when it is small
+    font.setPixelSize(largest);
     const Widths widths = WidthsOf(codes, font, each);
+    std::vector<Row> rows;
     int size = largest;
+    double height = 0;
     do {
         height = size * each.height;
         rows = Wrapped(Scaled(widths, double(size) / largest), size * gap, room.width());

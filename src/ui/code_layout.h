@@ -18,6 +18,8 @@ struct CodeRoom {
     double height = 1.1;
     double aside = 0;  ///< at its left and right
     double least = 0;  ///< the width of short codes
+
+    double largestFont = 0.28;  ///< by the width of the square
 };
 inline constexpr CodeRoom plateRoom{.height = 1.2, .aside = 0.25, .least = 1.9};  ///< on a plate
 

@@ -50,14 +50,6 @@ void Tighten(QPushButton* button) {
     button->setFont(spacing);
 }
 
-QPalette TerrainPalette(std::uint8_t code) {
-    const TerrainColors colors = ColorsOfTerrain(code);
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor::fromRgb(colors.BackColor.rgb));
-    palette.setColor(QPalette::WindowText, QColor::fromRgb(colors.ForeColor.rgb));
-    return palette;
-}
-
 // A note that lies over the board. The mouse reaches the squares beneath it.
 void MakeNote(QFrame* widget) {
     widget->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -120,12 +112,9 @@ void ControlPanel::MakeButtons() {
 void ControlPanel::MakeTerrainKey() {
     const QFont bold = Bold(area_->font());
     for (std::uint8_t code = 0; code < terrainKindCount; ++code) {
-        auto* label = new FittedLabel(area_, titleFont);
+        auto* label = new TerrainLabel(area_, code, titleFont);
         label->setObjectName(QString("lblTerrKey(%1)").arg(code));
-        label->setAlignment(Qt::AlignCenter);
         label->setFont(bold);
-        label->setPalette(TerrainPalette(code));
-        label->setAutoFillBackground(true);
         lblTerrKey_[code] = label;
 
         auto* button = new QPushButton(area_);
@@ -179,7 +168,7 @@ void ControlPanel::Show(const Game& game) {
         const WindowButton& button = *FindButton(widget->objectName().toStdString());
         ShowButton(widget, controls.*button.State, TakesPress(game, button));
     }
-    ShowTerrainKey(controls);
+    ShowTerrainKey(game);
     lblDetailMore_->ShowText(ToLabelText(controls.lblDetailMore.Caption));
     lblStatus_->Tell(ToLabelText(controls.lblStatus.Caption));
     ShowFloatingFrames(controls);
@@ -199,11 +188,13 @@ void ControlPanel::ShowCheckBoxes(const Game& game) {
     }
 }
 
-void ControlPanel::ShowTerrainKey(const Controls& controls) {
+void ControlPanel::ShowTerrainKey(const Game& game) {
+    const Controls& controls = game.controls;
     for (std::size_t i = 0; i < terrainKindCount; ++i) {
         const KeyLabel& key = controls.lblTerrKey[i];
         lblTerrKey_[i]->ShowText(ToLabelText(key.Caption));
         lblTerrKey_[i]->setVisible(key.Visible);
+        lblTerrKey_[i]->ShowPattern(game.view.terrainPatterns);
         area_->Place(lblTerrKey_[i], LblTerrKeyTwips(key.Top));
 
         const Button& button = controls.cmdSeeTerDet[i];
@@ -228,6 +219,8 @@ void ControlPanel::ShowFloatingFrames(const Controls& controls) {
 void ControlPanel::MakeRoomForStrip(bool room) {
     area_->Place(lblStatus_, room ? lblStatusBesideStripTwips : lblStatusTwips);
 }
+
+void ControlPanel::ClickBox(int i) { chkItems_.at(static_cast<std::size_t>(i))->click(); }
 
 // ---- Focus ----
 

@@ -12,6 +12,7 @@
 #include "ui/fitted_label.h"
 #include "ui/scaled_area.h"
 #include "ui/status_line.h"
+#include "ui/terrain_label.h"
 
 namespace qarn {
 
@@ -32,6 +33,9 @@ public:
     /// Makes room for a strip beside the status line, or gives the room back.
     void MakeRoomForStrip(bool room);
 
+    /// Clicks check box 1 to 11, if a person can.
+    void ClickBox(int i);
+
     /// Gives the focus to a control that a handler has chosen.
     void FocusOn(Control control);
 
@@ -47,7 +51,7 @@ private:
     QPushButton* MakeButton(QWidget* parent, const char* name);
 
     void ShowCheckBoxes(const Game& game);
-    void ShowTerrainKey(const Controls& controls);
+    void ShowTerrainKey(const Game& game);
     void ShowFloatingFrames(const Controls& controls);
 
     ScaledArea* area_;
@@ -60,7 +64,7 @@ private:
     QPushButton* cmdAttack_ = nullptr;
     QPushButton* cmdMove_ = nullptr;
     QPushButton* cmdSquareDetails_ = nullptr;
-    std::array<FittedLabel*, terrainKindCount> lblTerrKey_{};
+    std::array<TerrainLabel*, terrainKindCount> lblTerrKey_{};
     std::array<QPushButton*, terrainKindCount> cmdSeeTerDet_{};
     FittedLabel* lblDetailMore_ = nullptr;
     StatusLine* lblStatus_ = nullptr;

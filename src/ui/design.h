@@ -26,6 +26,10 @@ inline constexpr QRect lblStatusTwips(120, 9840, 8895, 495);
 // The status line gives room for the strip beside it.
 inline constexpr QRect lblStatusBesideStripTwips(120, 9840, 6300, 495);
 inline constexpr QRect opponentStripTwips(6480, 9810, 6720, 540);
+// Inside the strip, which makes the offer of a first game too.
+inline constexpr QRect offerTextTwips(90, 60, 4050, 420);
+inline constexpr QRect takeOfferTwips(4200, 75, 1290, 390);
+inline constexpr QRect declineOfferTwips(5550, 75, 1095, 390);
 // Between the status line and the panel.
 inline constexpr QRect oddsNoteTwips(9090, 9810, 4110, 540);
 inline constexpr QRect noMoveTextTwips(90, 30, 2850, 480);

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "play/end_report.h"
+#include "play/first_offer.h"
 #include "play/odds_ahead.h"
+#include "play/own_groups.h"
 #include "play/play_menu.h"
 #include "shell/about.h"
 #include "shell/kept_opponents.h"
@@ -24,9 +26,13 @@
 namespace qarn {
 namespace {
 
-bool IsArrow(int key) {
-    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+bool MovesTheCursor(int key) {
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up ||
+           key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
 }
+
+// The check box of a digit key; 0 stands for 10.
+int BoxOfDigit(int key) { return key == Qt::Key_0 ? 10 : key - Qt::Key_0; }
 
 }  // namespace
 
@@ -41,7 +47,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
           .ports = {dialogs_, random, help_, desktop.settings, desktop.fileTypes, desktop.folders}},
       area_(new ScaledArea(designTwips, DesignFontSize(font()))),
       board_(new BoardWidget(game_, area_)),
-      panel_(area_, [this](const auto& name, const auto& handler) { Run(name, handler); }),
+      panel_(area_, [this](const auto& name, const auto& handler) { Click(name, handler); }),
       menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }) {
     setWindowIcon(WindowIcon());
     setCentralWidget(area_);
@@ -49,7 +55,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
     board_->setFocus();
     connect(board_, &BoardWidget::SquareClicked, this, [this](int X, int Y) {
         if (!TakesClicks(game_)) return;
-        Run("lblX_Click", [=](Game& game) { lblX_Click(game, X, Y); });
+        Click("lblX_Click", [=](Game& game) { lblX_Click(game, X, Y); });
     });
     connect(board_, &BoardWidget::LooksElsewhere, this, &FrmGame::ShowOdds);
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
@@ -63,11 +69,20 @@ void FrmGame::Open(const std::string& strGamePath) {
         game.opponent = KeptOpponents(game.ports, strGamePath);
         Form_Load(game, strGamePath);
     });
+    if (game_.blnOpen && IsOfferDue(game_)) MakeOffer();
 }
 
 void FrmGame::Run(const std::string& name, const std::function<void(Game&)>& handler) {
     if (strip_ != nullptr && !OpponentActs(game_)) strip_->Dismiss();
     RunAlone([&] { history_.Run(game_, name, handler); });
+}
+
+// What was shown of the turn before has been seen by then.
+void FrmGame::Click(const std::string& name, const std::function<void(Game&)>& handler) {
+    Run(name, [&](Game& game) {
+        game.record.LastMove.shown = {};
+        handler(game);
+    });
 }
 
 // One event at a time: what comes in while a box is open, as the timer does, is passed over.
@@ -97,7 +112,9 @@ void FrmGame::ShowWidgets() {
     board_->BringUpToDate();
     panel_.Show(game_);
     ShowOdds();
+    if (offer_ != nullptr) offer_->LetTake(CanTakeOffer(game_));
     menus_.Show(game_);
+    ShowFullScreen();
     if (game_.blnOpen && isHidden()) {
         show();
         activateWindow();
@@ -105,6 +122,28 @@ void FrmGame::ShowWidgets() {
     }
     // Where a control loses the focus, the next event mostly comes from the board.
     if (focused != nullptr && (!focused->isEnabled() || focused->isHidden())) board_->setFocus();
+}
+
+void FrmGame::MakeOffer() {
+    offer_ = new OfferStrip(area_);
+    connect(offer_, &OfferStrip::Taken, this, [this] { AnswerOffer("TakeOffer", TakeOffer); });
+    connect(offer_, &OfferStrip::Declined, this, [this] { AnswerOffer("EndOffer", EndOffer); });
+    offer_->show();
+    MakeRoomForStrips();
+}
+
+void FrmGame::AnswerOffer(const std::string& name, void (*answer)(Game&)) {
+    std::exchange(offer_, nullptr)->deleteLater();
+    MakeRoomForStrips();
+    board_->setFocus();
+    Run(name, answer);
+}
+
+// Only what the person chooses anew: the desktop may have other ways to fill the screen.
+void FrmGame::ShowFullScreen() {
+    if (fullScreen_ == game_.view.fullScreen) return;
+    fullScreen_ = game_.view.fullScreen;
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, game_.view.fullScreen));
 }
 
 void FrmGame::ShowOdds() {
@@ -136,6 +175,7 @@ void FrmGame::ShowAbout() {
 void FrmGame::End() {
     tmrAI_.stop();
     if (thinker_) thinker_->Drop();
+    if (offer_ != nullptr) EndOffer(game_);
     StoreWindowPlace(*this, game_.ports.settings);
     if (!IsOver(game_)) hide();  // its last position can still be seen
     QCoreApplication::exit(game_.exitStatus);
@@ -164,9 +204,23 @@ void FrmGame::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_Escape && IsThinking()) {
         tmrAI_.stop();  // it need not wait for its time
         thinker_->DecideNow();
+    } else if (event->key() == Qt::Key_N && !(event->modifiers() & ~Qt::ShiftModifier)) {
+        GoToOwnGroup(!(event->modifiers() & Qt::ShiftModifier));
+    } else if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9) {
+        panel_.ClickBox(BoxOfDigit(event->key()));
     } else {
         QMainWindow::keyPressEvent(event);
     }
+}
+
+void FrmGame::GoToOwnGroup(bool forward) {
+    const QPoint from = board_->Cursor();
+    const auto square = NextOwnGroup(
+        game_.record, {static_cast<std::uint8_t>(from.x()), static_cast<std::uint8_t>(from.y())},
+        forward);
+    if (!square) return;
+    board_->setFocus();
+    board_->MoveCursor({square->X, square->Y});
 }
 
 void FrmGame::keyReleaseEvent(QKeyEvent* event) {
@@ -189,14 +243,15 @@ void FrmGame::closeEvent(QCloseEvent* event) {
     Run("Form_Unload", Form_Unload);
 }
 
-// Buttons act at once on their access keys, where Qt waits a while, and leave the arrow keys to the
-// board.
+// Buttons act at once on their access keys, where Qt waits a while, and leave the keys of the
+// cursor to the board.
 bool FrmGame::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
         static_cast<QPushButton*>(object)->click();
         return true;
     }
-    if (event->type() == QEvent::KeyPress && IsArrow(static_cast<QKeyEvent*>(event)->key())) {
+    if (event->type() == QEvent::KeyPress &&
+        MovesTheCursor(static_cast<QKeyEvent*>(event)->key())) {
         board_->setFocus();
         QCoreApplication::sendEvent(board_, event);
         return true;

@@ -16,6 +16,7 @@
 #include "ui/game_menus.h"
 #include "ui/no_move_strip.h"
 #include "ui/odds_note.h"
+#include "ui/offer_strip.h"
 #include "ui/opponent_strip.h"
 #include "ui/qt_ports.h"
 #include "ui/scaled_area.h"
@@ -49,13 +50,18 @@ protected:
 
 private:
     void Run(const std::string& name, const std::function<void(Game&)>& handler);
+    void Click(const std::string& name, const std::function<void(Game&)>& handler);
     void RunAlone(const std::function<void()>& event);
     void BringUpToDate();
     void ShowWidgets();
     void Choose(const MenuCommand& command);
+    void MakeOffer();
+    void AnswerOffer(const std::string& name, void (*answer)(Game&));
+    void ShowFullScreen();
     void ShowOdds();
     bool HasHint() const;
     void ShowAbout();
+    void GoToOwnGroup(bool forward);
     void End();
 
     void PrepareTimer();
@@ -72,13 +78,15 @@ private:
     void ShowThinking();
     void ShowNoMove();
     NoMoveStrip& StripOfNoMove();
+    void MakeRoomForStrips();
 
     QtDialogs dialogs_;
     HelpProgram help_;
     Game game_;
     TurnHistory history_;
-    bool running_ = false;     // a handler runs, perhaps with a box open
-    bool fitsScreen_ = false;  // with the frame that it has been given
+    bool running_ = false;            // a handler runs, perhaps with a box open
+    std::optional<bool> fullScreen_;  // as it was chosen last
+    bool fitsScreen_ = false;         // with the frame that it has been given
 
     ScaledArea* area_;
     BoardWidget* board_;
@@ -89,6 +97,7 @@ private:
     OpponentStrip* strip_ = nullptr;    // ... and theirs
     NoMoveStrip* noMove_ = nullptr;     // once the computer has found no move
     std::string_view acting_;           // the opponent that chose last
+    OfferStrip* offer_ = nullptr;       // while it is made
     OddsNote* oddsNote_ = nullptr;      // once odds have been shown
     QPointer<QDialog> about_;
 };

@@ -105,7 +105,7 @@ OpponentStrip& FrmGame::Strip() {
         strip_ = new OpponentStrip(area_);
         area_->Place(strip_, opponentStripTwips);
         connect(strip_, &OpponentStrip::Changed, this, [this] {
-            panel_.MakeRoomForStrip(!strip_->isHidden());
+            MakeRoomForStrips();
             if (!running_) {
                 FollowComputer();
                 ShowNoMove();
@@ -113,6 +113,17 @@ OpponentStrip& FrmGame::Strip() {
         });
     }
     return *strip_;
+}
+
+// Those that tell of the game lie over the offer.
+void FrmGame::MakeRoomForStrips() {
+    bool room = false;
+    for (QWidget* strip : std::initializer_list<QWidget*>{offer_, noMove_, strip_}) {
+        if (strip == nullptr || strip->isHidden()) continue;
+        strip->raise();
+        room = true;
+    }
+    panel_.MakeRoomForStrip(room);
 }
 
 bool FrmGame::TellsMore() const { return strip_ != nullptr && strip_->HasMore(); }
@@ -147,7 +158,7 @@ void FrmGame::ShowNoMove() {
         board_->setFocus();
     }
     strip.setVisible(shows);
-    panel_.MakeRoomForStrip(shows || told);
+    MakeRoomForStrips();
 }
 
 void FrmGame::ShowThinking() {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/controls.h"
+#include "core/last_move.h"
 #include "core/path.h"
 #include "core/view_choices.h"
 #include "play/reach_marks.h"
@@ -23,6 +24,7 @@ struct ShownSquare {
     std::vector<SquareCode> codes;
     Color BackColor{0xFFFFFF};
     Color ForeColor{0x000080};
+    std::uint8_t terrain = 0;  ///< its code
 
     friend bool operator==(const ShownSquare&, const ShownSquare&) = default;
 };
@@ -49,6 +51,7 @@ struct ShownBoard {
     OfSquares<ShownSquare> squares;
     OfSquares<ReachMark> reach;  ///< on (0, 0): none
     std::vector<MarkedSquare> roles;
+    TurnTrace lastMove;
     QPoint highlight;
     Path hintWay;  ///< empty: there is no hint
     QString hintCaption;

@@ -64,11 +64,12 @@ constexpr MenuCommand OpponentsOfSide(std::string_view caption) {
 }
 
 template <bool ViewChoices::*what>
-constexpr MenuCommand ViewItem(std::string_view name, std::string_view caption) {
+constexpr MenuCommand ViewItem(std::string_view name, std::string_view caption,
+                               std::string_view shortcut = "") {
     return {.Menu = viewMenu,
             .Name = name,
             .Caption = caption,
-            .Shortcut = "",
+            .Shortcut = shortcut,
             .Click = [](Game& game) { ChooseToShow(game, what, !(game.view.*what)); },
             .Checkable = true,
             .Ticked = [](const Game& game) { return game.view.*what; }};
@@ -135,6 +136,11 @@ constexpr std::array menuCommands{
     ViewItem<&ViewChoices::sides>("mnuSides", "&Sides"),
     ViewItem<&ViewChoices::reach>("mnuReach", "&Reach"),
     ViewItem<&ViewChoices::odds>("mnuOdds", "&Odds"),
+    ViewItem<&ViewChoices::terrainPatterns>("mnuTerrainPatterns", "Terrain &Patterns"),
+    ViewItem<&ViewChoices::largeCodes>("mnuLargeCodes", "&Large Codes"),
+    ViewItem<&ViewChoices::coordinates>("mnuCoordinates", "&Coordinates"),
+    ViewItem<&ViewChoices::lastMove>("mnuLastMove", "Last &Move"),
+    ViewItem<&ViewChoices::fullScreen>("mnuFullScreen", "&Full Screen", "F11"),
     MenuCommand{playMenu, "mnuTakeBack", "&Take Back", "Ctrl+Z", nullptr, &Controls::mnuTakeBack},
     MenuCommand{playMenu, "mnuCancelMove", "&Cancel Move", "Esc", nullptr,
                 &Controls::mnuCancelMove},

@@ -14,6 +14,11 @@ constexpr std::array viewChoices{
     ViewChoice{"mnuSides", &ViewChoices::sides},
     ViewChoice{"mnuReach", &ViewChoices::reach},
     ViewChoice{"mnuOdds", &ViewChoices::odds},
+    ViewChoice{"mnuTerrainPatterns", &ViewChoices::terrainPatterns},
+    ViewChoice{"mnuLargeCodes", &ViewChoices::largeCodes},
+    ViewChoice{"mnuCoordinates", &ViewChoices::coordinates},
+    ViewChoice{"mnuLastMove", &ViewChoices::lastMove},
+    ViewChoice{"mnuFullScreen", &ViewChoices::fullScreen},
 };
 
 // The settings call it as the menu does, without the head of its name.

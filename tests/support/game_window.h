@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "shell/user_settings.h"
 #include "support/fake_ports.h"
 #include "support/played_game.h"
 #include "support/temp_folder.h"
@@ -91,6 +92,13 @@ protected:
         return squares;
     }
 
+    // Settings of somebody to whom no offer is made any more.
+    static FakeSettings AfterTheFirstGame() {
+        FakeSettings settings;
+        settings.values["QARN/Offer/" + GetUserKey(settings.loginName)] = "Made";
+        return settings;
+    }
+
     // Answers the boxes and dialogs that come up next, each with a key.
     void AnswerBoxes(std::deque<Qt::Key> keys) {
         if (keys.empty()) return;
@@ -112,7 +120,7 @@ protected:
     TempFolder folder;
     std::string path = folder / "game.tgf";
     FakeRandomNumbers random;
-    FakeSettings settings;
+    FakeSettings settings = AfterTheFirstGame();
     FakeFileTypes fileTypes;
     DesktopPorts desktop{settings, fileTypes, {folder / "program", folder / "data"}};
     std::unique_ptr<FrmGame> window = std::make_unique<FrmGame>(random, desktop);

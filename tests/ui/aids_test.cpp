@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QPainter>
 
+#include "support/colors.h"
 #include "support/game_window.h"
 #include "ui/code_layout.h"
 #include "window/view_choices.h"
@@ -52,6 +53,8 @@ TEST_F(GameWindow, IsThePlainBoardWithoutAids) {
     window->resize(1600, 1100);
     EXPECT_TRUE(isPlain());
     for (const ViewChoice& choice : AllViewChoices()) {
+        if (choice.Chosen == &ViewChoices::fullScreen) continue;
+        SCOPED_TRACE(choice.Item);
         QAction* item = MenuItem(std::string(choice.Item).c_str());
         item->trigger();
         ExpectBoardPainted();
@@ -121,6 +124,129 @@ TEST_F(GameWindow, TellsTheOddsOfTheEnemyPointedAt) {
               QAccessible::Notification);
     QTest::mouseMove(window->windowHandle(), PlaceOfSquare(17, 2).center());
     EXPECT_FALSE(Find("oddsNote")->isVisible());
+}
+
+// In a halo: each pixel of the letters has only letters and halo around it.
+TEST_F(GameWindow, PutsAHaloAroundLargeCodesThatAreHardToRead) {
+    Open("9,5=6 Q@9,5 10,5=1 WS@10,5 11,5=5 HF@11,5 12,5=0 LS@12,5 Z@17,2");
+    window->resize(1600, 1100);
+    board->clearFocus();
+    MenuItem("mnuLargeCodes")->trigger();
+    const QImage picture = Picture();
+    for (const int X : {9, 10, 11, 12}) {
+        const SquareLabel& label = window->ShownGame().controls.lbl[static_cast<std::size_t>(X)][5];
+        const QRgb ink = 0xFF000000 | label.ForeColor.rgb,
+                   ground = 0xFF000000 | label.BackColor.rgb;
+        const QRect place = PlaceOfSquare(X, 5).adjusted(4, 4, -4, -4);
+        int letters = 0, bare = 0;
+        double least = 21;
+        for (int x = place.left(); x <= place.right(); ++x) {
+            for (int y = place.top(); y <= place.bottom(); ++y) {
+                if (picture.pixel(x, y) != ink) continue;
+                ++letters;
+                for (const QPoint beside :
+                     {QPoint(2, 0), QPoint(-2, 0), QPoint(0, 2), QPoint(0, -2)}) {
+                    const QRgb there = picture.pixel(QPoint(x, y) + beside);
+                    if (there == ground) ++bare;
+                    if (there == 0xFFFFFFFF || there == 0xFF000000) {
+                        least = std::min(least, Contrast(there, ink));
+                    }
+                }
+            }
+        }
+        EXPECT_GT(letters, 40) << X;
+        EXPECT_EQ(bare == 0, Contrast(ink, ground) < 4.5) << X;
+        EXPECT_GE(least, 4.5) << X;
+    }
+}
+
+TEST_F(GameWindow, WritesCoordinatesAtTheEdgesOnly) {
+    Open("9,5=0 Q@9,5 Z@17,2");
+    board->clearFocus();
+    const QImage before = Picture();
+    MenuItem("mnuCoordinates")->trigger();
+    const QImage after = Picture();
+    for (int X = 1; X <= columnCount; ++X) {
+        for (int Y = 1; Y <= rowCount; ++Y) {
+            const bool edge = X == 1 || X == columnCount || Y == 1 || Y == rowCount;
+            const QRect place = PlaceOfSquare(X, Y);
+            EXPECT_EQ(before.copy(place) != after.copy(place), edge) << X << "," << Y;
+        }
+    }
+}
+
+TEST_F(GameWindow, ShowsTheLastMoveUntilTheNextClick) {
+    constexpr QRgb burst = 0xE84000;
+    Open("14,10=0 15,10=0 16,10=0 Q@14,10 WS@14,10 ZA1@16,10 Z@17,2");
+    window->resize(1600, 1100);
+    MenuItem("mnuLastMove")->trigger();
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(14, 10);
+    Key(Qt::Key_S, Qt::AltModifier);
+    ClickSquare(15, 10);
+    random.QueueRoll(4);
+    AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
+    ClickSquare(16, 10);
+    EXPECT_EQ(SquaresWith(burst), "") << "It is still one's own move.";
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
+    EXPECT_EQ(SquaresWith(burst), "16,10 ");
+    const LastMove& last = window->ShownGame().record.LastMove;
+    EXPECT_EQ(last.shown.path, (Path{{14, 10}, {15, 10}}));
+    ExpectBoardPainted();
+    ClickSquare(1, 1);
+    EXPECT_EQ(SquaresWith(burst), "");
+    ExpectBoardPainted();
+}
+
+TEST_F(GameWindow, OffersAidsInTheFirstGameOnly) {
+    settings.values.clear();
+    Open("Q@9,5 WS@9,5 Z@17,2");
+    ASSERT_TRUE(Find("offerStrip")->isVisible());
+    EXPECT_LT(Find("lblStatus")->geometry().right(), Find("offerStrip")->geometry().left());
+    EXPECT_EQ(Focus(), "board");
+    Key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_FALSE(Button("takeOffer")->isEnabled());
+    ClickSquare(9, 5);
+    Key(Qt::Key_S, Qt::AltModifier);
+    Key(Qt::Key_M, Qt::AltModifier);
+    Button("takeOffer")->click();
+    QApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(Find("offerStrip"), nullptr);
+    ViewChoices offered;
+    offered.sides = offered.reach = offered.odds = true;
+    EXPECT_EQ(window->ShownGame().view, offered);
+    EXPECT_TRUE(window->ShownGame().record.house.ownGroupsOnly);
+
+    window = std::make_unique<FrmGame>(random, desktop);
+    Open("Q@9,5 Z@17,2");
+    EXPECT_EQ(Find("offerStrip"), nullptr);
+    EXPECT_TRUE(window->ShownGame().view == offered);
+}
+
+TEST_F(GameWindow, GoesToOwnGroupsAndTicksBoxesByKeys) {
+    Open("9,5=0 Q@9,5 WS@9,5 HF@3,7 S@16,1 BT@2,2 Z@17,2 SK@17,9");
+    std::string walk;
+    const auto go = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        Key(key, modifiers);
+        walk +=
+            std::to_string(board->Cursor().x()) + "," + std::to_string(board->Cursor().y()) + " ";
+    };
+    Button("cmdMove")->setFocus();
+    for (int i = 0; i < 4; ++i) go(Qt::Key_N);
+    go(Qt::Key_N, Qt::ShiftModifier);
+    go(Qt::Key_Home);
+    go(Qt::Key_End);
+    EXPECT_EQ(walk, "3,7 17,9 9,5 3,7 9,5 1,5 18,5 ");
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(9, 5);
+    Key(Qt::Key_2);
+    EXPECT_TRUE(Button("chkItems(1)")->isChecked());
+    EXPECT_FALSE(window->ShownGame().controls.chkItems[2].Value);
+    Key(Qt::Key_3);
+    Key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Text("lblStatus"), "You have 3 mobility units.\nSelect your destination.");
 }
 
 }  // namespace

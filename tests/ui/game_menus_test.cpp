@@ -43,6 +43,11 @@ TEST_F(GameWindow, HasItsMenus) {
   &Sides  
   &Reach  
   &Odds  
+  Terrain &Patterns  
+  &Large Codes  
+  &Coordinates  
+  Last &Move  
+  &Full Screen  F11
 &Play  
   &Take Back  Ctrl+Z
   &Cancel Move  Esc
