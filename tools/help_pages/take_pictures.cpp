@@ -6,11 +6,13 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <cstdio>
 #include <deque>
 #include <filesystem>
+#include <set>
 
 #include "core/file_store.h"
 #include "core/game_file.h"
@@ -92,11 +94,26 @@ void TakeStartWindow(const fs::path& folder) {
     Save(folder, "scenario", window.grab());
 }
 
+/// Somebody who has been offered the aids, and has chosen some.
+class ChosenAids : public NoSettings {
+public:
+    explicit ChosenAids(std::set<std::string> aids) : aids_(std::move(aids)) {}
+    std::string Read(const std::string&, const std::string& section, const std::string&,
+                     const std::string& defaultValue) override {
+        if (section == "Offer") return "Made";
+        return aids_.contains(section) ? "True" : defaultValue;
+    }
+
+private:
+    std::set<std::string> aids_;
+};
+
 class Photographer {
 public:
-    Photographer(fs::path folder, std::deque<int> rolls)
+    Photographer(fs::path folder, std::deque<int> rolls, std::set<std::string> aids = {})
         : folder_(std::move(folder)),
           random_(std::move(rolls)),
+          settings_(std::move(aids)),
           window_(random_, {settings_, fileTypes_, {}}) {
         const fs::path file = fs::temp_directory_path() / "First try.tgf";
         std::string game = NewGameText("HM", {{{"Marit", false}, {"Ansel", false}}});
@@ -109,6 +126,13 @@ public:
 
     void Click(int X, int Y) {
         emit Board()->SquareClicked(X, Y);
+        LetWindowsSettle();
+    }
+
+    void PointAt(int X, int Y) {
+        QMouseEvent moves(QEvent::MouseMove, Board()->PlaceOfSquare({X, Y}).center(),
+                          QCursor::pos(), Qt::NoButton, {}, {});
+        QApplication::sendEvent(Board(), &moves);
         LetWindowsSettle();
     }
 
@@ -145,13 +169,15 @@ private:
 
     fs::path folder_;
     GivenRolls random_;
-    NoSettings settings_;
+    ChosenAids settings_;
     NoFileTypes fileTypes_;
     FrmGame window_;
     std::deque<std::string> boxes_;
 };
 
 constexpr QRect boardBelow{8 + 48 * 9, 8 + 64 * 5, 48 * 7, 64 * 5};
+constexpr QRect boardAbove{8 + 48 * 9, 8 + 64 * 3, 48 * 7, 64 * 5};
+constexpr QRect besideStatus{440, 560, 576, 136};
 constexpr QRect boxesAndButtons{872, 355, 144, 300};
 
 // The Hero's company walks to the river, and the corsairs row up to it.
@@ -176,8 +202,6 @@ void PlayToTheRiver(Photographer& photographer, bool take) {
 
 void TakeWonGame(const fs::path& folder) {
     Photographer photographer(folder, {2, 5});
-    photographer.TakeWindow("game", columnOfPage);
-    photographer.TakeWindow("welcome", 460);
     photographer.Press("cmdSquareDetails");
     photographer.Click(14, 7);
     photographer.Take("square-information", {8 + 48 * 11, 216, 480, 368});
@@ -203,6 +227,31 @@ void TakeLostGame(const fs::path& folder) {
     photographer.Take("casualty", boxesAndButtons);
 }
 
+void TakeAids(const fs::path& folder) {
+    Photographer photographer(folder, {5}, {"Sides", "Reach", "Odds", "LastMove"});
+    photographer.TakeWindow("welcome", 460);
+    photographer.Press("cmdMove");
+    photographer.Click(14, 7);
+    photographer.Press("cmdDoneSel");
+    photographer.TakeWindow("game", columnOfPage);
+    photographer.Take("reach", boardAbove);
+    photographer.PointAt(11, 5);
+    photographer.Take("odds-ahead", besideStatus);
+    photographer.Press("cmdMove");
+    photographer.Press("cmdMove");
+    photographer.Click(11, 10);
+    photographer.Press("cmdDoneSel");
+    photographer.Click(11, 9);
+    photographer.Click(12, 9);
+    photographer.Press("cmdMove");
+    photographer.PointAt(1, 5);
+    photographer.Take("last-move", boardBelow);
+
+    Photographer plain(folder, {}, {"TerrainPatterns", "LargeCodes", "Coordinates"});
+    plain.PointAt(1, 5);
+    plain.Take("patterns", {440, 0, 576, 280});
+}
+
 }  // namespace
 }  // namespace qarn
 
@@ -215,5 +264,6 @@ int main(int argc, char* argv[]) {
     qarn::TakeStartWindow(argv[1]);
     qarn::TakeWonGame(argv[1]);
     qarn::TakeLostGame(argv[1]);
+    qarn::TakeAids(argv[1]);
     return 0;
 }
