@@ -1,14 +1,14 @@
 #include "core/file_store.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <optional>
-#include <utility>
+
+#include "core/open_file.h"
 
 namespace qarn {
 namespace {
@@ -18,66 +18,19 @@ namespace fs = std::filesystem;
 constexpr std::size_t largestFile = 1 << 20;
 constexpr std::string_view saveName = ".qarn-save-";
 
-[[noreturn]] void Fail(const std::string& path) {
-    throw std::system_error(errno, std::generic_category(), path);
-}
-
-class OpenFile {
+// Its message is what people read; its values are those of errno.
+class NoOrdinaryFile : public std::error_category {
 public:
-    OpenFile(const std::string& path, int flags, mode_t mode = 0)
-        : path_(path), descriptor_(open(path.c_str(), flags | O_CLOEXEC, mode)) {
-        if (descriptor_ < 0) Fail(path);
-    }
-    OpenFile(OpenFile&& other) noexcept
-        : path_(std::move(other.path_)), descriptor_(std::exchange(other.descriptor_, -1)) {}
-    OpenFile& operator=(const OpenFile&) = delete;
-    ~OpenFile() {
-        if (descriptor_ >= 0) close(descriptor_);
-    }
-
-    const std::string& Path() const { return path_; }
-    int Descriptor() const { return descriptor_; }
-
-    struct stat Status() const {
-        struct stat status {};
-        if (fstat(descriptor_, &status) != 0) Fail(path_);
-        return status;
-    }
-
-    std::string ReadAll(std::size_t size) const {
-        std::string contents(size, '\0');
-        std::size_t done = 0;
-        while (done < size) {
-            const ssize_t count = read(descriptor_, contents.data() + done, size - done);
-            if (count < 0 && errno == EINTR) continue;
-            if (count < 0) Fail(path_);
-            if (count == 0) break;
-            done += static_cast<std::size_t>(count);
-        }
-        contents.resize(done);
-        return contents;
-    }
-
-    void WriteAll(std::string_view contents) const {
-        while (!contents.empty()) {
-            const ssize_t count = write(descriptor_, contents.data(), contents.size());
-            if (count < 0 && errno == EINTR) continue;
-            if (count < 0) Fail(path_);
-            contents.remove_prefix(static_cast<std::size_t>(count));
-        }
-    }
-
-    // Some file systems report a failed write only to a close. A copy is closed: the lock stays.
-    void Flush() const {
-        if (fsync(descriptor_) != 0) Fail(path_);
-        const int copy = dup(descriptor_);
-        if (copy < 0 || close(copy) != 0) Fail(path_);
-    }
-
-private:
-    std::string path_;
-    int descriptor_;
+    const char* name() const noexcept override { return "file"; }
+    std::string message(int) const override { return "It is not an ordinary file"; }
 };
+
+// A device or a pipe could take what is written, or never end.
+void RequireOrdinary(const struct stat& file, const std::string& path) {
+    static const NoOrdinaryFile noOrdinaryFile;
+    if (S_ISDIR(file.st_mode)) throw std::system_error(EISDIR, std::generic_category(), path);
+    if (!S_ISREG(file.st_mode)) throw std::system_error(EINVAL, noOrdinaryFile, path);
+}
 
 // The file that a path of symbolic links leads to, whether it exists yet or not.
 fs::path FollowLinks(fs::path path) {
@@ -94,13 +47,13 @@ fs::path FollowLinks(fs::path path) {
 std::optional<struct stat> StatusOf(const fs::path& path) {
     struct stat status {};
     if (stat(path.c_str(), &status) == 0) return status;
-    if (errno != ENOENT) Fail(path.string());
+    if (errno != ENOENT) FailOn(path.string());
     return std::nullopt;
 }
 
 // Renaming over a file needs no permission to write that file, so it is asked for here.
 void RequireWritable(const fs::path& path) {
-    if (access(path.c_str(), W_OK) != 0) Fail(path.string());
+    if (access(path.c_str(), W_OK) != 0) FailOn(path.string());
 }
 
 fs::path NameBeside(const fs::path& path, int n) {
@@ -116,14 +69,16 @@ bool IsNameOfSave(const std::string& name) {
 // Makes a new file and locks it. Its lock shows that it has an owner, until that closes it or is
 // killed. Where the file system knows no locks, no file is ever taken for abandoned.
 OpenFile CreateBeside(const fs::path& path) {
-    for (int n = 0;; ++n) {
+    constexpr int mostTries = 100;
+    for (int tries = 1;; ++tries) {
+        const fs::path name = NameBeside(path, tries);
         try {
-            OpenFile file(NameBeside(path, n).string(), O_WRONLY | O_CREAT | O_EXCL, 0666);
-            flock(file.Descriptor(), LOCK_EX);
+            OpenFile file(name.string(), O_WRONLY | O_CREAT | O_EXCL, 0666);
+            file.Lock(true);
             const bool removedBeforeItWasLocked = file.Status().st_nlink == 0;
             if (!removedBeforeItWasLocked) return file;
         } catch (const std::system_error& error) {
-            if (error.code() != std::errc::file_exists) throw;
+            if (error.code() != std::errc::file_exists || tries == mostTries) throw;
         }
     }
 }
@@ -138,8 +93,7 @@ void RemoveUnlessOwned(const std::string& path) {
     try {
         const OpenFile file(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
         const struct stat status = file.Status();
-        const bool abandoned =
-            S_ISREG(status.st_mode) && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0;
+        const bool abandoned = S_ISREG(status.st_mode) && file.Lock(false);
         // The lock belongs to the file, and the name may be another file's by now.
         if (abandoned && StandsAt(path, status)) unlink(path.c_str());
     } catch (const std::system_error&) {
@@ -150,9 +104,9 @@ void RemoveUnlessOwned(const std::string& path) {
 void KeepOwnerAndPermissions(const OpenFile& file, const struct stat& old) {
     // Only root may give a file away: where it cannot be done the new file belongs to the writer.
     [[maybe_unused]] const int owned = fchown(file.Descriptor(), old.st_uid, old.st_gid);
-    if (fchmod(file.Descriptor(), old.st_mode & 07777u) != 0) {
-        throw std::system_error(errno, std::generic_category());
-    }
+    if (fchmod(file.Descriptor(), old.st_mode & 07777u) == 0) return;
+    const bool unknownThere = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
+    if (!unknownThere) FailOn(file.Path());
 }
 
 void WriteNewFile(const OpenFile& file, std::string_view contents,
@@ -162,12 +116,15 @@ void WriteNewFile(const OpenFile& file, std::string_view contents,
     file.Flush();
 }
 
-// Makes the rename itself survive a power cut. Some file systems do not offer it for folders.
+// Makes the rename itself survive a power cut. Some file systems do not offer it for folders, and
+// some folders can be written but not read.
 void FlushFolder(const fs::path& folder) {
-    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    fsync(descriptor);
-    close(descriptor);
+    try {
+        OpenFile(folder.string(), O_RDONLY | O_DIRECTORY).Flush();
+    } catch (const std::system_error& error) {
+        const int reason = error.code().value();
+        if (reason != EACCES && reason != EINVAL && reason != EOPNOTSUPP && reason != ENOSYS) throw;
+    }
 }
 
 }  // namespace
@@ -176,8 +133,7 @@ std::string ReadWholeFile(const std::string& path) {
     // Without O_NONBLOCK, opening a pipe would wait for its writer.
     const OpenFile file(path, O_RDONLY | O_NONBLOCK);
     const struct stat status = file.Status();
-    if (S_ISDIR(status.st_mode)) throw std::system_error(EISDIR, std::generic_category(), path);
-    if (!S_ISREG(status.st_mode)) throw std::system_error(EINVAL, std::generic_category(), path);
+    RequireOrdinary(status, path);
     const auto size = static_cast<std::size_t>(status.st_size);
     if (size > largestFile) throw std::system_error(EFBIG, std::generic_category(), path);
     return file.ReadAll(size);
@@ -197,14 +153,13 @@ bool ReplaceFile(const std::string& path, std::string_view contents,
     const OpenFile fresh = CreateBeside(target);
     try {
         WriteNewFile(fresh, contents, old);
-        const bool replaced = mayReplace();
-        if (!replaced) {
+        if (!mayReplace()) {
             unlink(fresh.Path().c_str());
-        } else if (rename(fresh.Path().c_str(), target.c_str()) != 0) {
-            Fail(target.string());
+            return false;
         }
+        if (rename(fresh.Path().c_str(), target.c_str()) != 0) FailOn(target.string());
         FlushFolder(target.parent_path());
-        return replaced;
+        return true;
     } catch (...) {
         unlink(fresh.Path().c_str());
         throw;
@@ -221,7 +176,7 @@ void RemoveAbandonedSaves(const std::string& folder) {
 }
 
 void DeleteFile(const std::string& path) {
-    if (unlink(path.c_str()) != 0 && errno != ENOENT) Fail(path);
+    if (unlink(path.c_str()) != 0 && errno != ENOENT) FailOn(path);
 }
 
 }  // namespace qarn

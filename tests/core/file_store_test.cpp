@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 #include <functional>
-#include <random>
 
 #include "support/temp_folder.h"
 
@@ -119,38 +118,6 @@ TEST(FileStore, ReadsOnlyWholeOrdinaryFiles) {
     EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder / "none"); }), ENOENT);
     EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder.Path()); }), EISDIR);
     EXPECT_EQ(ErrorOf([&] { ReadWholeFile(pipe); }), EINVAL);
-}
-
-// Whatever the instant at which the program is killed, the old file is there or the new one, whole;
-// and what was left lying about goes with the next save.
-TEST(FileStore, KilledAtAnyInstant) {
-    TempFolder folder;
-    const std::string file = folder / "game";
-    const std::string one(100'000, '1'), other(100'000, '2');
-    WriteFile(file, one);
-    std::mt19937 random;
-    int killedWhileSaving = 0;
-    for (int round = 0; round < 60; ++round) {
-        const pid_t child = fork();
-        if (child == 0) {
-            for (;;) {
-                ReplaceFile(file, other);
-                ReplaceFile(file, one);
-            }
-        }
-        usleep(std::uniform_int_distribution<useconds_t>(500, 10'000)(random));
-        kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-        if (EntriesIn(folder.Path()) > 1) ++killedWhileSaving;
-        const std::string found = ReadFile(file);
-        ASSERT_TRUE(found == one || found == other) << found.size() << " bytes";
-    }
-    EXPECT_GT(killedWhileSaving, 0);
-    ReplaceFile(file, "saved");
-    EXPECT_EQ(ReadFile(file), "saved");
-    EXPECT_EQ(EntriesIn(folder.Path()), 1u);
 }
 
 TEST(FileStore, RemovesAbandonedSavesOnly) {
