@@ -5,8 +5,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
+#include <random>
 
 #include "core/open_file.h"
 
@@ -56,14 +58,17 @@ void RequireWritable(const fs::path& path) {
     if (access(path.c_str(), W_OK) != 0) FailOn(path.string());
 }
 
-fs::path NameBeside(const fs::path& path, int n) {
-    return path.parent_path() /
-           (std::string(saveName) + std::to_string(getpid()) + "-" + std::to_string(n));
+// Nobody can tell it beforehand, so nobody can have put anything in its place.
+std::string RandomName() {
+    std::random_device random;
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%08x%08x", random(), random());
+    return std::string(saveName) + digits;
 }
 
 bool IsNameOfSave(const std::string& name) {
-    return name.starts_with(saveName) &&
-           name.find_first_not_of("0123456789-", saveName.size()) == std::string::npos;
+    return name.size() == saveName.size() + 16 && name.starts_with(saveName) &&
+           name.find_first_not_of("0123456789abcdef", saveName.size()) == std::string::npos;
 }
 
 // Makes a new file and locks it. Its lock shows that it has an owner, until that closes it or is
@@ -71,9 +76,9 @@ bool IsNameOfSave(const std::string& name) {
 OpenFile CreateBeside(const fs::path& path) {
     constexpr int mostTries = 100;
     for (int tries = 1;; ++tries) {
-        const fs::path name = NameBeside(path, tries);
+        const fs::path name = path.parent_path() / RandomName();
         try {
-            OpenFile file(name.string(), O_WRONLY | O_CREAT | O_EXCL, 0666);
+            OpenFile file(name.string(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0666);
             file.Lock(true);
             const bool removedBeforeItWasLocked = file.Status().st_nlink == 0;
             if (!removedBeforeItWasLocked) return file;
@@ -151,17 +156,21 @@ bool ReplaceFile(const std::string& path, std::string_view contents,
     RemoveAbandonedSaves(target.parent_path().string());
 
     const OpenFile fresh = CreateBeside(target);
+    const struct stat created = fresh.Status();
+    const auto removeCreated = [&] {
+        if (StandsAt(fresh.Path(), created)) unlink(fresh.Path().c_str());
+    };
     try {
         WriteNewFile(fresh, contents, old);
         if (!mayReplace()) {
-            unlink(fresh.Path().c_str());
+            removeCreated();
             return false;
         }
         if (rename(fresh.Path().c_str(), target.c_str()) != 0) FailOn(target.string());
         FlushFolder(target.parent_path());
         return true;
     } catch (...) {
-        unlink(fresh.Path().c_str());
+        removeCreated();
         throw;
     }
 }

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <functional>
+#include <set>
 
 #include "support/temp_folder.h"
 
@@ -122,11 +123,11 @@ TEST(FileStore, ReadsOnlyWholeOrdinaryFiles) {
 
 TEST(FileStore, RemovesAbandonedSavesOnly) {
     TempFolder folder;
-    WriteFile(folder / ".qarn-save-4711-0", "left by somebody who was killed");
+    WriteFile(folder / ".qarn-save-0123456789abcdef", "left by somebody who was killed");
     WriteFile(folder / ".qarn-save-notes", "a person's own");
-    fs::create_directory(folder.Path() / ".qarn-save-1-0");
-    fs::create_symlink(".qarn-save-notes", folder / ".qarn-save-2-0");
-    ASSERT_EQ(mkfifo((folder / ".qarn-save-3-0").c_str(), 0600), 0);
+    fs::create_directory(folder.Path() / ".qarn-save-1123456789abcdef");
+    fs::create_symlink(".qarn-save-notes", folder / ".qarn-save-2123456789abcdef");
+    ASSERT_EQ(mkfifo((folder / ".qarn-save-3123456789abcdef").c_str(), 0600), 0);
 
     std::size_t entriesMeanwhile = 0;
     const auto otherProgramsCome = [&] {
@@ -145,6 +146,39 @@ TEST(FileStore, RemovesAbandonedSavesOnly) {
     EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "game", "newer", fail); }), EIO);
     EXPECT_EQ(ReadFile(folder / "game"), "new");
     EXPECT_EQ(EntriesIn(folder.Path()), 6u);
+}
+
+// The only entry of the folder that is new since `known`.
+fs::path NewEntry(const fs::path& folder, const std::set<fs::path>& known) {
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        if (!known.contains(entry.path())) return entry.path();
+    }
+    return {};
+}
+
+// Nobody can plant anything under the name that a save takes, nor have it remove what is theirs.
+TEST(FileStore, TemporaryNamesAreNobodysToKnow) {
+    TempFolder folder;
+    const std::string file = folder / "game";
+    WriteFile(file, "old");
+    std::set<fs::path> known{file};
+    for (int save = 0; save < 2; ++save) {
+        ReplaceFile(file, "new", [&] {
+            const fs::path created = NewEntry(folder.Path(), known);
+            EXPECT_NE(created, fs::path()) << "the same name twice";
+            EXPECT_EQ(created.string().find(std::to_string(getpid())), std::string::npos);
+            known.insert(created);
+            return true;
+        });
+    }
+    ReplaceFile(file, "newer", [&] {
+        const fs::path created = NewEntry(folder.Path(), known);
+        fs::remove(created);
+        WriteFile(created, "somebody's");
+        known.insert(created);
+        return false;
+    });
+    EXPECT_EQ(EntriesIn(folder.Path()), 2u) << "somebody's is still there";
 }
 
 }  // namespace

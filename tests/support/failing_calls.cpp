@@ -71,7 +71,7 @@ int open(const char* path, int flags, ...) {
     const auto mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
     const bool folder = (flags & O_DIRECTORY) != 0;
-    const bool safely = (flags & O_EXCL) != 0;
+    const bool safely = (flags & O_EXCL) != 0 && (flags & O_NOFOLLOW) != 0;
     if (folder && qarn::Fails("open folder")) return -1;
     if ((flags & O_CREAT) != 0 && qarn::Fails(safely ? "create" : "create carelessly")) return -1;
     return qarn::Real(open, "open")(path, flags, mode);

@@ -48,14 +48,14 @@ TEST_F(LoadGame, NewGame) {
 
 // What is saved is what was loaded, to the byte. The text is the test's own.
 TEST_F(LoadGame, SavedGamesComeBack) {
-    WriteFile(played.folder / ".qarn-save-1-0", "left by a program that was killed");
+    WriteFile(played.folder / ".qarn-save-0123456789abcdef", "left by a program that was killed");
     const std::string position = "turn2 J@1,1 WA@15,4 CT@18,10 BT@3,7 15,4=4";
     for (const auto& [line, text] : {std::pair{2, Padded("Red") + "False"},
                                      {2, std::string(54, 'R') + "True"},
                                      {3, Padded("\x80uro Zo\xEB") + "True"}}) {
         const std::string saved = WithLine(SavedGame(position), line, text);
         Open(saved);
-        EXPECT_FALSE(std::filesystem::exists(played.folder / ".qarn-save-1-0"));
+        EXPECT_FALSE(std::filesystem::exists(played.folder / ".qarn-save-0123456789abcdef"));
         EXPECT_EQ(record.People[12].Name, "Sentinel");
         EXPECT_EQ(CaptionOfSquare(played.game, 1, 1), "J    ");
         EXPECT_EQ(controls.lbl[15][4].BackColor, Color{0xFFFF00});
