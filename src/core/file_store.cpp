@@ -152,7 +152,10 @@ bool ReplaceFile(const std::string& path, std::string_view contents,
                  const std::function<bool()>& mayReplace) {
     const fs::path target = FollowLinks(fs::absolute(path));
     const std::optional<struct stat> old = StatusOf(target);
-    if (old) RequireWritable(target);
+    if (old) {
+        RequireOrdinary(*old, target.string());
+        RequireWritable(target);
+    }
     RemoveAbandonedSaves(target.parent_path().string());
 
     const OpenFile fresh = CreateBeside(target);

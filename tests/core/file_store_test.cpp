@@ -81,9 +81,13 @@ TEST(FileStore, RefusalsLeaveEverythingAsItWas) {
     fs::create_symlink("b", folder / "a");
     fs::create_symlink("a", folder / "b");
     fs::create_directory(folder.Path() / "folder");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    fs::create_symlink("pipe", folder / "link to a pipe");
     for (const auto& [path, error] : {std::pair{folder / "none/game", ENOENT},
                                       {file + "/game", ENOTDIR},
                                       {folder / "folder", EISDIR},
+                                      {folder / "pipe", EINVAL},
+                                      {folder / "link to a pipe", EINVAL},
                                       {folder / "a", ELOOP},
                                       {folder / std::string(300, 'n'), ENAMETOOLONG}}) {
         EXPECT_EQ(ErrorOf([&] { ReplaceFile(path, "new"); }), error) << path;
@@ -105,7 +109,8 @@ TEST(FileStore, RefusalsLeaveEverythingAsItWas) {
     };
     EXPECT_EQ(ErrorInChild(fillTheDisk), EFBIG);
     EXPECT_EQ(ReadFile(file), "old");
-    EXPECT_EQ(EntriesIn(folder.Path()), 4u);
+    EXPECT_EQ(EntriesIn(folder.Path()), 6u);
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
 TEST(FileStore, ReadsOnlyWholeOrdinaryFiles) {
