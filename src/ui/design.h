@@ -32,6 +32,7 @@ inline constexpr QRect takeOfferTwips(4200, 75, 1290, 390);
 inline constexpr QRect declineOfferTwips(5550, 75, 1095, 390);
 // Between the status line and the panel.
 inline constexpr QRect oddsNoteTwips(9090, 9810, 4110, 540);
+// On the strip, where the computer has found no move.
 inline constexpr QRect noMoveTextTwips(90, 30, 2850, 480);
 inline constexpr QRect cmdPassItsTurnTwips(2985, 83, 1650, 375);
 inline constexpr QRect cmdOtherOpponentTwips(4755, 83, 1875, 375);

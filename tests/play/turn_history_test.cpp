@@ -129,7 +129,7 @@ private:
 
 TEST(TurnHistory, GivesTheVeryGameBeforeAnyEventOfATurn) {
     int turns = 0, takenBack = 0;
-    for (unsigned seed = 1; turns < 3000; ++seed) {
+    for (unsigned seed = 1; turns < 2000; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         TakenBackGame game(1 + static_cast<int>(seed % scenarioCount), seed);
         for (int event = 0; event < 3000 && !game.IsOver(); ++event) {
