@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "ai/hint.h"
@@ -17,6 +18,7 @@ struct Answers {
     std::optional<std::vector<ReachedSquare>> reach;
     std::optional<OddsAnswer> odds;
     std::optional<Hint> hint;
+    std::optional<std::vector<std::string>> journal;  ///< its lines
 };
 
 /// What an attack that a hint tells of would come to.

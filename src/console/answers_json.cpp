@@ -77,6 +77,7 @@ void AddAnswers(Json& object, const Answers& answers) {
         object["odds"] = {{"command", ToJson(answers.odds->command)},
                           {"direct", ToJson(answers.odds->direct)}};
     }
+    if (answers.journal) object["journal"] = *answers.journal;
     object["hint"] = answers.hint ? ToJson(*answers.hint) : Json(nullptr);
 }
 

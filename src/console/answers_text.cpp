@@ -27,6 +27,9 @@ void PrintAttack(std::ostream& out, const std::optional<AttackOdds>& attack) {
 }  // namespace
 
 void PrintAnswers(std::ostream& out, const Answers& answers) {
+    if (answers.journal) {
+        for (const std::string& line : *answers.journal) out << line << '\n';
+    }
     if (answers.reach) PrintReach(out, *answers.reach);
     if (answers.odds) {
         out << "By the Attack command, ";

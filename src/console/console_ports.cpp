@@ -53,6 +53,7 @@ Answer ConsoleDialogs::Ask(const MessageBox& box) {
 
 void ConsoleDialogs::ShowAnswered(const MessageBox& box, Answer answer) {
     if (tellPerson_) tellPerson_(box, answer);
+    if (noteAnswered_) noteAnswered_(box, answer);
     shown_.push_back({box, answer});
 }
 

@@ -49,6 +49,9 @@ public:
     /// Shows a person every box that an opponent has answered itself.
     void SetTellPerson(TellPerson tell) { tellPerson_ = std::move(tell); }
 
+    /// Notes the same boxes for the session.
+    void SetNoteAnswered(TellPerson note) { noteAnswered_ = std::move(note); }
+
     /// The boxes shown since the last call.
     std::vector<ShownBox> TakeShown() { return std::exchange(shown_, {}); }
 
@@ -61,6 +64,7 @@ private:
     std::string saveFileName_;
     AskPerson askPerson_;
     TellPerson tellPerson_;
+    TellPerson noteAnswered_;
     std::vector<ShownBox> shown_;
 };
 

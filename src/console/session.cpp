@@ -15,8 +15,11 @@
 #include "core/game_file.h"
 #include "core/opponents.h"
 #include "play/play_menu.h"
+#include "play/keep_journal.h"
+#include "play/tell_journal.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
+#include "shell/kept_journal.h"
 #include "shell/kept_opponents.h"
 #include "window/board_clicks.h"
 #include "window/buttons.h"
@@ -111,10 +114,13 @@ Session::Session(const DesktopPorts& desktop)
             .ports = {dialogs_, random_, help_, desktop.settings, desktop.fileTypes,
                       desktop.folders}} {
     LoadHouseRules(game_);
+    game_.afterSave = [this] { KeepJournal(journal_, game_); };
+    dialogs_.SetNoteAnswered(
+        [this](const MessageBox& box, Answer answer) { NoteAnswered(box, answer); });
 }
 
 std::span<const Session::Command> Session::Commands() {
-    static constexpr std::array<Command, 24> commands{{
+    static constexpr std::array<Command, 25> commands{{
         {"new", 6, 6, false, &Session::New},
         {"open", 1, 1, false, &Session::Open},
         {"click", 2, 2, true, &Session::Click},
@@ -138,6 +144,7 @@ std::span<const Session::Command> Session::Commands() {
         {"pass", 0, 0, true, &Session::ChooseInMenuPlay},
         {"resign", 0, 0, true, &Session::ChooseInMenuPlay},
         {"draw", 0, 0, true, &Session::ChooseInMenuPlay},
+        {"journal", 0, 0, true, &Session::AskJournal},
         {"close", 0, 0, true, &Session::Close},
     }};
     return commands;
@@ -182,6 +189,7 @@ void Session::New(const Words& words) {
         try {
             ReplaceFile(path, text);
             KeepOpponents(game_.ports, path, {"", classicOpponent, classicOpponent});
+            ForgetJournal(game_.ports, path);
         } catch (const std::system_error& error) {
             throw SaveError("The new game can not be written. " + error.code().message() + ".\n" +
                             path);
@@ -202,6 +210,7 @@ void Session::Load(const std::string& path, const std::function<void()>& prepare
         Form_Load(game, path);
         opened = true;
     });
+    if (game_.blnOpen) journal_ = JournalOf(game_);
     if (!opened && !game_.blnEnded) throw Refusal("The game could not be opened.");
 }
 
@@ -345,6 +354,8 @@ void Session::ChooseInMenuPlay(const Words& words) {
     ChooseMenu({"menu", item->second});
 }
 
+void Session::AskJournal(const Words&) { answers_.journal = TellJournal(journal_, game_); }
+
 void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
 
 // ---- Events ----
@@ -356,6 +367,11 @@ void Session::Run(std::string_view name, const std::function<void(Game&)>& handl
 
 void Session::NoteHappenings() {
     happenings_.insert(happenings_.end(), game_.happenings.begin(), game_.happenings.end());
+    FollowEvent(journal_, game_);
+}
+
+void Session::NoteAnswered(const MessageBox& box, Answer answer) {
+    NoteSaid(journal_, game_.opponent.at(game_.record.bytTurn), box, answer);
 }
 
 }  // namespace qarn

@@ -10,6 +10,7 @@
 #include "console/answers.h"
 #include "console/console_ports.h"
 #include "core/game.h"
+#include "play/journal.h"
 #include "play/turn_history.h"
 
 namespace qarn {
@@ -68,12 +69,14 @@ private:
     void AskOdds(const Words& words);
     void AskHint(const Words& words);
     void ChooseInMenuPlay(const Words& words);
+    void AskJournal(const Words& words);
     void Close(const Words& words);
 
     void ExecuteOrThrow(const Words& words);
     void Run(std::string_view name, const std::function<void(Game&)>& handler);
     void Load(const std::string& path, const std::function<void()>& prepare);
     void NoteHappenings();
+    void NoteAnswered(const MessageBox& box, Answer answer);
     void PressTerrainDetails(std::string_view name);
     void SetTick(const std::string& word, bool ticked);
     void RequireRunning() const;
@@ -83,6 +86,7 @@ private:
     ConsoleHelp help_;
     Game game_;
     TurnHistory history_;
+    Journal journal_;
     Happenings happenings_;
     Answers answers_;
 };

@@ -142,6 +142,7 @@ void PrintHelp(std::ostream& out) {
   reach            which squares the group that moves can still reach
   reach X Y        which squares the whole stack on that square could reach
   odds X1 Y1 X2 Y2 what an attack from the first square on the second would bring
+  journal          the story of the game so far, turn by turn, and the luck of both sides
   hint             what the strongest opponent would do in this turn
   undo             take the last click, press or tick of this turn back
   cancel           take the whole move or attack back that has begun

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string_view>
 
 #include "core/controls.h"
@@ -41,6 +42,9 @@ struct Game {
     Speed speed = Speed::Second;  ///< of opponents that answer for themselves
     ViewChoices view = {};        ///< the person's, which no file holds
     bool blnHintWanted = false;   ///< until the front end has it found and shown
+
+    /// What a front end keeps of the game beside its file, which has just been written.
+    std::function<void()> afterSave = [] {};
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have

@@ -9,6 +9,7 @@
 #include "core/file_store.h"
 #include "core/opponents.h"
 #include "core/ports.h"
+#include "shell/true_path.h"
 
 namespace qarn {
 namespace {
@@ -25,13 +26,6 @@ struct KeptGame {
 };
 
 fs::path FileOf(const Ports& ports) { return fs::path(ports.folders.userData) / "opponents"; }
-
-// A game has one path, by whatever links it is reached.
-std::string TruePath(const std::string& strGamePath) {
-    std::error_code error;
-    const fs::path path = fs::weakly_canonical(strGamePath, error);
-    return error ? strGamePath : path.string();
-}
 
 std::string_view KnownName(const std::string& word) {
     const OpponentChoice* choice = FindOpponentChoice(word);

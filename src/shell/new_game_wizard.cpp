@@ -9,6 +9,7 @@
 #include "core/player_error.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
+#include "shell/kept_journal.h"
 #include "shell/start_window.h"
 #include "shell/user_settings.h"
 
@@ -199,6 +200,7 @@ void StartGame(StartWindow& window) {
     if (!WriteNewGame(window, path)) return;
     TakePlayer(window, 2);
     KeepOpponents(window.ports, path, window.state.newOpponent);
+    ForgetJournal(window.ports, path);
     window.strGamePath = fs::absolute(path).string();
     window.Next = NextWindow::Game;
 }

@@ -11,6 +11,7 @@
 #include "scenarios/catalogue.h"
 #include "shell/default_path.h"
 #include "shell/game_files.h"
+#include "shell/kept_journal.h"
 #include "shell/program_texts.h"
 
 namespace qarn {
@@ -160,6 +161,7 @@ void cmdDelete_Click(StartWindow& window) {
     const std::string name = SelectedFile(list);
     if (!ConfirmsDeletion(window, name)) return;
     DeleteGame(PathOf(list, name));
+    ForgetJournal(window.ports, PathOf(list, name));
     AllowLoading(window.controls, false);
     RefreshFileList(window);
     window.controls.SetFocus = StartControl::fileLoad;

@@ -67,6 +67,7 @@ void SaveGame(const Game& game) {
     } catch (const std::system_error& error) {
         throw SaveError(error.code().message() + ".");
     }
+    game.afterSave();
 }
 
 bool TrySaveGame(Game& game) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "shell/user_settings.h"
 #include "support/console_game.h"
 #include "support/played_game.h"
 
@@ -131,6 +132,24 @@ TEST(Answers, ForAPerson) {
         EXPECT_NE(text.find(part), text.npos) << part << "\n" << text;
     }
     EXPECT_NE(text.find("\nFor 2 mobility units:"), text.npos) << text;
+}
+
+TEST(JournalCommand, TellsTheOpponentsTurnAndWhatItSaid) {
+    ConsoleGame game(SavedGame("computer1 WS@10,10 TS@10,10 Z@11,10 ZA1@1,1"));
+    game.settings.values["QARN/OwnGroupsOnly/" + GetUserKey("Al")] = "True";
+    const auto objects = game.ForProgram("level captain; random 0.5 0.5; timer 10; journal; state");
+    std::string lines;
+    for (const Json& line : objects[3]["journal"]) lines += line.get<std::string>() + "\n";
+    EXPECT_EQ(lines.find("House rules: own groups only.\nTurn 1: Red, played by Captain\n"), 0u);
+    EXPECT_NE(lines.find("\n  Told meanwhile: Captain will have to initiate a direct attack to "
+                         "proceed.  Does Captain want to attack? Yes. Captain will win if"),
+              lines.npos)
+        << lines;
+    EXPECT_FALSE(objects[4].contains("journal"));
+    const std::string told = game.ForPerson("journal");
+    EXPECT_NE(told.find("House rules: own groups only.\nTurn 1: Red, played by Classic\n"),
+              told.npos)
+        << told;
 }
 
 }  // namespace

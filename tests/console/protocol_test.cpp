@@ -86,6 +86,7 @@ Json FullObject(const Game& game) {
     static_assert(std::variant_size_v<Happening> == 7);
     outcome.answers.reach = {ReachedSquare{}};
     outcome.answers.odds = OddsAnswer{AttackOdds{}, AttackOdds{}};
+    outcome.answers.journal = std::vector<std::string>{"line"};
     outcome.answers.hint = Hint{.plan = {}, .attack = Attacked{}, .sentence = {}};
     return StateJson(outcome, game);
 }

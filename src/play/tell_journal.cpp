@@ -1,0 +1,183 @@
+#include "play/tell_journal.h"
+
+#include <string_view>
+
+#include "core/captions.h"
+#include "core/enumerate.h"
+#include "core/game.h"
+#include "core/opponents.h"
+#include "play/journal.h"
+#include "rules/questions/odds.h"
+#include "window/house_rules.h"
+
+namespace qarn {
+namespace {
+
+std::string Text(Square square) {
+    return "(" + std::to_string(square.X) + ", " + std::to_string(square.Y) + ")";
+}
+
+std::string Percent(int numbersOfTheDie) {
+    return std::to_string(100 * numbersOfTheDie / dieSides) + " %";
+}
+
+std::string OddsText(const Attacked& attack) {
+    const Odds odds = OddsOf(attack.attack, attack.defense);
+    return "wins " + Percent(odds.win) + ", ties " + Percent(odds.tie) + ", loses " +
+           Percent(odds.lose);
+}
+
+std::string ResultText(AttackResult result) {
+    if (result == AttackResult::Won) return "won";
+    return result == AttackResult::Tie ? "retreated without any losses" : "lost";
+}
+
+std::string RollText(const Attacked& attack) {
+    std::string text =
+        "Rolled a " + std::to_string(*attack.roll) + " and " + ResultText(attack.result);
+    if (attack.secondRoll) {
+        text += ", then a " + std::to_string(*attack.secondRoll);
+        text += *attack.secondRoll == rollThatCosts ? ", which costs a character" : "";
+    }
+    return text + ".";
+}
+
+// Tells entry after entry, each to the turn that it belongs to.
+class Teller {
+public:
+    explicit Teller(const Game& game) : game_(game), turns_(1) {}
+
+    std::vector<ToldTurn> Tell(const Journal& journal) {
+        for (const JournalEntry& entry : journal.entries) {
+            if (!std::holds_alternative<Moved>(entry)) FinishMove();
+            std::visit(*this, entry);
+        }
+        FinishMove();
+        FinishTurn();
+        if (turns_.front().sentences.empty()) turns_.erase(turns_.begin());
+        return turns_;
+    }
+
+    void operator()(const TurnBegun& turn) {
+        FinishTurn();
+        if (turns_.size() > 1 && turns_.back().sentences.empty()) Say("Nothing was done.");
+        const std::string number = std::to_string(turns_.size());
+        turns_.push_back({"Turn " + number + ": " + PlayerOf(turn.side), {}});
+        if (const OpponentChoice* opponent = FindOpponentChoice(turn.opponent)) {
+            turns_.back().heading += ", played by " + PlainCaption(opponent->Caption);
+        }
+    }
+
+    // Steps of the same people one after the other are one way.
+    void operator()(const Moved& step) {
+        const bool goesOn = step.people == way_.people && step.path[0] == way_.path.back() &&
+                            way_.path.size() + step.path.size() <= longestPath;
+        if (way_.path.empty() || !goesOn) {
+            FinishMove();
+            way_ = step;
+        } else {
+            for (std::size_t k = 1; k < step.path.size(); ++k) way_.path.push_back(step.path[k]);
+        }
+    }
+
+    void operator()(const Fight& fight) {
+        const Attacked& attack = fight.attack;
+        const std::string text =
+            NamesOf(fight.attackers) + " attacked " + WhatIsAttacked(fight) + " from " +
+            Text(attack.from) + (attack.direct ? " by stepping in, " : ", ") +
+            std::to_string(attack.attack) + " against " + std::to_string(attack.defense);
+        if (!attack.roll) return Say(text + ".");
+        Say(text + ": " + OddsText(attack) + ".");
+        Say(RollText(attack));
+    }
+
+    void operator()(const Lost& lost) {
+        Say(PlayerOf(lost.side) + " lost " + NamesOf(lost.people) + " on " + Text(lost.at) + ".");
+    }
+
+    // Only Gallowrock becomes sand.
+    void operator()(const Burned& burned) {
+        Say((burned.terrain == Sand ? "Gallowrock " : "The abbey ") + Text(burned.at) +
+            " burned down.");
+    }
+
+    void operator()(const Returned& back) {
+        Say(NamesOf(back.people) + " had to go back to " + Text(back.at) + ".");
+    }
+
+    void operator()(const Ended& end) {
+        Say(end.winner == 0 ? "The game is a draw." : PlayerOf(end.winner) + " won the game.");
+    }
+
+    void operator()(const RulesChosen& rules) {
+        std::string text;
+        for (const HouseRule& rule : AllHouseRules()) {
+            if (!(rules.*rule.Chosen)) continue;
+            text += (text.empty() ? "" : ", ") + std::string(rule.Told);
+        }
+        Say("House rules: " + (text.empty() ? "none" : text) + ".");
+    }
+
+    // All of a turn stands together behind what came of it.
+    void operator()(const Said& said) { said_ += (said_.empty() ? "" : " ") + said.text; }
+
+private:
+    void Say(const std::string& sentence) { turns_.back().sentences.push_back(sentence); }
+
+    void FinishMove() {
+        if (way_.path.empty()) return;
+        std::string by;
+        for (std::size_t k = 1; k + 1 < way_.path.size(); ++k) {
+            by += (by.empty() ? " by " : ", ") + Text(way_.path[k]);
+        }
+        Say(NamesOf(way_.people) + " went from " + Text(way_.path[0]) + by + " to " +
+            Text(way_.path.back()) + ".");
+        way_ = {};
+    }
+
+    void FinishTurn() {
+        if (!said_.empty()) Say("Told meanwhile: " + said_);
+        said_.clear();
+    }
+
+    std::string PlayerOf(std::uint8_t side) const { return game_.record.strPlayerName.at(side); }
+
+    std::string NamesOf(PeopleSet people) const {
+        std::vector<std::string_view> names;
+        for (const std::uint8_t i : people) names.push_back(game_.record.People.at(i).Name);
+        return Enumerate(names);
+    }
+
+    // Nobody need stand on a landmark that is attacked.
+    std::string WhatIsAttacked(const Fight& fight) const {
+        const std::string place = std::string(game_.controls.lblTerrKey.at(fight.terrain).Caption) +
+                                  " " + Text(fight.attack.to);
+        if (fight.defenders.Empty()) return place;
+        return NamesOf(fight.defenders) + " on " + place;
+    }
+
+    const Game& game_;
+    std::vector<ToldTurn> turns_;  // the first is the start
+    Moved way_;                    // that is still being told
+    std::string said_;             // in this turn
+};
+
+}  // namespace
+
+std::vector<ToldTurn> TellTurns(const Journal& journal, const Game& game) {
+    return Teller(game).Tell(journal);
+}
+
+std::vector<std::string> TellJournal(const Journal& journal, const Game& game) {
+    std::vector<std::string> lines;
+    for (const ToldTurn& turn : TellTurns(journal, game)) {
+        if (!turn.heading.empty()) lines.push_back(turn.heading);
+        for (const std::string& sentence : turn.sentences) {
+            lines.push_back((turn.heading.empty() ? "" : "  ") + sentence);
+        }
+    }
+    for (const std::string& sentence : TellLuck(journal, game)) lines.push_back(sentence);
+    return lines;
+}
+
+}  // namespace qarn

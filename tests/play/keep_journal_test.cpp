@@ -1,0 +1,107 @@
+#include "play/keep_journal.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/file_store.h"
+#include "play/journal_game.h"
+#include "shell/kept_journal.h"
+
+namespace qarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string position = "LS@12,10 Q@5,5 ZA1@9,10 Z@1,1";
+const std::string move =
+    "press cmdMove; click 12 10; press cmdDoneSel; click 11 10; click 10 10; press cmdMove; ";
+
+std::vector<fs::path> KeptFiles(const JournalGame& played) {
+    std::vector<fs::path> files;
+    std::error_code none;
+    for (const auto& file : fs::directory_iterator(played.folder / "data/journals", none)) {
+        files.push_back(file.path());
+    }
+    return files;
+}
+
+TEST(KeptJournal, GoesOnWhereTheGameWasSaved) {
+    JournalGame played(position);
+    played.DoAll(move + "menu mnuSave");
+    const Journal saved = played.journal;
+    played.DoAll("press cmdMove; click 9 10; press cmdDoneSel; press cmdMove");
+    EXPECT_NE(played.journal, saved);
+    played.OpenAgain();
+    EXPECT_EQ(played.journal, saved);
+
+    // In the middle of a move, too, and under another name.
+    played.DoAll("press cmdMove; click 9 10; press cmdDoneSel; click 9 10; close");
+    const Journal closed = played.journal;
+    played.OpenAgain();
+    EXPECT_EQ(played.journal, closed);
+    played.DoAll("saveas other.tgf");
+    played.path = played.folder / "other.tgf";
+    played.OpenAgain();
+    EXPECT_EQ(played.journal, closed);
+    EXPECT_EQ(KeptFiles(played).size(), 2u);
+}
+
+TEST(KeptJournal, BelongsToTheGameThatStandsAsItDid) {
+    JournalGame played(position);
+    played.DoAll(move + "menu mnuSave");
+    EXPECT_EQ(TurnsOf(played.journal), 2);
+    WriteFile(played.path, SavedGame("turn2 LS@12,10 ZA1@9,10 Z@1,1"));
+    played.OpenAgain();
+    EXPECT_EQ(TurnsOf(played.journal), 1);
+}
+
+TEST(KeptJournal, IsForgottenWhenTheGameEnds) {
+    JournalGame played("LS@12,10 Q@11,10 WS@11,10 ZA1@10,10");
+    played.DoAll("menu mnuSave");
+    EXPECT_EQ(KeptFiles(played).size(), 1u);
+    played.DoAll("roll 1; press cmdAttack; click 11 10; click 10 10");
+    EXPECT_TRUE(played.game.blnEnded);
+    EXPECT_NE(played.Told().find("  Red won the game.\n"), std::string::npos);
+    EXPECT_TRUE(KeptFiles(played).empty());
+}
+
+TEST(KeptJournal, DamagedOrUnwritableItDoesNoHarm) {
+    JournalGame played(position);
+    played.DoAll(move + "menu mnuSave");
+    const fs::path file = KeptFiles(played).front();
+    const std::string whole = ReadFile(file.string());
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        WriteFile(file.string(), whole.substr(0, length));
+        played.OpenAgain();
+        EXPECT_GE(TurnsOf(played.journal), 1) << length;
+    }
+    fs::remove_all(played.folder / "data");
+    WriteFile(played.folder / "data", "no folder");
+    played.DoAll("menu mnuSave");
+    EXPECT_TRUE(played.dialogs.boxes.empty());
+    played.OpenAgain();
+    EXPECT_EQ(TurnsOf(played.journal), 1);
+}
+
+TEST(KeptJournal, LongOnesLoseTheirOldestLinesAndOldOnesGo) {
+    JournalGame played(position);
+    const Ports& ports = played.game.ports;
+    std::string text = "end 1\n";
+    while (text.size() < 1'100'000) text += "turn 1 person\n";
+    KeepJournalText(ports, played.path, {"position", text + "end 2\n"});
+    const std::string kept = ReadKeptJournal(ports, played.path).text;
+    EXPECT_EQ(kept.substr(0, 14), "turn 1 person\n");
+    EXPECT_EQ(kept.substr(kept.size() - 6), "end 2\n");
+
+    const auto old = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    fs::last_write_time(KeptFiles(played).front(), old);
+    for (int game = 1; game <= 100; ++game) {
+        KeepJournalText(ports, played.folder / std::to_string(game), {"position", ""});
+    }
+    EXPECT_EQ(KeptFiles(played).size(), 100u);
+    EXPECT_EQ(ReadKeptJournal(ports, played.path).text, "");
+}
+
+}  // namespace
+}  // namespace qarn
