@@ -12,6 +12,8 @@ struct ViewChoices {
     bool largeCodes = false;
     bool coordinates = false;
     bool lastMove = false;  ///< what the other side did last
+    bool journal = false;   ///< beside the board
+    bool roster = false;    ///< the same
     bool fullScreen = false;
 
     friend bool operator==(const ViewChoices&, const ViewChoices&) = default;

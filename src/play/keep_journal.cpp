@@ -3,10 +3,13 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/file_store.h"
 #include "core/fingerprint.h"
 #include "core/game.h"
+#include "core/player_error.h"
 #include "play/journal.h"
 #include "play/journal_lines.h"
+#include "play/tell_journal.h"
 #include "shell/kept_journal.h"
 
 namespace qarn {
@@ -55,6 +58,17 @@ void KeepJournal(const Journal& journal, const Game& game) {
                         {Fingerprint(PositionText(game.record)), JournalLines(journal)});
     } catch (const std::system_error&) {
         // The game itself is saved; its journal is not worth a box.
+    }
+}
+
+void ExportJournal(const std::string& path, const Journal& journal, const Game& game) {
+    std::string text = game.controls.Caption + "\n\n";
+    for (const std::string& line : TellJournal(journal, game)) text += line + "\n";
+    try {
+        ReplaceFile(path, text);
+    } catch (const std::system_error& error) {
+        throw PlayerError("The journal can not be written. " + error.code().message() + ".\n" +
+                          path);
     }
 }
 

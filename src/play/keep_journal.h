@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace qarn {
 
 struct Game;
@@ -15,5 +17,8 @@ void FollowEvent(Journal& journal, const Game& game);
 
 /// Keeps the journal of a game that is being saved, in the person's data folder, if it can.
 void KeepJournal(const Journal& journal, const Game& game);
+
+/// Writes the journal to a text file, for people. Throws PlayerError when it cannot.
+void ExportJournal(const std::string& path, const Journal& journal, const Game& game);
 
 }  // namespace qarn

@@ -7,6 +7,7 @@
 #include "core/game.h"
 #include "core/opponents.h"
 #include "play/journal.h"
+#include "play/square_text.h"
 #include "rules/questions/odds.h"
 #include "window/house_rules.h"
 
@@ -140,7 +141,7 @@ private:
         said_.clear();
     }
 
-    std::string PlayerOf(std::uint8_t side) const { return game_.record.strPlayerName.at(side); }
+    std::string PlayerOf(std::uint8_t side) const { return NameOfSide(game_.record, side); }
 
     std::string NamesOf(PeopleSet people) const {
         std::vector<std::string_view> names;

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
 #include <QKeyEvent>
 #include <utility>
 
 #include "play/end_report.h"
 #include "play/first_offer.h"
+#include "play/keep_journal.h"
 #include "play/odds_ahead.h"
 #include "play/own_groups.h"
 #include "play/play_menu.h"
@@ -48,7 +50,11 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
       area_(new ScaledArea(designTwips, DesignFontSize(font()))),
       board_(new BoardWidget(game_, area_)),
       panel_(area_, [this](const auto& name, const auto& handler) { Click(name, handler); }),
-      menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }) {
+      menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }),
+      docks_(*this, {.choose = [this](const char* item) { Choose(*FindMenuCommand(item)); },
+                     .goTo = [this](QPoint square) { GoTo(square); },
+                     .saveJournal = [this](const QString& path) { SaveJournal(path); }}) {
+    game_.afterSave = [this] { KeepJournal(journal_, game_); };
     setWindowIcon(WindowIcon());
     setCentralWidget(area_);
     area_->Place(board_, boardTwips);
@@ -62,6 +68,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
 
     PrepareTimer();
     RestoreWindowPlace(*this, desktop.settings);
+    RestoreDockPlaces(docks_, desktop.settings);
 }
 
 void FrmGame::Open(const std::string& strGamePath) {
@@ -88,9 +95,15 @@ void FrmGame::Click(const std::string& name, const std::function<void(Game&)>& h
 // One event at a time: what comes in while a box is open, as the timer does, is passed over.
 void FrmGame::RunAlone(const std::function<void()>& event) {
     if (running_) return;
+    const bool opens = !game_.blnOpen;
     running_ = true;
     event();
     running_ = false;
+    if (opens && game_.blnOpen) {
+        journal_ = JournalOf(game_);
+    } else {
+        FollowEvent(journal_, game_);
+    }
     BringUpToDate();
 }
 
@@ -115,6 +128,7 @@ void FrmGame::ShowWidgets() {
     if (offer_ != nullptr) offer_->LetTake(CanTakeOffer(game_));
     menus_.Show(game_);
     ShowFullScreen();
+    docks_.Show(game_, journal_);
     if (game_.blnOpen && isHidden()) {
         show();
         activateWindow();
@@ -172,10 +186,21 @@ void FrmGame::ShowAbout() {
     about_->show();
 }
 
+void FrmGame::GoTo(QPoint square) {
+    board_->MoveCursor(square);
+    board_->setFocus();
+}
+
+void FrmGame::SaveJournal(const QString& path) {
+    Run("SaveJournal",
+        [&](Game& game) { ExportJournal(QFile::encodeName(path).toStdString(), journal_, game); });
+}
+
 void FrmGame::End() {
     tmrAI_.stop();
     if (thinker_) thinker_->Drop();
     if (offer_ != nullptr) EndOffer(game_);
+    StoreDockPlaces(docks_, game_.ports.settings);
     StoreWindowPlace(*this, game_.ports.settings);
     if (!IsOver(game_)) hide();  // its last position can still be seen
     QCoreApplication::exit(game_.exitStatus);

@@ -10,9 +10,11 @@
 
 #include "core/game.h"
 #include "desktop/help_program.h"
+#include "play/journal.h"
 #include "play/turn_history.h"
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
+#include "ui/game_docks.h"
 #include "ui/game_menus.h"
 #include "ui/no_move_strip.h"
 #include "ui/odds_note.h"
@@ -62,6 +64,8 @@ private:
     bool HasHint() const;
     void ShowAbout();
     void GoToOwnGroup(bool forward);
+    void GoTo(QPoint square);
+    void SaveJournal(const QString& path);
     void End();
 
     void PrepareTimer();
@@ -84,6 +88,7 @@ private:
     HelpProgram help_;
     Game game_;
     TurnHistory history_;
+    Journal journal_;
     bool running_ = false;            // a handler runs, perhaps with a box open
     std::optional<bool> fullScreen_;  // as it was chosen last
     bool fitsScreen_ = false;         // with the frame that it has been given
@@ -92,6 +97,7 @@ private:
     BoardWidget* board_;
     ControlPanel panel_;
     GameMenus menus_;
+    GameDocks docks_;
     QTimer tmrAI_{this};
     std::unique_ptr<Thinker> thinker_;  // of opponents that look ahead, once one has played
     OpponentStrip* strip_ = nullptr;    // ... and theirs

@@ -6,12 +6,29 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "ui/game_docks.h"
+
 namespace qarn {
 namespace {
 
 const std::string application = "QARN";
 const std::string section = "Window";
 const std::string key = "frmGame";
+const std::string keyOfDocks = "frmGameDocks";
+
+QByteArray Stored(SettingsStore& settings, const std::string& ofWhat) {
+    return QByteArray::fromBase64(
+        QByteArray::fromStdString(settings.Read(application, section, ofWhat, "")));
+}
+
+// The window closes; its place is not worth a box.
+void Store(SettingsStore& settings, const std::string& ofWhat, const QByteArray& place) {
+    if (place == Stored(settings, ofWhat)) return;
+    try {
+        settings.Write(application, section, ofWhat, place.toBase64().toStdString());
+    } catch (const std::runtime_error&) {
+    }
+}
 
 QMargins FrameOf(const QWidget& window) {
     const QWindow* shown = window.windowHandle();
@@ -26,8 +43,7 @@ QRect PlaceOnScreen(const QWidget& window, const QRect& place) {
 }  // namespace
 
 void RestoreWindowPlace(QWidget& window, SettingsStore& settings) {
-    const std::string stored = settings.Read(application, section, key, "");
-    if (window.restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)))) {
+    if (window.restoreGeometry(Stored(settings, key))) {
         FitOnScreen(window);
     } else {
         // The desktop chooses where.
@@ -52,13 +68,16 @@ QRect PlaceWithin(const QRect& room, const QRect& place, const QMargins& frame) 
 }
 
 void StoreWindowPlace(const QWidget& window, SettingsStore& settings) {
-    const std::string place = window.saveGeometry().toBase64().toStdString();
-    if (place == settings.Read(application, section, key, "")) return;
-    try {
-        settings.Write(application, section, key, place);
-    } catch (const std::runtime_error&) {
-        // The window closes; its place is not worth a box.
-    }
+    Store(settings, key, window.saveGeometry());
+}
+
+void RestoreDockPlaces(GameDocks& docks, SettingsStore& settings) {
+    docks.PutAt(Stored(settings, keyOfDocks));
+}
+
+void StoreDockPlaces(const GameDocks& docks, SettingsStore& settings) {
+    const QByteArray places = docks.Places();
+    if (!places.isEmpty()) Store(settings, keyOfDocks, places);
 }
 
 }  // namespace qarn

@@ -6,6 +6,8 @@
 
 namespace qarn {
 
+class GameDocks;
+
 /// Gives the window the size and place that it had when it was last closed; at the first start the
 /// size of its design. What the screen has no room for is taken off, see FitOnScreen.
 void RestoreWindowPlace(QWidget& window, SettingsStore& settings);
@@ -14,6 +16,12 @@ void RestoreWindowPlace(QWidget& window, SettingsStore& settings);
 /// the screen. The frame is known once the window has come up; until then the style's is taken for
 /// it. A window that fills its screen anyway stays as it is.
 void FitOnScreen(QWidget& window);
+
+/// Has the docks of the window stand where they stood when it was last closed with docks.
+void RestoreDockPlaces(GameDocks& docks, SettingsStore& settings);
+
+/// Stores where the docks of the window stand, as StoreWindowPlace does; nothing when it had none.
+void StoreDockPlaces(const GameDocks& docks, SettingsStore& settings);
 
 /// The place, without its frame, nearest to `place` at which a window with such a frame lies within
 /// `room`. It keeps its size where it can. All in pixels of one coordinate system.

@@ -140,6 +140,8 @@ constexpr std::array menuCommands{
     ViewItem<&ViewChoices::largeCodes>("mnuLargeCodes", "&Large Codes"),
     ViewItem<&ViewChoices::coordinates>("mnuCoordinates", "&Coordinates"),
     ViewItem<&ViewChoices::lastMove>("mnuLastMove", "Last &Move"),
+    ViewItem<&ViewChoices::journal>("mnuJournal", "&Journal"),
+    ViewItem<&ViewChoices::roster>("mnuRoster", "&Roster"),
     ViewItem<&ViewChoices::fullScreen>("mnuFullScreen", "&Full Screen", "F11"),
     MenuCommand{playMenu, "mnuTakeBack", "&Take Back", "Ctrl+Z", nullptr, &Controls::mnuTakeBack},
     MenuCommand{playMenu, "mnuCancelMove", "&Cancel Move", "Esc", nullptr,

@@ -18,6 +18,8 @@ constexpr std::array viewChoices{
     ViewChoice{"mnuLargeCodes", &ViewChoices::largeCodes},
     ViewChoice{"mnuCoordinates", &ViewChoices::coordinates},
     ViewChoice{"mnuLastMove", &ViewChoices::lastMove},
+    ViewChoice{"mnuJournal", &ViewChoices::journal},
+    ViewChoice{"mnuRoster", &ViewChoices::roster},
     ViewChoice{"mnuFullScreen", &ViewChoices::fullScreen},
 };
 

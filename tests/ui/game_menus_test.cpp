@@ -47,6 +47,8 @@ TEST_F(GameWindow, HasItsMenus) {
   &Large Codes  
   &Coordinates  
   Last &Move  
+  &Journal  
+  &Roster  
   &Full Screen  F11
 &Play  
   &Take Back  Ctrl+Z

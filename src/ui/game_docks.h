@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+
+#include "ui/journal_dock.h"
+#include "ui/roster_dock.h"
+
+namespace qarn {
+
+/// The docks beside the board of the game window. Each is made when it is first shown.
+class GameDocks {
+public:
+    /// What a person wants of the docks.
+    struct Wishes {
+        std::function<void(const char*)> choose;  ///< the item with this name of the menu View
+        std::function<void(QPoint)> goTo;         ///< a square of the board
+        std::function<void(const QString&)> saveJournal;  ///< to the file at this path
+    };
+
+    /// The docks of `window`, which then owns them.
+    GameDocks(QMainWindow& window, Wishes wishes);
+
+    /// Shows the docks that the person has chosen, up to date.
+    void Show(const Game& game, const Journal& journal);
+
+    /// Where the docks stand, and how wide they are; empty when none has been shown.
+    QByteArray Places() const;
+    /// Has docks stand where they stood then.
+    void PutAt(const QByteArray& places);
+
+
+private:
+    void Add(SideDock* dock, const char* item);
+    void SetVisible(SideDock& dock, bool visible);
+    bool GiveBoardRoom(int before, int least);
+
+    QMainWindow& window_;
+    Wishes wishes_;
+    JournalDock* journal_ = nullptr;
+    RosterDock* roster_ = nullptr;
+    int widened_ = 0;  // by how many pixels, to make room for them
+};
+
+}  // namespace qarn

@@ -1,0 +1,113 @@
+#include <QDockWidget>
+#include <QTextEdit>
+#include <QTreeWidget>
+
+#include "support/game_window.h"
+
+namespace qarn {
+namespace {
+
+class Docks : public GameWindow {
+protected:
+    QTreeWidget* Roster() { return Find<QTreeWidget>("lstRoster"); }
+    // The texts of a column, from the top.
+    std::string Column(int column) {
+        std::string text;
+        for (int row = 0; row < Roster()->topLevelItemCount(); ++row) {
+            text += Roster()->topLevelItem(row)->text(column).toStdString() + " ";
+        }
+        return text;
+    }
+    void ClickRow(const char* code) {
+        QTreeWidgetItem* item = Roster()->findItems(code, Qt::MatchExactly).constFirst();
+        Roster()->scrollToItem(item);
+        QTest::mouseClick(Roster()->viewport(), Qt::LeftButton, {},
+                          Roster()->visualItemRect(item).topLeft() + QPoint(5, 5));
+    }
+    std::string JournalText() { return Find<QTextEdit>("txtJournal")->toPlainText().toStdString(); }
+};
+
+TEST_F(Docks, JournalGrowsWithTheGame) {
+    Open("LS@12,10 SK@12,10 ZA1@10,10 Z@1,1");
+    EXPECT_EQ(Find("txtJournal"), nullptr);
+    MenuItem("mnuJournal")->trigger();
+    EXPECT_EQ(JournalText(), "Turn 1: Red");
+    Button("cmdMove")->click();
+    ClickSquare(12, 10);
+    Button("cmdDoneSel")->click();
+    ClickSquare(11, 10);
+    random.QueueRoll(1);
+    random.QueueRoll(1);
+    AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
+    ClickSquare(10, 10);
+    EXPECT_EQ(JournalText(),
+              "Turn 1: Red\nLittle Shrews, Skyfeather went from (12, 10) to (11, 10).\nLittle "
+              "Shrews, Skyfeather attacked Corsair's Army on Plain (10, 10) from (11, 10) by "
+              "stepping in, 10 against 4: wins 40 %, ties 20 %, loses 40 %.\nRolled a 1 and won, "
+              "then a 1.\nBlue lost Corsair's Army on (10, 10).\nLittle Shrews, Skyfeather went "
+              "from (11, 10) to (10, 10).\nLuck\nRed won 1 of 1 attack, 0.6 more than expected. "
+              "Chance of so many or more: 40 %.\nRolls of Red, 1 to 5: 2, 0, 0, 0, 0.\nIn all the "
+              "die was with Red by 0.6 wins. Chance of so much luck: 40 %.");
+
+    Find<QDockWidget>("dckJournal")->close();
+    EXPECT_FALSE(MenuItem("mnuJournal")->isChecked());
+    EXPECT_TRUE(Find("dckJournal")->isHidden());
+}
+
+TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
+    Open("BT@9,9 LS@12,10 SK@2,10 ZA1@10,10");
+    MenuItem("mnuRoster")->trigger();
+    EXPECT_EQ(Column(0).find("Q TS LS S WS J SK V HF WA WA1"), 0u);
+    Roster()->sortByColumn(2, Qt::AscendingOrder);
+    EXPECT_EQ(Column(2).find("(2, 10) (9, 9) (10, 10) (12, 10) Lost Lost "), 0u);
+    EXPECT_EQ(Column(3).find("Red Nobody Blue Red "), 0u);
+    Roster()->sortByColumn(5, Qt::DescendingOrder);
+    EXPECT_EQ(Column(5).find("8 8 7 7 6 5 "), 0u);
+
+    ClickRow("LS");
+    EXPECT_EQ(board->Cursor(), QPoint(12, 10));
+    EXPECT_EQ(Focus(), "board");
+    ClickRow("WS");  // lost
+    EXPECT_EQ(board->Cursor(), QPoint(12, 10));
+    Roster()->setFocus();
+    Roster()->setCurrentItem(Roster()->findItems("SK", Qt::MatchExactly).constFirst());
+    Key(Qt::Key_Return);
+    EXPECT_EQ(board->Cursor(), QPoint(2, 10));
+    EXPECT_EQ(Focus(), "board");
+}
+
+TEST_F(Docks, StandWhereTheyStood) {
+    Open("Q@9,5 WA@17,2");
+    window->resize(900, 660);
+    const QSize boardSize = board->size();
+    MenuItem("mnuRoster")->trigger();
+    window->addDockWidget(Qt::LeftDockWidgetArea, Find<QDockWidget>("dckRoster"));
+    for (int time = 0; time < 2; ++time) {
+        const QSize windowSize = window->size();
+        window->close();
+        window = std::make_unique<FrmGame>(random, desktop);
+        OpenFile(ReadFile(path));
+        EXPECT_EQ(window->dockWidgetArea(Find<QDockWidget>("dckRoster")), Qt::LeftDockWidgetArea);
+        EXPECT_FALSE(Find("dckRoster")->isHidden());
+        EXPECT_EQ(window->size(), windowSize);
+        EXPECT_EQ(board->size(), boardSize);
+    }
+}
+
+TEST_F(Docks, TakeNoRoomFromTheBoardThatTheScreenHas) {
+    Open("Q@9,5 WA@17,2");
+    window->resize(900, 660);
+    const QSize boardSize = board->size();
+    const QSize windowSize = window->size();
+    MenuItem("mnuJournal")->trigger();
+    MenuItem("mnuRoster")->trigger();
+    EXPECT_EQ(board->size(), boardSize);
+    EXPECT_GT(window->width(), windowSize.width() + 100);
+    MenuItem("mnuJournal")->trigger();
+    MenuItem("mnuRoster")->trigger();
+    EXPECT_EQ(window->size(), windowSize);
+    EXPECT_EQ(board->size(), boardSize);
+}
+
+}  // namespace
+}  // namespace qarn
