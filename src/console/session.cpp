@@ -15,7 +15,6 @@
 #include "core/game_file.h"
 #include "core/opponents.h"
 #include "play/play_menu.h"
-#include "play/keep_journal.h"
 #include "play/tell_journal.h"
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
@@ -114,7 +113,7 @@ Session::Session(const DesktopPorts& desktop)
             .ports = {dialogs_, random_, help_, desktop.settings, desktop.fileTypes,
                       desktop.folders}} {
     LoadHouseRules(game_);
-    game_.afterSave = [this] { KeepJournal(journal_, game_); };
+    game_.afterSave = [this] { journal_.Keep(game_); };
     dialogs_.SetNoteAnswered(
         [this](const MessageBox& box, Answer answer) { NoteAnswered(box, answer); });
 }
@@ -210,7 +209,7 @@ void Session::Load(const std::string& path, const std::function<void()>& prepare
         Form_Load(game, path);
         opened = true;
     });
-    if (game_.blnOpen) journal_ = JournalOf(game_);
+    if (game_.blnOpen) journal_.Open(game_);
     if (!opened && !game_.blnEnded) throw Refusal("The game could not be opened.");
 }
 
@@ -354,7 +353,7 @@ void Session::ChooseInMenuPlay(const Words& words) {
     ChooseMenu({"menu", item->second});
 }
 
-void Session::AskJournal(const Words&) { answers_.journal = TellJournal(journal_, game_); }
+void Session::AskJournal(const Words&) { answers_.journal = TellJournal(journal_.Told(), game_); }
 
 void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
 
@@ -367,11 +366,11 @@ void Session::Run(std::string_view name, const std::function<void(Game&)>& handl
 
 void Session::NoteHappenings() {
     happenings_.insert(happenings_.end(), game_.happenings.begin(), game_.happenings.end());
-    FollowEvent(journal_, game_);
+    journal_.Follow(game_, history_);
 }
 
 void Session::NoteAnswered(const MessageBox& box, Answer answer) {
-    NoteSaid(journal_, game_.opponent.at(game_.record.bytTurn), box, answer);
+    journal_.NoteSaid(game_.opponent.at(game_.record.bytTurn), box, answer);
 }
 
 }  // namespace qarn

@@ -10,7 +10,7 @@
 #include "console/answers.h"
 #include "console/console_ports.h"
 #include "core/game.h"
-#include "play/journal.h"
+#include "play/game_journal.h"
 #include "play/turn_history.h"
 
 namespace qarn {
@@ -86,7 +86,7 @@ private:
     ConsoleHelp help_;
     Game game_;
     TurnHistory history_;
-    Journal journal_;
+    GameJournal journal_;
     Happenings happenings_;
     Answers answers_;
 };

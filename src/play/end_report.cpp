@@ -5,6 +5,8 @@
 
 #include "core/enumerate.h"
 #include "core/game.h"
+#include "play/journal.h"
+#include "play/tell_journal.h"
 
 namespace qarn {
 namespace {
@@ -21,17 +23,27 @@ std::string NamesOfLost(const GameRecord& record, std::uint8_t side) {
     return lost.empty() ? "nobody" : Enumerate(GetPeopleNames(record, lost));
 }
 
+std::string LuckTold(const Journal& journal, const Game& game) {
+    std::string told;
+    for (const std::string& sentence : TellLuck(journal, game)) {
+        told += (told.empty() ? "" : "\n") + sentence;
+    }
+    return told.empty() ? "No die was rolled." : told;
+}
+
 }  // namespace
 
 bool IsOver(const Game& game) { return game.blnEnded && EndOf(game) != nullptr; }
 
-EndReport ReportOfEnd(const Game& game, int turns) {
+EndReport ReportOfEnd(const Game& game, const Journal& journal) {
+    const int turns = TurnsOf(journal);
     const GameRecord& record = game.record;
     const std::uint8_t winner = EndOf(game)->winner;
     return {.outcome =
                 winner == 0 ? "The game is a draw." : record.strPlayerName.at(winner) + " has won.",
             .turns = std::to_string(turns) + (turns == 1 ? " turn" : " turns"),
-            .lost = {"", NamesOfLost(record, 1), NamesOfLost(record, 2)}};
+            .lost = {"", NamesOfLost(record, 1), NamesOfLost(record, 2)},
+            .luck = LuckTold(journal, game)};
 }
 
 }  // namespace qarn

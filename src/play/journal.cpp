@@ -81,9 +81,15 @@ void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box
 }
 
 int TurnsOf(const Journal& journal) {
-    return static_cast<int>(std::count_if(
-        journal.entries.begin(), journal.entries.end(),
-        [](const JournalEntry& entry) { return std::holds_alternative<TurnBegun>(entry); }));
+    int turns = 0;
+    const JournalEntry* before = nullptr;
+    for (const JournalEntry& entry : journal.entries) {
+        const bool nothingDone = before != nullptr && std::holds_alternative<TurnBegun>(*before);
+        if (std::holds_alternative<TurnBegun>(entry)) ++turns;
+        if (std::holds_alternative<Ended>(entry) && nothingDone) --turns;
+        before = &entry;
+    }
+    return turns;
 }
 
 }  // namespace qarn

@@ -49,18 +49,22 @@ void KeepWhatIsLookedAt(const Controls& now, Controls& controls) {
 bool TurnHistory::Run(Game& game, std::string_view name,
                       const std::function<void(Game&)>& handler) {
     const bool played = !game.record.blnDetailsMode && IsOfATurn(name);
-    if (!game.blnOpen) turns_ = 0;
+    tookBack_ = false;
     const int confirmed = game.ports.dialogs.Confirmed();
     if (!RunEvent(game, name, handler)) return false;
     Note(game, played, game.ports.dialogs.Confirmed() != confirmed);
     return true;
 }
 
+void TurnHistory::NoteTick(Game& game) {
+    tookBack_ = false;
+    Note(game, false, false);
+}
+
 void TurnHistory::Note(Game& game, bool played, bool confirmed) {
     const bool underWay = IsPersonsMoveUnderWay(game.record);
     const bool decided = played && (confirmed || CountOf<Attacked>(game.happenings) > 0);
     const int turns = CountOf<TurnCame>(game.happenings);
-    if (!game.blnEnded) turns_ += turns;
     if (decided || turns > 0 || HasTurnInHand(game)) {
         before_.clear();
         closed_ = decided && underWay;
@@ -82,6 +86,7 @@ void TurnHistory::TakeBackTo(Game& game, std::size_t event) {
     KeepWhatIsLookedAt(game.controls, state.controls);
     game.record = std::move(state.record);
     game.controls = std::move(state.controls);
+    tookBack_ = true;
     before_.erase(before_.begin() + static_cast<std::ptrdiff_t>(event), before_.end());
 }
 

@@ -20,13 +20,13 @@ public:
     bool Run(Game& game, std::string_view name, const std::function<void(Game&)>& handler);
 
     /// Notes an event that was run by something else: a tick of the computer's timer.
-    void NoteTick(Game& game) { Note(game, false, false); }
-
-    /// How many turns of both sides have begun since the game was opened.
-    int Turns() const { return turns_; }
+    void NoteTick(Game& game);
 
     /// How many events can be taken back.
     std::size_t Events() const { return before_.size(); }
+
+    /// True when the last event has taken others back.
+    bool TookBack() const { return tookBack_; }
 
     /// Takes the last event back: everything is as it was before it, but for what the game is
     /// called, settings, and what is looked at. There must be one.
@@ -41,7 +41,7 @@ private:
     std::size_t StartOfMove(const Game& game) const;
 
     std::vector<GameState> before_;  // each of the events, the oldest first
-    int turns_ = 0;
+    bool tookBack_ = false;
     bool closed_ = false;  // until the move or attack under way is over
 };
 

@@ -16,7 +16,7 @@ namespace qarn {
 namespace {
 
 constexpr double headingSize = 1.6;  // by the other texts
-constexpr int namesWidth = 300;      // at least
+constexpr int textWidth = 300;       // at least
 constexpr int gap = 12;
 
 QLabel* Text(const std::string& text, const char* name) {
@@ -36,13 +36,13 @@ QLabel* Heading(const std::string& text) {
     return heading;
 }
 
-void AddLosses(QGridLayout* grid, int row, const std::string& player, const std::string& lost,
-               const char* name) {
-    QLabel* names = Text(lost, name);
-    names->setWordWrap(true);
-    names->setMinimumWidth(namesWidth);
-    grid->addWidget(new QLabel(ToQt(player + " lost")), row, 0, Qt::AlignTop);
-    grid->addWidget(names, row, 1, Qt::AlignTop);
+void AddFact(QGridLayout* grid, int row, const std::string& what, const std::string& told,
+             const char* name) {
+    QLabel* text = Text(told, name);
+    text->setWordWrap(true);
+    text->setMinimumWidth(textWidth);
+    grid->addWidget(new QLabel(ToQt(what)), row, 0, Qt::AlignTop);
+    grid->addWidget(text, row, 1, Qt::AlignTop);
 }
 
 }  // namespace
@@ -58,8 +58,9 @@ FrmEnd::FrmEnd(QWidget* gameWindow, const Game& game, const EndReport& report)
     facts->addWidget(new QLabel("It took"), 0, 0);
     facts->addWidget(Text(report.turns, "lblTurns"), 0, 1);
     const auto& names = game.record.strPlayerName;
-    AddLosses(facts, 1, names[1], report.lost[1], "lblLost1");
-    AddLosses(facts, 2, names[2], report.lost[2], "lblLost2");
+    AddFact(facts, 1, names[1] + " lost", report.lost[1], "lblLost1");
+    AddFact(facts, 2, names[2] + " lost", report.lost[2], "lblLost2");
+    AddFact(facts, 3, "Luck", report.luck, "lblLuck");
 
     auto* buttons = new QHBoxLayout;
     AddButton(buttons, "cmdAgain", "&Again", "The same scenario from its start",

@@ -8,7 +8,6 @@
 
 #include "play/end_report.h"
 #include "play/first_offer.h"
-#include "play/keep_journal.h"
 #include "play/odds_ahead.h"
 #include "play/own_groups.h"
 #include "play/play_menu.h"
@@ -54,7 +53,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
       docks_(*this, {.choose = [this](const char* item) { Choose(*FindMenuCommand(item)); },
                      .goTo = [this](QPoint square) { GoTo(square); },
                      .saveJournal = [this](const QString& path) { SaveJournal(path); }}) {
-    game_.afterSave = [this] { KeepJournal(journal_, game_); };
+    game_.afterSave = [this] { journal_.Keep(game_); };
     setWindowIcon(WindowIcon());
     setCentralWidget(area_);
     area_->Place(board_, boardTwips);
@@ -100,9 +99,9 @@ void FrmGame::RunAlone(const std::function<void()>& event) {
     event();
     running_ = false;
     if (opens && game_.blnOpen) {
-        journal_ = JournalOf(game_);
+        journal_.Open(game_);
     } else {
-        FollowEvent(journal_, game_);
+        journal_.Follow(game_, history_);
     }
     BringUpToDate();
 }
@@ -128,7 +127,7 @@ void FrmGame::ShowWidgets() {
     if (offer_ != nullptr) offer_->LetTake(CanTakeOffer(game_));
     menus_.Show(game_);
     ShowFullScreen();
-    docks_.Show(game_, journal_);
+    docks_.Show(game_, journal_.Told());
     if (game_.blnOpen && isHidden()) {
         show();
         activateWindow();
@@ -193,7 +192,7 @@ void FrmGame::GoTo(QPoint square) {
 
 void FrmGame::SaveJournal(const QString& path) {
     Run("SaveJournal",
-        [&](Game& game) { ExportJournal(QFile::encodeName(path).toStdString(), journal_, game); });
+        [&](Game& game) { journal_.Export(QFile::encodeName(path).toStdString(), game); });
 }
 
 void FrmGame::End() {

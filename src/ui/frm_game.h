@@ -10,7 +10,7 @@
 
 #include "core/game.h"
 #include "desktop/help_program.h"
-#include "play/journal.h"
+#include "play/game_journal.h"
 #include "play/turn_history.h"
 #include "ui/board_widget.h"
 #include "ui/control_panel.h"
@@ -39,8 +39,8 @@ public:
     /// The game, which has ended, or was left, once it is no longer open.
     const Game& ShownGame() const { return game_; }
 
-    /// How many turns of both sides have begun since it was opened.
-    int TurnsPlayed() const { return history_.Turns(); }
+    /// Its journal.
+    const Journal& ShownJournal() const { return journal_.Told(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -88,7 +88,7 @@ private:
     HelpProgram help_;
     Game game_;
     TurnHistory history_;
-    Journal journal_;
+    GameJournal journal_;
     bool running_ = false;            // a handler runs, perhaps with a box open
     std::optional<bool> fullScreen_;  // as it was chosen last
     bool fitsScreen_ = false;         // with the frame that it has been given

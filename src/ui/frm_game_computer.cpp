@@ -129,7 +129,7 @@ void FrmGame::MakeRoomForStrips() {
 bool FrmGame::TellsMore() const { return strip_ != nullptr && strip_->HasMore(); }
 
 void FrmGame::TellAnswered(const MessageBox& box, Answer answer) {
-    NoteSaid(journal_, acting_, box, answer);
+    journal_.NoteSaid(acting_, box, answer);
     Strip().Tell(ToQt(ToldOfOpponent(NameOf(acting_), box, answer)), MillisecondsOf(game_.speed));
 }
 

@@ -29,7 +29,6 @@ public:
     /// Has docks stand where they stood then.
     void PutAt(const QByteArray& places);
 
-
 private:
     void Add(SideDock* dock, const char* item);
     void SetVisible(SideDock& dock, bool visible);

@@ -59,7 +59,7 @@ private:
 
     void AskWhatNext(FrmGame& window) {
         FrmEnd end(&window, window.ShownGame(),
-                   ReportOfEnd(window.ShownGame(), window.TurnsPlayed()));
+                   ReportOfEnd(window.ShownGame(), window.ShownJournal()));
         end.exec();
         next_ = end.Next();
         blnOpen_ = false;

@@ -5,8 +5,7 @@
 #include <sstream>
 #include <string>
 
-#include "play/journal.h"
-#include "play/keep_journal.h"
+#include "play/game_journal.h"
 #include "play/tell_journal.h"
 #include "support/played_game.h"
 
@@ -17,33 +16,33 @@ class JournalGame : public PlayedGame {
 public:
     explicit JournalGame(const std::string& position) {
         game.ports.folders.userData = folder / "data";
-        game.afterSave = [this] { KeepJournal(journal, game); };
+        game.afterSave = [this] { journal.Keep(game); };
         Load(position);
-        journal = JournalOf(game);
+        journal.Open(game);
     }
 
     void OpenAgain() {
         Open();
-        journal = JournalOf(game);
+        journal.Open(game);
     }
 
     /// Commands of PlayedGame, separated by "; ".
     void DoAll(const std::string& commands) {
         std::istringstream parts(commands);
         for (std::string command; std::getline(parts >> std::ws, command, ';');) {
-            game.happenings.clear();  // not every command is an event
             EXPECT_TRUE(Do(command)) << command;
-            FollowEvent(journal, game);
+            const bool event = !command.starts_with("roll") && !command.starts_with("answer");
+            if (event) journal.Follow(game, history);
         }
     }
 
     std::string Told() const {
         std::string text;
-        for (const std::string& line : TellJournal(journal, game)) text += line + "\n";
+        for (const std::string& line : TellJournal(journal.Told(), game)) text += line + "\n";
         return text;
     }
 
-    Journal journal;
+    GameJournal journal;
 };
 
 }  // namespace qarn

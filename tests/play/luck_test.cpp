@@ -45,12 +45,12 @@ public:
         played_.DoAll("press cmdAttack; click 9 10; click 10 10");
     }
 
-    Luck Outcome() const { return LuckOf(played_.journal); }
+    Luck Outcome() const { return LuckOf(played_.journal.Told()); }
 
     // Of the wins of a side, by the odds of each of its fights.
     double Variance(std::uint8_t side) const {
         double variance = 0;
-        for (const JournalEntry& entry : played_.journal.entries) {
+        for (const JournalEntry& entry : played_.journal.Told().entries) {
             const auto* fight = std::get_if<qarn::Fight>(&entry);
             if (fight == nullptr || fight->attack.side != side) continue;
             const int win = OddsOf(fight->attack.attack, fight->attack.defense).win;

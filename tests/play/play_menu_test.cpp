@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "play/end_report.h"
+#include "play/journal_game.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -107,18 +108,20 @@ TEST(PlayMenu, EndsTheGameOnlyWhereSomebodyAgrees) {
 
 // Red loses a fight, Blue passes, and Red wins the next one.
 TEST(EndReport, TellsWhoWonAndWhoWasLost) {
-    PlayedGame played("LS@9,10 SK@9,10 WS@11,10 TS@11,10 ZA1@10,10");
+    JournalGame played("LS@9,10 SK@9,10 WS@11,10 TS@11,10 ZA1@10,10");
     for (const char* command :
          {"press cmdAttack", "click 9 10", "roll 5", "click 10 10", "tick 2", "press cmdDoneSel",
           "answer yes", "menu mnuPassTurn", "press cmdMove", "click 11 10", "press cmdDoneSel",
           "answer yes", "roll 1"}) {
-        EXPECT_TRUE(played.Do(command) && !IsOver(played.game)) << command;
+        played.DoAll(command);
+        EXPECT_FALSE(IsOver(played.game)) << command;
     }
-    played.Do("click 10 10");
+    played.DoAll("click 10 10");
     ASSERT_TRUE(IsOver(played.game)) << played.game.controls.lblStatus.Caption;
-    const EndReport report = ReportOfEnd(played.game, played.history.Turns());
+    const EndReport report = ReportOfEnd(played.game, played.journal.Told());
     EXPECT_EQ(report.outcome, "Red has won.");
     EXPECT_EQ(report.turns, "3 turns");
+    EXPECT_EQ(report.luck.find("Red won 1 of 2 attacks"), 0u) << report.luck;
     for (const PeopleRecord& one : played.game.record.People) {
         if (one.Side == 0) continue;
         const bool told = report.lost.at(one.Side).find(one.Name) != std::string::npos;

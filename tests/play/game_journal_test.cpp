@@ -1,4 +1,4 @@
-#include "play/keep_journal.h"
+#include "play/game_journal.h"
 
 #include <gtest/gtest.h>
 
@@ -26,37 +26,52 @@ std::vector<fs::path> KeptFiles(const JournalGame& played) {
     return files;
 }
 
-TEST(KeptJournal, GoesOnWhereTheGameWasSaved) {
+TEST(GameJournal, GoesOnWhereTheGameWasSaved) {
     JournalGame played(position);
     played.DoAll(move + "menu mnuSave");
-    const Journal saved = played.journal;
+    const Journal saved = played.journal.Told();
     played.DoAll("press cmdMove; click 9 10; press cmdDoneSel; press cmdMove");
-    EXPECT_NE(played.journal, saved);
+    EXPECT_NE(played.journal.Told(), saved);
     played.OpenAgain();
-    EXPECT_EQ(played.journal, saved);
+    EXPECT_EQ(played.journal.Told(), saved);
 
     // In the middle of a move, too, and under another name.
     played.DoAll("press cmdMove; click 9 10; press cmdDoneSel; click 9 10; close");
-    const Journal closed = played.journal;
+    const Journal closed = played.journal.Told();
     played.OpenAgain();
-    EXPECT_EQ(played.journal, closed);
+    EXPECT_EQ(played.journal.Told(), closed);
     played.DoAll("saveas other.tgf");
     played.path = played.folder / "other.tgf";
     played.OpenAgain();
-    EXPECT_EQ(played.journal, closed);
+    EXPECT_EQ(played.journal.Told(), closed);
     EXPECT_EQ(KeptFiles(played).size(), 2u);
 }
 
-TEST(KeptJournal, BelongsToTheGameThatStandsAsItDid) {
+TEST(GameJournal, LosesWhatIsTakenBack) {
     JournalGame played(position);
-    played.DoAll(move + "menu mnuSave");
-    EXPECT_EQ(TurnsOf(played.journal), 2);
-    WriteFile(played.path, SavedGame("turn2 LS@12,10 ZA1@9,10 Z@1,1"));
-    played.OpenAgain();
-    EXPECT_EQ(TurnsOf(played.journal), 1);
+    const Journal start = played.journal.Told();
+    played.DoAll("press cmdMove; click 12 10; press cmdDoneSel; click 11 10");
+    const Journal step = played.journal.Told();
+    played.DoAll("click 12 10; click 11 10; menu mnuTakeBack; menu mnuTakeBack");
+    EXPECT_EQ(played.journal.Told(), step);
+    played.DoAll("click 10 10; menu mnuCancelMove");
+    EXPECT_EQ(played.journal.Told(), start);
+    played.DoAll("menu mnuOwnGroupsOnly; " + move);
+    EXPECT_EQ(TurnsOf(played.journal.Told()), 2);
+    EXPECT_NE(played.Told().find("  House rules: own groups only.\n  Little Shrews went"),
+              std::string::npos);
 }
 
-TEST(KeptJournal, IsForgottenWhenTheGameEnds) {
+TEST(GameJournal, BelongsToTheGameThatStandsAsItDid) {
+    JournalGame played(position);
+    played.DoAll(move + "menu mnuSave");
+    EXPECT_EQ(TurnsOf(played.journal.Told()), 2);
+    WriteFile(played.path, SavedGame("turn2 LS@12,10 ZA1@9,10 Z@1,1"));
+    played.OpenAgain();
+    EXPECT_EQ(TurnsOf(played.journal.Told()), 1);
+}
+
+TEST(GameJournal, IsForgottenWhenTheGameEnds) {
     JournalGame played("LS@12,10 Q@11,10 WS@11,10 ZA1@10,10");
     played.DoAll("menu mnuSave");
     EXPECT_EQ(KeptFiles(played).size(), 1u);
@@ -66,7 +81,7 @@ TEST(KeptJournal, IsForgottenWhenTheGameEnds) {
     EXPECT_TRUE(KeptFiles(played).empty());
 }
 
-TEST(KeptJournal, DamagedOrUnwritableItDoesNoHarm) {
+TEST(GameJournal, DamagedOrUnwritableItDoesNoHarm) {
     JournalGame played(position);
     played.DoAll(move + "menu mnuSave");
     const fs::path file = KeptFiles(played).front();
@@ -74,17 +89,17 @@ TEST(KeptJournal, DamagedOrUnwritableItDoesNoHarm) {
     for (std::size_t length = 0; length < whole.size(); ++length) {
         WriteFile(file.string(), whole.substr(0, length));
         played.OpenAgain();
-        EXPECT_GE(TurnsOf(played.journal), 1) << length;
+        EXPECT_GE(TurnsOf(played.journal.Told()), 1) << length;
     }
     fs::remove_all(played.folder / "data");
     WriteFile(played.folder / "data", "no folder");
     played.DoAll("menu mnuSave");
     EXPECT_TRUE(played.dialogs.boxes.empty());
     played.OpenAgain();
-    EXPECT_EQ(TurnsOf(played.journal), 1);
+    EXPECT_EQ(TurnsOf(played.journal.Told()), 1);
 }
 
-TEST(KeptJournal, LongOnesLoseTheirOldestLinesAndOldOnesGo) {
+TEST(GameJournal, LongOnesLoseTheirOldestLinesAndOldOnesGo) {
     JournalGame played(position);
     const Ports& ports = played.game.ports;
     std::string text = "end 1\n";
