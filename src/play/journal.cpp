@@ -33,10 +33,12 @@ class Writer {
 public:
     Writer(Journal& journal, const Game& game) : journal_(journal), game_(game) {}
 
-    // A game that is opened again goes on with the turn that it was in.
+    // A game that is opened again goes on with the turn that it was in, and one that ends does so
+    // in the turn that ended it.
     void operator()(const TurnCame& turn) {
         const TurnBegun* last = LastOf<TurnBegun>(journal_);
-        if (last != nullptr && last->side == turn.side) return;
+        const bool ends = std::holds_alternative<Ended>(game_.happenings.back());
+        if (ends || (last != nullptr && last->side == turn.side)) return;
         journal_.entries.emplace_back(TurnBegun{turn.side, OpponentOf(game_, turn.side)});
     }
 
@@ -81,15 +83,9 @@ void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box
 }
 
 int TurnsOf(const Journal& journal) {
-    int turns = 0;
-    const JournalEntry* before = nullptr;
-    for (const JournalEntry& entry : journal.entries) {
-        const bool nothingDone = before != nullptr && std::holds_alternative<TurnBegun>(*before);
-        if (std::holds_alternative<TurnBegun>(entry)) ++turns;
-        if (std::holds_alternative<Ended>(entry) && nothingDone) --turns;
-        before = &entry;
-    }
-    return turns;
+    return static_cast<int>(std::count_if(
+        journal.entries.begin(), journal.entries.end(),
+        [](const JournalEntry& entry) { return std::holds_alternative<TurnBegun>(entry); }));
 }
 
 }  // namespace qarn

@@ -63,7 +63,7 @@ void NoteRules(Journal& journal, const HouseRules& rules);
 /// Adds what an opponent, by its name, has been asked and has answered.
 void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box, Answer answer);
 
-/// How many turns of both sides it tells of, without one in which the game just ended.
+/// How many turns of both sides it tells of.
 int TurnsOf(const Journal& journal);
 
 }  // namespace qarn

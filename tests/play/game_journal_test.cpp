@@ -72,12 +72,13 @@ TEST(GameJournal, BelongsToTheGameThatStandsAsItDid) {
 }
 
 TEST(GameJournal, IsForgottenWhenTheGameEnds) {
-    JournalGame played("LS@12,10 Q@11,10 WS@11,10 ZA1@10,10");
+    JournalGame played("LS@11,10 ZA1@10,10");
     played.DoAll("menu mnuSave");
     EXPECT_EQ(KeptFiles(played).size(), 1u);
-    played.DoAll("roll 1; press cmdAttack; click 11 10; click 10 10");
+    played.DoAll("roll 5; press cmdAttack; click 11 10; click 10 10; tick 1; press cmdDoneSel");
     EXPECT_TRUE(played.game.blnEnded);
-    EXPECT_NE(played.Told().find("  Red won the game.\n"), std::string::npos);
+    EXPECT_NE(played.Told().find("  Blue won the game.\n"), std::string::npos);
+    EXPECT_EQ(TurnsOf(played.journal.Told()), 1);  // the next one has not come
     EXPECT_TRUE(KeptFiles(played).empty());
 }
 
