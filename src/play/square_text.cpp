@@ -90,8 +90,12 @@ std::string NameOfSide(const GameRecord& record, std::uint8_t side) {
 
 std::string NameOfSquare(const Game& game, int X, int Y) {
     const SquareList list = LocationOfPeople(game.record, X, Y);
-    if (!game.view.sides) return Place(game, X, Y) + NamesOn(game.record, list);
-    return Place(game, X, Y) + Owned(game.record, list, ". ", false, "; ") + ".";
+    const std::string step = game.view.reach ? StepTold(game.record, SquareAt(X, Y)) : "";
+    std::string name = Place(game, X, Y);
+    name += game.view.sides ? Owned(game.record, list, ". ", false, "; ") + "."
+                            : NamesOn(game.record, list);
+    if (step.empty()) return name;
+    return name + (game.view.sides ? " " : ". ") + step;
 }
 
 std::string TipOfSquare(const Game& game, int X, int Y) {

@@ -12,7 +12,8 @@ struct GameRecord;
 std::string NameOfSide(const GameRecord& record, std::uint8_t side);
 
 /// Square (X, Y) in words, for those who hear the board: its coordinates, terrain and groups; while
-/// sides are shown, their owners and strengths too.
+/// sides are shown, their owners and strengths too. While reach is shown, what the group in move
+/// would meet with there.
 std::string NameOfSquare(const Game& game, int X, int Y);
 
 /// What the tool tip of square (X, Y) tells: where it is, its terrain, and the groups on it with

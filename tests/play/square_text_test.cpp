@@ -28,5 +28,18 @@ TEST(SquareText, TellsOwnersAndStrengthsWhileSidesAreShown) {
               "(17, 2) Ocean. Badbeasts: Corsair, 3 mobility, 3 attack, 3 defense.");
 }
 
+TEST(SquareText, TellsWhatAStepWouldCostWhileReachIsShown) {
+    PlayedGame played("9,6=0 Q@9,5 Z@17,2");
+    played.Do("menu mnuReach");
+    for (const char* command : {"press cmdMove", "click 9 5", "press cmdDoneSel"}) {
+        played.Do(command);
+    }
+    EXPECT_EQ(NameOfSquare(played.game, 9, 6),
+              "(9, 6) Plain. A step here costs 1 mobility unit of 3.");
+    EXPECT_EQ(TipOfSquare(played.game, 9, 6),
+              "(9, 6) Plain\nA step here costs 1 mobility unit of 3.");
+    EXPECT_EQ(NameOfSquare(played.game, 9, 5), "(9, 5) Mountain: Hero");
+}
+
 }  // namespace
 }  // namespace qarn

@@ -30,6 +30,28 @@ TEST(CodeLayout, KeepsEveryCodeWholeInItsSquare) {
     }
 }
 
+// Boats are folded where more than six stand there.
+TEST(CodeLayout, KeepsPlatesWholeAndLargeCodesLarge) {
+    const QRectF square(3, 5, 47, 63);
+    CodeRoom largePlates = plateRoom;
+    largePlates.largestFont = 0.4;
+    for (const CodeRoom& each : {plateRoom, largePlates}) {
+        QStringList codes;
+        for (int count = 1; count <= 10; ++count) {
+            codes << (count % 4 == 0 ? QString::fromUtf8("BT\u00D77") : "WA1");
+            for (const QRectF& cell : LayOutCodes(codes, square, QFont(), each).cells) {
+                EXPECT_TRUE(square.contains(cell)) << count;
+            }
+        }
+    }
+    const auto sizeOf = [&](const QStringList& codes) {
+        return LayOutCodes(codes, square, QFont(), {.largestFont = 0.4}).font.pixelSize();
+    };
+    EXPECT_EQ(sizeOf({"Q"}), 18);
+    EXPECT_EQ(sizeOf({"Q", "LS"}), 18);
+    EXPECT_GE(sizeOf({"WA1", "WA2", "ZA3"}), 13);
+}
+
 TEST(FittedLabel, ShrinksItsFontUntilTheTextFits) {
     QWidget parent;
     QFont font = parent.font();
