@@ -67,6 +67,7 @@ Answer ConsoleDialogs::Choose(const MessageBox& box) {
         answer = askPerson_(box);
     }
     if (box.Offered == Buttons::OK) return Answer::OK;
+    NoteNobodyAnswered(!answer);
     return answer && Offers(box.Offered, *answer) ? *answer : Declining(box.Offered);
 }
 

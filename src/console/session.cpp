@@ -14,6 +14,7 @@
 #include "core/file_store.h"
 #include "core/game_file.h"
 #include "core/opponents.h"
+#include "core/player_error.h"
 #include "play/play_menu.h"
 #include "play/tell_journal.h"
 #include "rules/terrain.h"
@@ -360,8 +361,17 @@ void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
 // ---- Events ----
 
 void Session::Run(std::string_view name, const std::function<void(Game&)>& handler) {
-    history_.Run(game_, name, handler);
+    std::string unanswered;
+    history_.Run(game_, name, [&](Game& game) {
+        try {
+            handler(game);
+        } catch (const NobodyAnswers& question) {
+            unanswered = question.what();
+            throw;
+        }
+    });
     NoteHappenings();
+    if (!unanswered.empty()) throw Refusal(unanswered);
 }
 
 void Session::NoteHappenings() {

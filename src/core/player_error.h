@@ -11,4 +11,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A question that cannot go without an answer got none, as nobody is there.
+class NobodyAnswers : public PlayerError {
+public:
+    using PlayerError::PlayerError;
+};
+
 }  // namespace qarn

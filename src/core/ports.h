@@ -37,6 +37,9 @@ public:
     /// How many boxes have been confirmed so far: answered with anything but no or cancel.
     int Confirmed() const { return confirmed_; }
 
+    /// True when nobody was there to answer the last choice, which counts as declined then.
+    bool NobodyAnswered() const { return nobodyAnswered_; }
+
     /// From now on the opponent answers the boxes itself, or the person does again.
     void LetOpponentAnswer(bool answers) { opponentAnswers_ = answers; }
 
@@ -57,6 +60,8 @@ public:
     void Tell(const std::string& text) { Show({.Title = {}, .Text = text}); }
 
 protected:
+    void NoteNobodyAnswered(bool nobody) { nobodyAnswered_ = nobody; }
+
     /// Shows the box to a person, who answers it.
     virtual Answer Ask(const MessageBox& box) = 0;
 
@@ -72,6 +77,7 @@ private:
     }
 
     bool opponentAnswers_ = false;
+    bool nobodyAnswered_ = false;
     int confirmed_ = 0;
 };
 

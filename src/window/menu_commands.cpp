@@ -190,12 +190,6 @@ void LeaveForStartWindow(Game& game, bool blnOpen) {
     Form_Unload(game);
 }
 
-bool AsksWhetherRightScenario(Game& game) {
-    return game.ports.dialogs.Show({.Title = "Convert To Right Scenario",
-                                    .Text = "Did this convert to the right scenario?",
-                                    .Offered = Buttons::YesNo}) == Answer::Yes;
-}
-
 }  // namespace
 
 void New_Click(Game& game) { LeaveForStartWindow(game, false); }
@@ -231,21 +225,6 @@ void mnuSummaryTerrain_Click(Game& game) { game.ports.help.ShowHelp("Terrain Inf
 
 // The item is there, and nothing happens.
 void mnuReplay_Click(Game&) {}
-
-void mnuConvertFile_Click(Game& game) {
-    GameRecord& record = game.record;
-    if (!IsKnownScenario(record)) return;
-    do {
-        const std::uint8_t scenario = record.bytScenario;
-        record.bytScenario =
-            scenario >= scenarioCount ? 1 : static_cast<std::uint8_t>(scenario + 1);
-        if (!TrySaveGame(game)) {
-            record.bytScenario = scenario;
-            return;
-        }
-        Form_Load(game, record.strGamePath);
-    } while (!AsksWhetherRightScenario(game));
-}
 
 void mnuSummary_Click(Game& game) {
     game.controls.mnuSummary.Checked = !game.controls.mnuSummary.Checked;

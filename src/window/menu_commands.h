@@ -37,7 +37,8 @@ void mnuReplay_Click(Game& game);
 
 /// Tools > Convert File: saves the game as one of the next scenario, the first after the last,
 /// loads it again and asks whether this is the right one, until the answer is Yes. Stops, with the
-/// scenario that the file holds, when it cannot be saved.
+/// scenario that the file holds, when it cannot be saved. Where nobody answers, it throws
+/// NobodyAnswers after a whole round, with the file as it was.
 void mnuConvertFile_Click(Game& game);
 
 /// Options > Display Summary: turns square summaries on or off, and stores which.

@@ -235,6 +235,26 @@ class ConsoleTest(unittest.TestCase):
         self.assertEqual(_[1]["house"], on)
         self.assertEqual(_[2]["lblStatus"], "It is Red's turn.\nHouse rules: own groups only.")
 
+    def test_convert_file_ends_when_nobody_answers(self):
+        older = saved_game((1, 9, 10), (6, 15, 7), (9, 1, 1)).replace("HM", "7", 1)
+        self.write("g.tgf", older)
+        why = "The file has not been converted, as nobody has answered.\n" + self.path("g.tgf")
+        for answers in (0, 3, 12):
+            objects = self.play("answer" + answers * " no", "state", "menu mnuConvertFile", "state",
+                                "answer yes", "menu mnuConvertFile", arguments=["g.tgf"])
+            _, before, refused, after, _, converted = objects
+            self.assertEqual((refused["ok"], refused["error"]), (False, why))
+            self.assertEqual([box["answer"] for box in refused["boxes"]
+                              if box["buttons"] == "Yes/No"], max(12, answers + 1) * ["no"])
+            self.assertEqual(after, before)
+            self.assertEqual((converted["ok"], converted["record"]["bytScenario"]), (True, 8))
+            self.write("g.tgf", older)
+        self.play("menu mnuConvertFile", "quit", arguments=["g.tgf"])
+        self.assertEqual(self.read("g.tgf"), older)
+        run = self.run_program("menu mnuConvertFile\nno\n", "g.tgf")
+        self.assertEqual((run.returncode, self.read("g.tgf")), (0, older))
+        self.assertIn("as nobody has answered", run.stdout.decode())
+
     def test_same_seed_same_game(self):
         def attacks(seed):
             self.write("s.tgf", saved_game((5, 9, 10), (12, 9, 10), (13, 9, 10), (16, 9, 10),
