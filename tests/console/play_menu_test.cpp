@@ -23,6 +23,8 @@ TEST(PlayMenu, TakesBackByCommands) {
     EXPECT_NE(objects[5]["record"], objects[4]["record"]);
     same(6, 4);
     EXPECT_TRUE(objects[6]["happenings"].empty());
+    EXPECT_EQ(objects[6]["menus"]["mnuTakeBack"]["enabled"], true);
+    EXPECT_EQ(objects[9]["menus"]["mnuTakeBack"]["enabled"], false);
     same(7, 5);
     same(8, 12);
     EXPECT_EQ(objects[9]["error"], "mnuTakeBack can not be chosen now.");
