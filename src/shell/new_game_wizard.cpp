@@ -28,6 +28,15 @@ void SetText(StartWindow& window, const std::string& text) {
     txtNewFilePath_Change(window);
 }
 
+// True while the name that is typed is that of a game in the folder.
+bool ReplacesAGame(const StartWindow& window) {
+    if (window.state.bytWizardStep != 0) return false;
+    std::string name(WithoutBlanks(window.controls.txtNewFilePath.Text));
+    if (!name.ends_with(extension)) name += extension;
+    const auto& games = window.controls.fileLoad.List;
+    return std::find(games.begin(), games.end(), name) != games.end();
+}
+
 void OfferNew(StartControls& controls) {
     controls.cmdNew.Enabled = true;
     controls.DefaultButton = StartControl::cmdNew;
@@ -225,6 +234,7 @@ void cmdNew_Click(StartWindow& window) {
 
 void txtNewFilePath_Change(StartWindow& window) {
     StartControls& controls = window.controls;
+    controls.lblReplaces.Visible = ReplacesAGame(window);
     if (WithoutBlanks(controls.txtNewFilePath.Text).empty()) {
         controls.cmdNew.Enabled = false;
     } else {

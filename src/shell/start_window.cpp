@@ -126,7 +126,12 @@ void PrepareStartWindow(StartWindow& window, bool blnOpen) {
 void RefreshFileList(StartWindow& window) {
     FileList& list = window.controls.fileLoad;
     const std::string selected = SelectedFile(list);
-    list.List = GameFilesIn(list.Path);
+    list.List.clear();
+    list.Told.clear();
+    for (GameFile& file : GameFilesIn(list.Path)) {
+        list.List.push_back(std::move(file.Name));
+        list.Told.push_back(std::move(file.Told));
+    }
     const auto found = std::find(list.List.begin(), list.List.end(), selected);
     const bool there = found != list.List.end();
     list.ListIndex = there ? static_cast<int>(found - list.List.begin()) : -1;

@@ -34,6 +34,7 @@ struct ListBox {
 struct FileList {
     std::string Path;
     std::vector<std::string> List;  ///< names without folder, in the file system's bytes
+    std::vector<std::string> Told;  ///< of each: what game it holds, and of when
     int ListIndex = -1;             ///< as in ListBox
     bool Enabled = true;
     bool Visible = true;
@@ -66,6 +67,11 @@ struct StartControls {
     Label lblInstructions{
         .Caption = "&Type in the name for a new game or select one that already exists."};
     TextBox txtNewFilePath;
+    /// Shown while the name that is typed is that of a game.
+    Label lblReplaces{
+        .Caption =
+            "There is a game of this name. It goes to the wastebasket when the new one starts.",
+        .Visible = false};
     Button cmdNew{.Caption = "&New", .Enabled = false};
     CheckBox chkComputer{.Caption = "&Computer"};
     /// Who plays the side, while chkComputer is ticked, and what to expect of it.

@@ -1,6 +1,7 @@
 #include "ui/choice_list.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <array>
@@ -43,6 +44,14 @@ void ChoiceList::keyPressEvent(QKeyEvent* event) {
         ShowChosen(std::max(currentRow(), 0));
         emit Chosen(currentRow());
     }
+}
+
+void ChoiceList::paintEvent(QPaintEvent* event) {
+    QListWidget::paintEvent(event);
+    if (count() > 0 || whileEmpty_.isEmpty()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, whileEmpty_);
 }
 
 }  // namespace qarn

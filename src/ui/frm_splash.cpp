@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "scenarios/balance.h"
+#include "scenarios/sides_told.h"
 #include "shell/run_start_event.h"
 #include "ui/scenario_picture.h"
 #include "ui/text.h"
@@ -12,8 +13,6 @@
 
 namespace qarn {
 namespace {
-
-constexpr int pictureSquare = 20;  // pixels
 
 void Show(QPushButton& widget, const Button& button) {
     widget.setText(ToQt(button.Caption));
@@ -181,6 +180,7 @@ void FrmSplash::ShowControls() {
     Show(lblInstructions_, controls.lblInstructions);
     Show(txtNewFilePath_, controls.txtNewFilePath);
     txtNewFilePath_.setValidator(controls.txtNewFilePath.Storable ? storableText_ : nullptr);
+    Show(lblReplaces_, controls.lblReplaces);
     Show(cmdNew_, controls.cmdNew);
     ShowPlayer();
     ShowScenario();
@@ -217,23 +217,29 @@ void FrmSplash::ShowScenario() {
     Show(lblScenarioBackground_, controls.lblScenarioBackground);
     const bool chosen = list.Visible && list.ListIndex >= 0;
     picture_.setVisible(chosen);
+    sides_.setVisible(chosen);
     balance_.setVisible(chosen);
     if (!chosen) return;
-    picture_.setPixmap(ScenarioPicture(list.ListIndex + 1, pictureSquare, devicePixelRatioF()));
-    lblScenarioBackground_.setFixedWidth(columnCount * pictureSquare);
-    balance_.setText("Balance: " + ToQt(BalanceOfScenario(list.ListIndex + 1)));
-    balance_.setFixedWidth(columnCount * pictureSquare);
+    const int scenario = list.ListIndex + 1;
+    picture_.setPixmap(ScenarioPicture(scenario, pictureSquare, devicePixelRatioF()));
+    sides_.setText(ToQt(ToldOfSide(scenario, 1) + '\n' + ToldOfSide(scenario, 2)));
+    balance_.setText("Balance: " + ToQt(BalanceOfScenario(scenario)));
+    for (QLabel* label : {&lblScenarioBackground_, &sides_, &balance_}) {
+        label->setFixedWidth(columnCount * pictureSquare);
+    }
 }
 
 void FrmSplash::ShowFiles() {
     const FileList& list = window_.controls.fileLoad;
-    QStringList names;
-    for (const std::string& name : list.List) names << FileNameToQt(name);
+    QStringList games;
+    for (std::size_t row = 0; row < list.List.size(); ++row) {
+        games << FileNameToQt(list.List[row]) + '\n' + ToQt(list.Told[row]);
+    }
     QStringList shown;
     for (int row = 0; row < fileLoad_.count(); ++row) shown << fileLoad_.item(row)->text();
-    if (names != shown) {
+    if (games != shown) {
         fileLoad_.clear();
-        fileLoad_.addItems(names);
+        fileLoad_.addItems(games);
     }
     fileLoad_.ShowChosen(list.ListIndex);
     fileLoad_.setEnabled(list.Enabled);

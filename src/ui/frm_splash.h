@@ -80,6 +80,7 @@ private:
     QLabel lblInstructions_;
     QLineEdit txtNewFilePath_;
     QValidator* storableText_ = nullptr;
+    QLabel lblReplaces_;
     QPushButton cmdNew_;
     QCheckBox chkComputer_;
     QComboBox cboOpponent_;
@@ -87,6 +88,7 @@ private:
     ChoiceList lstScenarios_;
     QLabel picture_;
     QLabel lblScenarioBackground_;
+    QLabel sides_;
     QLabel balance_;
     ChoiceList fileLoad_;
     QPushButton cmdLoad_;

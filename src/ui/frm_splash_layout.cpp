@@ -3,7 +3,9 @@
 #include <QValidator>
 
 #include "core/code_page.h"
+#include "core/square.h"
 #include "ui/frm_splash.h"
+#include "ui/scenario_picture.h"
 #include "ui/text.h"
 
 namespace qarn {
@@ -43,7 +45,7 @@ void FrmSplash::Lay() {
     all->addLayout(LayBottom());
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     AlignButtons();
-    resize(720, 520);
+    resize(720, 580);
 }
 
 // Those at the right edge make a column as wide as the widest of them.
@@ -63,7 +65,8 @@ QLayout* FrmSplash::LayNewGame() {
         cboOpponent_.addItem(ToQt(opponent));
     }
     cboOpponent_.setAccessibleName("Opponent");
-    lblOpponent_.setWordWrap(true);
+    for (QLabel* label : {&lblReplaces_, &lblOpponent_}) label->setWordWrap(true);
+    lblReplaces_.setObjectName("lblReplaces");
     auto* line = new QHBoxLayout;
     line->addWidget(&txtNewFilePath_, 1);
     line->addWidget(&chkComputer_);
@@ -72,6 +75,7 @@ QLayout* FrmSplash::LayNewGame() {
     auto* part = new QVBoxLayout;
     part->addWidget(&lblInstructions_);
     part->addLayout(line);
+    part->addWidget(&lblReplaces_);
     part->addWidget(&lblOpponent_);
     return part;
 }
@@ -83,6 +87,8 @@ QLayout* FrmSplash::LayLists() {
     }
     lstScenarios_.setAccessibleName("Scenarios");
     fileLoad_.setAccessibleName("Saved games");
+    fileLoad_.setSpacing(gap / 4);
+    fileLoad_.ShowWhileEmpty("No games are saved here yet.\nType in a name above and press New.");
     txtBackGround_.setReadOnly(true);
     txtBackGround_.setAccessibleName("Program background");
     auto* part = new QHBoxLayout;
@@ -102,10 +108,13 @@ QLayout* FrmSplash::LayStory() {
     lblScenarioBackground_.setWordWrap(true);
     lblScenarioBackground_.setAlignment(Qt::AlignTop);
     balance_.setObjectName("balance");
-    balance_.setWordWrap(true);
+    sides_.setObjectName("sides");
+    for (QLabel* label : {&sides_, &balance_}) label->setWordWrap(true);
+    picture_.setFixedHeight(rowCount * pictureSquare + 1);
     auto* part = new QVBoxLayout;
     part->addWidget(&picture_);
     part->addWidget(&lblScenarioBackground_, 1);
+    part->addWidget(&sides_);
     part->addWidget(&balance_);
     return part;
 }

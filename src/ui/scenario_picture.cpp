@@ -4,8 +4,26 @@
 
 #include "rules/terrain.h"
 #include "scenarios/setup.h"
+#include "ui/side_plate.h"
 
 namespace qarn {
+namespace {
+
+QRectF PlateOf(const RosterEntry& entry, int square) {
+    const double edge = square / 6.0;
+    return QRectF((entry.LocationX - 1) * square + 1, (entry.LocationY - 1) * square + 1,
+                  square - 1, square - 1)
+        .adjusted(edge, edge, -edge, -edge);
+}
+
+// Where groups stand; a boat or the cart only where nobody does.
+void PaintGroups(QPainter& painter, const ScenarioData& data, int square) {
+    for (auto entry = data.Roster.rbegin(); entry != data.Roster.rend(); ++entry) {
+        PaintPlate(painter, PlateOf(*entry, square), entry->Side, "");
+    }
+}
+
+}  // namespace
 
 QPixmap ScenarioPicture(int scenario, int square, qreal devicePixelRatio) {
     const ScenarioData& data = DataOfScenario(scenario);
@@ -23,6 +41,7 @@ QPixmap ScenarioPicture(int scenario, int square, qreal devicePixelRatio) {
                              QColor::fromRgb(color.rgb));
         }
     }
+    PaintGroups(painter, data, square);
     return picture;
 }
 

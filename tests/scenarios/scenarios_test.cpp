@@ -4,6 +4,7 @@
 #include "rules/casualties.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
+#include "scenarios/sides_told.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -26,6 +27,16 @@ TEST(Catalogue, BindsNumberCodeAndTitles) {
     EXPECT_EQ(NamesOfScenario(11).CaptionTitle, "The Varrowdene");
     EXPECT_THROW(NamesOfScenario(0), std::out_of_range);
     EXPECT_THROW(DataOfScenario(13), std::out_of_range);
+}
+
+TEST(Catalogue, TellsWhatASideIs) {
+    EXPECT_EQ(ToldOfSide(1, 1),
+              "Goodbeasts: 10 groups, led by Brook Otters, 41 attack, 40 defense, in the north.");
+    EXPECT_EQ(
+        ToldOfSide(1, 2),
+        "Badbeasts: 10 groups, led by Toll-Lord Maddern, 42 attack, 42 defense, in the east.");
+    EXPECT_EQ(ToldOfSide(3, 1).substr(ToldOfSide(3, 1).rfind(", ")), ", all over the board.");
+    EXPECT_THROW(ToldOfSide(0, 1), std::out_of_range);
 }
 
 TEST(Catalogue, ListNamesAppends) {

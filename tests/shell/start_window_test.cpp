@@ -229,7 +229,10 @@ TEST_F(StartWindowTest, AGameThatIsReplacedGoesToTheWastebasket) {
 }
 
 TEST_F(StartWindowTest, SavedGamesAreListedDeletedAndLoaded) {
-    for (const char* name : {"b.tgf", "A.TGF", "c.tgf", "notes.txt"}) WriteFile(folder / name, "");
+    for (const char* name : {"b.tgf", "A.TGF", "c.tgf", "notes.txt"}) {
+        WriteFile(folder / name, "");
+        fs::last_write_time(folder / name, fs::file_time_type());  // all at once
+    }
     fs::create_directory(folder / "folder.tgf");
     PrepareStartWindow(window, true);
     EXPECT_EQ(controls.SetFocus, StartControl::fileLoad);
@@ -267,6 +270,40 @@ TEST_F(StartWindowTest, SavedGamesAreListedDeletedAndLoaded) {
     fileLoad_DblClick(window);
     EXPECT_EQ(window.strGamePath, folder / "A.TGF");
     EXPECT_EQ(window.Next, NextWindow::Game);
+}
+
+TEST_F(StartWindowTest, TellsOfEachGameWhatItIsTheOneSavedLastFirst) {
+    const auto noon =
+        fs::file_time_type::clock::from_sys(std::chrono::system_clock::from_time_t(1'780'000'000));
+    int later = 0;
+    const auto write = [&](const std::string& name, const std::string& text) {
+        WriteFile(folder / name, text);
+        fs::last_write_time(folder / name, noon + std::chrono::minutes(later++));
+    };
+    const std::string players =
+        "Zo\xEB" + std::string(51, ' ') + "False\r\n" + "Robot" + std::string(49, ' ') + "True\r\n";
+    write("a.tgf", "HM\r\n" + players + " 2 \r\n");
+    write("b.tgf", "ST\r\n" + players + " 0 \r\n");
+    write("c.tgf", "HM\r\nOne");
+    RefreshFileList(window);
+    EXPECT_EQ(controls.fileLoad.List, (Texts{"c.tgf", "b.tgf", "a.tgf"}));
+    const Texts& told = controls.fileLoad.Told;
+    EXPECT_NE(told[0].find("side 2"), std::string::npos) << told[0];
+    EXPECT_TRUE(told[1].starts_with("Stonemantle: Zo\u00EB and Robot. Not begun yet. ")) << told[1];
+    EXPECT_TRUE(told[2].starts_with("Hollowmere: Zo\u00EB and Robot. Robot to move. 2")) << told[2];
+    EXPECT_NE(told[2].find(" May 2026, "), std::string::npos) << told[2];
+
+    for (const auto& [typed, replaces] : std::map<std::string, bool>{
+             {" a ", true}, {"b.tgf", true}, {"a.TGF", false}, {"ab", false}, {"", false}}) {
+        Type(typed);
+        EXPECT_EQ(controls.lblReplaces.Visible, replaces) << typed;
+    }
+    TypeAndPressNew("a");
+    SelectScenario(7);
+    EXPECT_TRUE(controls.lblReplaces.Visible);
+    Press(cmdNew_Click);
+    Type("a");
+    EXPECT_FALSE(controls.lblReplaces.Visible);
 }
 
 TEST_F(StartWindowTest, TheProgramBackgroundComesAndGoes) {

@@ -9,6 +9,7 @@
 
 #include "scenarios/balance.h"
 #include "scenarios/catalogue.h"
+#include "scenarios/sides_told.h"
 #include "support/fake_desktop.h"
 #include "support/fake_ports.h"
 #include "ui/window_script.h"
@@ -19,7 +20,12 @@ namespace {
 class StartWindowOnScreen : public testing::Test {
 protected:
     StartWindowOnScreen() {
-        for (const char* name : {"a.tgf", "b.tgf", "c.tgf"}) WriteFile(folder / name, "HM\r\n");
+        int age = 0;
+        for (const char* name : {"a.tgf", "b.tgf", "c.tgf"}) {
+            WriteFile(folder / name, "HM\r\n");
+            const auto now = std::filesystem::file_time_type::clock::now();
+            std::filesystem::last_write_time(folder / name, now - std::chrono::hours(++age));
+        }
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
@@ -83,7 +89,7 @@ protected:
                 if (button->property("default").toBool()) text = "*" + text;
             } else if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
                 for (const QListWidgetItem* item : list->selectedItems())
-                    text += "=" + item->text();
+                    text += "=" + item->text().section('\n', 0, 0);
             } else if (const auto* choice = qobject_cast<const QComboBox*>(widget)) {
                 text = choice->currentText();
             } else if (text == "txtNewFilePath") {
@@ -118,6 +124,7 @@ TEST_F(StartWindowOnScreen, MakesANewGameByKeyboardAlone) {
     Key(Qt::Key_End);
     EXPECT_TRUE(Widget("balance")->isVisible());
     EXPECT_EQ(Text("balance"), "Balance: " + BalanceOfScenario(ScenarioNumber("AM")));
+    EXPECT_NE(Text("sides").find("\n" + ToldOfSide(ScenarioNumber("AM"), 2)), std::string::npos);
     EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked *&Next lstScenarios=Ambermoor E&xit");
     Key(Qt::Key_Return);
     EXPECT_EQ(Seen(), "'' (*&Next) &Computer (lstScenarios=Ambermoor) E&xit");
@@ -256,7 +263,7 @@ TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
 
     window.Prepare(true);
     EXPECT_EQ(Focus(), "fileLoad");
-    DoubleClickRow("fileLoad", 3);
+    DoubleClickRow("fileLoad", 0);  // the one saved last
     EXPECT_EQ(window.Shown().Next, NextWindow::Game);
     EXPECT_EQ(window.Shown().strGamePath, folder / "d.tgf");
 }
