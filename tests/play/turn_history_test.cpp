@@ -32,57 +32,39 @@ public:
     int Turns() const { return turns_; }
     int TakenBack() const { return takenBack_; }
 
-    // One event of a person, and what it leaves to be taken back.
     void DoSomething() {
         const Seen before = See();
         played_.dialogs.queued.assign(3, Below(4) > 0 ? Answer::Yes : Answer::No);
         played_.random.queued = {Below(5) / 5.0, Below(5) / 5.0};
-        const std::size_t boxes = played_.dialogs.boxes.size();
-        const std::string command = Command();
-        if (!played_.Do(command)) return;
-        const auto& happenings = played_.game.happenings;
-        const auto answers = std::span(played_.dialogs.answers).subspan(boxes);
-        const bool confirmed = std::ranges::count(answers, Answer::No) < std::ssize(answers);
-        const bool passed = std::ranges::count(happenings, Happening(TurnCame{1})) > 0 ||
-                            std::ranges::count(happenings, Happening(TurnCame{2})) > 0;
-        if (confirmed || passed) {
-            seen_.clear();
-            EXPECT_FALSE(CanTakeBack()) << command;
-            turns_ += passed ? 1 : 0;
-            open_ = !IsPersonsMoveUnderWay(Record());
-        } else if (open_ && (before.move || IsPersonsMoveUnderWay(Record()))) {
-            seen_.push_back(before);
-        }
+        const std::uint8_t turn = Record().bytTurn;
+        if (!played_.Do(Command())) return;
+        seen_.resize(played_.history.Events(), before);
+        turns_ += Record().bytTurn != turn ? 1 : 0;
     }
 
     void TakeSomeBack() {
-        for (int events = 1 + Below(4); events > 0 && !seen_.empty(); --events, ++takenBack_) {
-            ASSERT_TRUE(CanTakeBack());
-            const bool whole = Below(5) == 0 && IsPersonsMoveUnderWay(Record());
-            const auto start = std::find_if(seen_.rbegin(), seen_.rend(),
-                                            [](const Seen& one) { return !one.move; });
-            ASSERT_TRUE(played_.Do(whole ? "menu mnuCancelMove" : "menu mnuTakeBack"));
-            if (whole) seen_.erase(start.base(), seen_.end());
-            ASSERT_EQ(See().state, seen_.back().state);
-            const std::string& file = seen_.back().file;
-            ASSERT_TRUE(file.empty() || file == Saved());
+        for (int times = 1 + Below(4); times > 0 && !seen_.empty(); --times) {
+            const bool whole = Below(5) == 0 && played_.Do("menu mnuCancelMove");
+            ASSERT_TRUE(whole || played_.Do("menu mnuTakeBack"));
+            ASSERT_FALSE(whole && IsPersonsMoveUnderWay(Record()));
+            const Seen& before = seen_.at(played_.history.Events());
+            ASSERT_EQ(See().state, before.state);
+            ASSERT_TRUE(before.file.empty() || before.file == Saved());
+            ASSERT_TRUE(played_.game.happenings.empty());
             played_.ExpectBoardShown();
-            EXPECT_TRUE(played_.game.happenings.empty());
-            seen_.pop_back();
+            seen_.resize(played_.history.Events());
+            ++takenBack_;
         }
-        EXPECT_EQ(CanTakeBack(), !seen_.empty());
     }
 
 private:
     struct Seen {
         GameState state;
-        bool move = false;  // is under way
-        std::string file;   // empty: not saved
+        std::string file;  // empty: not saved
     };
 
     const GameRecord& Record() const { return played_.game.record; }
     int Below(int bound) { return static_cast<int>(chance_() % static_cast<unsigned>(bound)); }
-    bool CanTakeBack() { return played_.game.controls.mnuTakeBack.Enabled; }
 
     std::string Saved() {
         SaveGame(played_.game);
@@ -91,9 +73,7 @@ private:
 
     Seen See() {
         const Game& game = played_.game;
-        return {{game.record, game.controls, game.blnOpen},
-                IsPersonsMoveUnderWay(game.record),
-                Below(200) == 0 ? Saved() : ""};
+        return {{game.record, game.controls, game.blnOpen}, Below(200) == 0 ? Saved() : ""};
     }
 
     std::string Near(int place, int last) {
@@ -102,27 +82,22 @@ private:
 
     // Mostly what the game waits for, and now and then anything else.
     std::string Command() {
-        const Controls& controls = played_.game.controls;
-        const auto& at = Record().People.at(static_cast<std::size_t>(1 + Below(peopleCount)));
-        const std::string own =
-            "click " + std::to_string(at.LocationX) + " " + std::to_string(at.LocationY);
-        const Square from = Record().blnMoveUnderWay
-                                ? Square{Record().bytGroupX, Record().bytGroupY}
-                                : Square{Record().bytAnchorX, Record().bytAnchorY};
-        const std::string near = "click" + Near(from.X, columnCount) + Near(from.Y, rowCount);
-        const std::string tick =
-            (Below(2) == 0 ? "tick " : "untick ") + std::to_string(1 + Below(4));
-        const bool starts = Record().blnMoveUnderWay || Record().blnAttackerChosen;
-        const std::string commands[] = {Below(3) > 0 ? "press cmdMove" : "press cmdAttack", tick,
-                                        controls.cmdDoneSel.Visible ? "press cmdDoneSel" : near,
-                                        starts || !OnBoard(at) ? near : own};
+        const GameRecord& record = Record();
+        const auto& at = record.People.at(static_cast<std::size_t>(1 + Below(peopleCount)));
+        const bool starts = !record.blnMoveUnderWay && !record.blnAttackerChosen && OnBoard(at);
+        const int X = starts ? at.LocationX : record.bytClickX;
+        const int Y = starts ? at.LocationY : record.bytClickY;
+        const std::string click = "click" + Near(X, columnCount) + Near(Y, rowCount);
+        const std::string commands[] = {
+            Below(3) > 0 ? "press cmdMove" : "press cmdAttack",
+            (Below(2) == 0 ? "tick " : "untick ") + std::to_string(1 + Below(4)),
+            played_.game.controls.cmdDoneSel.Visible ? "press cmdDoneSel" : click, click};
         return commands[Below(4)];
     }
 
     std::mt19937 chance_;
     PlayedGame played_;
-    std::vector<Seen> seen_;
-    bool open_ = true;
+    std::vector<Seen> seen_;  // before each of the events that can be taken back
     int turns_ = 0;
     int takenBack_ = 0;
 };
