@@ -5,16 +5,12 @@
 namespace qarn {
 namespace {
 
-// A move comes step by step. One that was taken back in part goes on from where it is now.
+// A move comes step by step.
 void Walk(Path& path, const Path& steps) {
-    std::size_t kept = path.size();
-    while (kept > 0 && path[kept - 1] != steps[0]) --kept;
-    Path walked;
-    for (std::size_t i = 0; i + 1 < kept; ++i) walked.push_back(path[i]);
-    for (const Square square : steps) {
-        if (walked.size() < longestPath) walked.push_back(square);
+    if (path.empty()) path.push_back(steps[0]);
+    for (std::size_t i = 1; i < steps.size() && path.size() < longestPath; ++i) {
+        path.push_back(steps[i]);
     }
-    path = walked;
 }
 
 struct Follow {
