@@ -156,9 +156,7 @@ void AddGame(Json& object, const Game& game) {
                        {"mnuConvertFile", MenuJson(controls.mnuConvertFile)},
                        {"mnuSummary", MenuJson(controls.mnuSummary)},
                        {"mnuTGF", MenuJson(controls.mnuTGF)},
-                       {"mnuAbout", MenuJson(controls.mnuAbout)},
-                       {"mnuTakeBack", MenuJson(controls.mnuTakeBack)},
-                       {"mnuCancelMove", MenuJson(controls.mnuCancelMove)}};
+                       {"mnuAbout", MenuJson(controls.mnuAbout)}};
     object["lblStatus"] = controls.lblStatus.Caption;
     object["lblDetailMore"] = controls.lblDetailMore.Caption;
     object["lblSummary"] = controls.lblSummary.Caption;

@@ -19,7 +19,6 @@ TEST(PlayMenu, TakesBackByCommands) {
         }
     };
     same(4, 2);
-    EXPECT_EQ(objects[4]["menus"]["mnuTakeBack"]["enabled"], true);
     EXPECT_NE(objects[6]["record"], objects[5]["record"]);
     same(7, 0);
     EXPECT_EQ(objects[8]["error"], "mnuTakeBack can not be chosen now.");
