@@ -41,6 +41,23 @@ bool IsQuit(const std::string& line) {
     return first != std::string::npos && line.substr(first, last - first + 1) == "quit";
 }
 
+// Gives the next command, passing over what is none; false when there are no more. A person is
+// prompted for it.
+bool TakeCommand(const Commands& commands, std::ostream* prompts, std::string& line) {
+    do {
+        if (commands.isAskedToEnd()) return false;
+        if (prompts != nullptr) *prompts << "> " << std::flush;
+        if (!std::getline(commands.in, line) || IsQuit(line)) return false;
+    } while (IsPassedOver(line));
+    return true;
+}
+
+// The exit status.
+int EndOf(Session& session, const Commands& commands) {
+    if (commands.isAskedToEnd()) session.CloseWithoutBoxes();
+    return session.CurrentGame().exitStatus;
+}
+
 std::string ChoicesOf(Buttons offered) {
     switch (offered) {
         case Buttons::YesNo:
@@ -90,18 +107,16 @@ private:
 
 }  // namespace
 
-int RunForProgram(std::istream& in, std::ostream& out, std::ostream& errors,
+int RunForProgram(const Commands& commands, std::ostream& out, std::ostream& errors,
                   const DesktopPorts& desktop, const std::string& file) {
-    Session session(desktop);
+    Session session(desktop, commands.isAskedToEnd);
     if (!file.empty()) {
         const std::string error = Execute(session, {"open", file});
         if (!error.empty()) errors << error << std::endl;
         session.Dialogs().TakeShown();
         session.TakeHappenings();
     }
-    std::string line;
-    while (std::getline(in, line) && !IsQuit(line)) {
-        if (IsPassedOver(line)) continue;
+    for (std::string line; TakeCommand(commands, nullptr, line);) {
         CommandOutcome outcome;
         outcome.error = ExecuteLine(session, line);
         outcome.boxes = session.Dialogs().TakeShown();
@@ -110,13 +125,14 @@ int RunForProgram(std::istream& in, std::ostream& out, std::ostream& errors,
         outcome.answers = session.TakeAnswers();
         out << OneLine(StateJson(outcome, session.CurrentGame())) << std::endl;
     }
-    return session.CurrentGame().exitStatus;
+    return EndOf(session, commands);
 }
 
-int RunForPerson(std::istream& in, std::ostream& out, const DesktopPorts& desktop,
+int RunForPerson(const Commands& commands, std::ostream& out, const DesktopPorts& desktop,
                  const std::string& file, bool colors) {
-    Session session(desktop);
-    session.Dialogs().SetAskPerson([&](const MessageBox& box) { return AskPerson(in, out, box); });
+    Session session(desktop, commands.isAskedToEnd);
+    session.Dialogs().SetAskPerson(
+        [&](const MessageBox& box) { return AskPerson(commands.in, out, box); });
     session.Dialogs().SetTellPerson([&](const MessageBox& box, Answer answer) {
         out << "\n--- " << box.Text << " (" << WordOf(answer) << ")\n";
     });
@@ -126,17 +142,14 @@ int RunForPerson(std::istream& in, std::ostream& out, const DesktopPorts& deskto
     } else {
         terminal.Show(session, Execute(session, {"open", file}));
     }
-    std::string line;
-    while (!session.CurrentGame().blnEnded && out << "> " << std::flush && std::getline(in, line) &&
-           !IsQuit(line)) {
-        if (IsPassedOver(line)) continue;
+    for (std::string line; !session.CurrentGame().blnEnded && TakeCommand(commands, &out, line);) {
         if (line == "help") {
             PrintHelp(out);
         } else {
             terminal.Show(session, ExecuteLine(session, line));
         }
     }
-    return session.CurrentGame().exitStatus;
+    return EndOf(session, commands);
 }
 
 }  // namespace qarn

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 
@@ -7,14 +8,21 @@
 
 namespace qarn {
 
+/// Where the commands come from, and whether the program is asked to end in between: the game is
+/// then closed without boxes, and so saved.
+struct Commands {
+    std::istream& in;
+    std::function<bool()> isAskedToEnd = [] { return false; };
+};
+
 /// Lets a program play: one JSON object a command, flushed before the next command is read. Opens
 /// `file` first when it is not empty; why that was refused goes to `errors`. Gives the exit status.
-int RunForProgram(std::istream& in, std::ostream& out, std::ostream& errors,
+int RunForProgram(const Commands& commands, std::ostream& out, std::ostream& errors,
                   const DesktopPorts& desktop, const std::string& file);
 
 /// Lets a person play over a terminal: the board in colour when `colors` is true, message boxes
 /// asked at the prompt. Gives the exit status.
-int RunForPerson(std::istream& in, std::ostream& out, const DesktopPorts& desktop,
+int RunForPerson(const Commands& commands, std::ostream& out, const DesktopPorts& desktop,
                  const std::string& file, bool colors);
 
 }  // namespace qarn

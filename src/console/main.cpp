@@ -2,12 +2,15 @@
 
 #include <exception>
 #include <iostream>
+#include <istream>
 #include <span>
 
 #include "console/front_end.h"
 #include "console/options.h"
+#include "console/watched_input.h"
 #include "console/words.h"
 #include "desktop/linux_desktop.h"
+#include "desktop/process_signals.h"
 
 namespace {
 
@@ -30,9 +33,12 @@ int Run(const qarn::Options& options) {
         return 0;
     }
     LinuxDesktop desktop;
+    WatchedInput input(STDIN_FILENO, NoteEndSignals());
+    std::istream in(&input);
+    const Commands commands{in, [&] { return IsAskedToEnd() || input.HasHungUp(); }};
     if (options.json)
-        return RunForProgram(std::cin, std::cout, std::cerr, desktop.Ports(), options.file);
-    return RunForPerson(std::cin, std::cout, desktop.Ports(), options.file,
+        return RunForProgram(commands, std::cout, std::cerr, desktop.Ports(), options.file);
+    return RunForPerson(commands, std::cout, desktop.Ports(), options.file,
                         isatty(STDOUT_FILENO) != 0);
 }
 
@@ -40,6 +46,7 @@ int Run(const qarn::Options& options) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    qarn::TellFullQuotas();
     try {
         const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
         return Run(qarn::ParseOptions(arguments.subspan(1)));

@@ -108,8 +108,9 @@ std::optional<int> CodeOfTerrainDetails(std::string_view name) {
 
 }  // namespace
 
-Session::Session(const DesktopPorts& desktop)
-    : game_{.record = {},
+Session::Session(const DesktopPorts& desktop, std::function<bool()> isAskedToEnd)
+    : isAskedToEnd_(std::move(isAskedToEnd)),
+      game_{.record = {},
             .controls = {},
             .ports = {dialogs_, random_, help_, desktop.settings, desktop.fileTypes,
                       desktop.folders}} {
@@ -265,7 +266,10 @@ void Session::ChooseMenu(const Words& words) {
 void Session::PassTime(const Words& words) {
     const long times =
         words.size() > 1 ? ParseNumber<long>(words[1], 1, std::numeric_limits<long>::max()) : 1;
-    for (long time = 0; time < times && game_.blnOpen && game_.controls.tmrAI.Enabled; ++time) {
+    const auto goesOn = [&] {
+        return game_.blnOpen && game_.controls.tmrAI.Enabled && !isAskedToEnd_();
+    };
+    for (long time = 0; time < times && goesOn(); ++time) {
         qarn::Tick(game_);
         history_.NoteTick(game_);
         NoteHappenings();
@@ -357,6 +361,10 @@ void Session::ChooseInMenuPlay(const Words& words) {
 void Session::AskJournal(const Words&) { answers_.journal = TellJournal(journal_.Told(), game_); }
 
 void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
+
+void Session::CloseWithoutBoxes() {
+    if (game_.blnOpen) Run("Form_Unload", qarn::CloseWithoutBoxes);
+}
 
 // ---- Events ----
 

@@ -33,12 +33,17 @@ public:
     /// All commands; the front ends know some more of their own.
     static std::span<const Command> Commands();
 
-    explicit Session(const DesktopPorts& desktop);
+    /// `isAskedToEnd` stops a command that goes on for long.
+    explicit Session(
+        const DesktopPorts& desktop, std::function<bool()> isAskedToEnd = [] { return false; });
 
     /// Carries out one command, taken apart into words (at least one). Throws Refusal, and nothing
     /// else, for what a person could not do and for a fault of the program; nothing has changed
     /// then.
     void Execute(const Words& words);
+
+    /// Closes the game, if one is open, as the command does, but without asking anything.
+    void CloseWithoutBoxes();
 
     const Game& CurrentGame() const { return game_; }
     ConsoleDialogs& Dialogs() { return dialogs_; }
@@ -81,6 +86,7 @@ private:
     void SetTick(const std::string& word, bool ticked);
     void RequireRunning() const;
 
+    std::function<bool()> isAskedToEnd_;
     ConsoleDialogs dialogs_;
     ConsoleRandomNumbers random_;
     ConsoleHelp help_;

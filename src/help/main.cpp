@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "desktop/help_program.h"
+#include "desktop/process_signals.h"
 #include "help/viewer.h"
 
 namespace {
@@ -20,6 +21,7 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    qarn::TellFullQuotas();
     const QtMessageHandler usual = qInstallMessageHandler(TellNoDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(usual);

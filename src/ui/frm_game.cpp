@@ -103,7 +103,20 @@ void FrmGame::RunAlone(const std::function<void()>& event) {
     } else {
         journal_.Follow(game_, history_);
     }
-    BringUpToDate();
+    if (std::exchange(closing_, false)) {
+        CloseWithoutBoxes();
+    } else {
+        BringUpToDate();
+    }
+}
+
+void FrmGame::CloseWithoutBoxes() {
+    dialogs_.GiveUp();
+    closing_ = running_;
+    if (running_) return;
+    RunAlone([this] {
+        if (game_.blnOpen) history_.Run(game_, "Form_Unload", qarn::CloseWithoutBoxes);
+    });
 }
 
 void FrmGame::BringUpToDate() {

@@ -36,6 +36,10 @@ public:
     /// Opens a game file and shows the window. The game has ended when it could not be opened.
     void Open(const std::string& strGamePath);
 
+    /// Closes the window where nobody can be asked: what a box stands open for is given up, and the
+    /// game is saved.
+    void CloseWithoutBoxes();
+
     /// The game, which has ended, or was left, once it is no longer open.
     const Game& ShownGame() const { return game_; }
 
@@ -90,6 +94,7 @@ private:
     TurnHistory history_;
     GameJournal journal_;
     bool running_ = false;            // a handler runs, perhaps with a box open
+    bool closing_ = false;            // ... and the window closes as soon as it is given up
     std::optional<bool> fullScreen_;  // as it was chosen last
     bool fitsScreen_ = false;         // with the frame that it has been given
 

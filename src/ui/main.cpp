@@ -6,6 +6,7 @@
 #include <span>
 #include <thread>
 
+#include "desktop/process_signals.h"
 #include "shell/command_line.h"
 #include "ui/program.h"
 
@@ -24,6 +25,7 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    qarn::TellFullQuotas();
     // The font configuration takes long to read. Qt needs it for the first window only, so it is
     // read while Qt connects to the display.
     std::thread fontReader([] { FcInit(); });

@@ -1,11 +1,14 @@
 #include "ui/program.h"
 
 #include <QApplication>
+#include <QDialog>
+#include <QSocketNotifier>
 
 #include "desktop/desktop_display.h"
 #include "desktop/desktop_wastebasket.h"
 #include "desktop/linux_desktop.h"
 #include "desktop/login_manager.h"
+#include "desktop/process_signals.h"
 #include "play/end_report.h"
 #include "ui/frm_end.h"
 #include "ui/frm_game.h"
@@ -18,9 +21,15 @@ namespace {
 // The windows of one run, each shown until another one is next.
 class Program {
 public:
+    // A person who logs out, and whoever ends the program from outside, is asked nothing.
+    Program() : signals_(NoteEndSignals(), QSocketNotifier::Read) {
+        QObject::connect(&signals_, &QSocketNotifier::activated, &signals_, [this] { End(); });
+        QObject::connect(qApp, &QGuiApplication::commitDataRequest, &signals_, [this] { End(); });
+    }
+
     int Run(const std::string& strCommandLine) {
         StartUp(strCommandLine);
-        while (next_ != NextWindow::None) {
+        while (next_ != NextWindow::None && !ending_) {
             if (next_ == NextWindow::Start) {
                 ShowStartWindow();
             } else {
@@ -48,13 +57,15 @@ private:
 
     void ShowGameWindow() {
         FrmGame window(random_, desktop_.Ports());
+        game_ = &window;
         window.Open(strGamePath_);
         if (window.ShownGame().blnOpen) QApplication::exec();
+        game_ = nullptr;
         fromGame_ = true;
         blnOpen_ = window.ShownGame().blnLeftByOpen;
         exitStatus_ = window.ShownGame().exitStatus;
         next_ = window.ShownGame().blnEnded ? NextWindow::None : NextWindow::Start;
-        if (IsOver(window.ShownGame())) AskWhatNext(window);
+        if (IsOver(window.ShownGame()) && !ending_) AskWhatNext(window);
     }
 
     void AskWhatNext(FrmGame& window) {
@@ -63,6 +74,15 @@ private:
         end.exec();
         next_ = end.Next();
         blnOpen_ = false;
+    }
+
+    void End() {
+        signals_.setEnabled(false);
+        ending_ = true;
+        if (game_ != nullptr) game_->CloseWithoutBoxes();
+        while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            dialog->done(QDialog::Rejected);
+        }
     }
 
     ClockSeededNumbers random_;
@@ -76,6 +96,10 @@ private:
     bool fromGame_ = false;
     bool blnOpen_ = false;  // ... to choose a saved game
     int exitStatus_ = 0;
+
+    QSocketNotifier signals_;
+    FrmGame* game_ = nullptr;  // while one is shown
+    bool ending_ = false;      // whatever window is next
 };
 
 }  // namespace

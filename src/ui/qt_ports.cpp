@@ -51,16 +51,7 @@ QString TitleOf(const std::string& title) {
     return title.empty() ? QString(programTitle) : ToQt(title);
 }
 
-// Runs a dialog over a window, which afterwards has the keyboard again, without a window manager
-// too.
-int Run(QDialog& dialog) {
-    const int result = dialog.exec();
-    dialog.parentWidget()->activateWindow();
-    return result;
-}
-
-std::string ChosenFile(QFileDialog& dialog) {
-    if (Run(dialog) != QDialog::Accepted) return {};
+std::string ChosenFile(const QFileDialog& dialog) {
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 
@@ -69,7 +60,17 @@ std::string ChosenFile(QFileDialog& dialog) {
 QtDialogs::QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered)
     : window_(window), beforeBox_(std::move(beforeBox)), tellAnswered_(std::move(tellAnswered)) {}
 
+// Runs a dialog over the window, which afterwards has the keyboard again, without a window manager
+// too.
+int QtDialogs::Run(QDialog& dialog) {
+    const int result = dialog.exec();
+    if (givenUp_) throw DialogGivenUp();
+    dialog.parentWidget()->activateWindow();
+    return result;
+}
+
 Answer QtDialogs::Ask(const MessageBox& box) {
+    if (givenUp_) return Answer::OK;  // it tells of what was given up
     beforeBox_();
     const BoxButtons buttons = ButtonsFor(box.Offered);
     QMessageBox widget(window_);
@@ -89,14 +90,14 @@ std::string QtDialogs::AskSaveFileName(const std::string& path) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("tgf");
     dialog.selectFile(QFile::decodeName(path.c_str()));
-    return ChosenFile(dialog);
+    return Run(dialog) == QDialog::Accepted ? ChosenFile(dialog) : std::string();
 }
 
 std::string QtDialogs::AskOpenFileName(const std::string& folder) {
     beforeBox_();
     QFileDialog dialog(window_, "Open", QFile::decodeName(folder.c_str()), gameFiles);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    return ChosenFile(dialog);
+    return Run(dialog) == QDialog::Accepted ? ChosenFile(dialog) : std::string();
 }
 
 std::string QtDialogs::InputPrompt(const std::string& text, const std::string& title,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialog>
 #include <QWidget>
 #include <functional>
 
@@ -7,6 +8,10 @@
 #include "core/random_numbers.h"
 
 namespace qarn {
+
+/// Thrown out of a box or dialog that nobody can answer any more, so that the event that it belongs
+/// to is given up.
+struct DialogGivenUp {};
 
 /// Boxes and file dialogs over one window.
 class QtDialogs : public Dialogs {
@@ -17,6 +22,9 @@ public:
     /// opponents play, `tellAnswered` gets each box that one of them has answered.
     QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered = {});
 
+    /// From now on nobody is asked: each box and dialog, those that are open included, is given up.
+    void GiveUp() { givenUp_ = true; }
+
     std::string AskSaveFileName(const std::string& path) override;
     std::string AskOpenFileName(const std::string& folder) override;
     std::string InputPrompt(const std::string& text, const std::string& title,
@@ -24,11 +32,13 @@ public:
 
 private:
     Answer Ask(const MessageBox& box) override;
+    int Run(QDialog& dialog);
     void ShowAnswered(const MessageBox& box, Answer answer) override { tellAnswered_(box, answer); }
 
     QWidget* window_;
     std::function<void()> beforeBox_;
     TellAnswered tellAnswered_;
+    bool givenUp_ = false;
 };
 
 /// The dice: a sequence of its own for every game.

@@ -1,5 +1,6 @@
 #include "window/save_game.h"
 
+#include <exception>
 #include <system_error>
 
 #include "core/file_store.h"
@@ -93,6 +94,16 @@ void Form_Unload(Game& game) {
     game.controls.tmrAI.Enabled = false;
     frmAbout_Unload(game);  // it closes together with this window
     game.blnOpen = false;
+}
+
+void CloseWithoutBoxes(Game& game) {
+    constexpr int notSaved = 1;
+    try {
+        SaveGame(game);
+    } catch (const std::exception&) {
+        throw ProgramEnd{notSaved};
+    }
+    throw ProgramEnd{};
 }
 
 }  // namespace qarn

@@ -18,4 +18,8 @@ bool TrySaveGame(Game& game);
 /// to leave without saving; No keeps the window open.
 void Form_Unload(Game& game);
 
+/// Closes the window where nobody can be asked, as when the person logs out: saves the game and
+/// ends the program (throws ProgramEnd), with status 1 when it could not be saved.
+[[noreturn]] void CloseWithoutBoxes(Game& game);
+
 }  // namespace qarn

@@ -3,6 +3,9 @@
 
 import json
 import os
+import pty
+import resource
+import signal
 import subprocess
 import sys
 import tempfile
@@ -277,6 +280,43 @@ class ConsoleTest(unittest.TestCase):
                 program.stdin.flush()
                 self.assertFalse(json.loads(program.stdout.readline())["open"])
             program.stdin.close()
+
+    def test_saves_when_it_is_told_to_end(self):
+        for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+            for arguments in (["--json"], []):
+                for command in ("state", "menu New", "timer 1000000000"):
+                    with subprocess.Popen([PROGRAM, *arguments], cwd=self.folder, stdin=subprocess.PIPE,
+                                          stdout=subprocess.PIPE, text=True) as program:
+                        program.stdin.write("random 0\nnew g.tgf HM A computer B computer\n"
+                                            f"{command}\n")
+                        program.stdin.flush()
+                        while "Hollowmere" not in program.stdout.readline():
+                            pass
+                        program.send_signal(number)
+                        self.assertEqual(program.wait(60), 0)
+                    self.assertEqual(len(self.read("g.tgf").splitlines()), 58)
+        person, terminal = pty.openpty()
+        with subprocess.Popen([PROGRAM], cwd=self.folder, stdin=terminal, stdout=subprocess.PIPE,
+                              text=True, start_new_session=True) as program:
+            os.close(terminal)
+            os.write(person, b"new h.tgf HM A human B human\n")
+            while "h.tgf" not in program.stdout.readline():
+                pass
+            os.close(person)
+            self.assertEqual(program.wait(60), 0)
+        self.assertEqual(len(self.read("h.tgf").splitlines()), 58, "its terminal has gone")
+        with subprocess.Popen([PROGRAM, "--json"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN)) as program:
+            program.send_signal(signal.SIGHUP)
+            self.assertIn(b'"ok"', program.communicate(b"state\n", 60)[0], "as under nohup")
+
+    def test_a_full_quota_is_a_message(self):
+        def limit():
+            resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))
+
+        [refused] = self.play(NEW, preexec_fn=limit)
+        self.assertIn("File too large.", refused["boxes"][0]["text"])
+        self.assertEqual(os.listdir(self.folder), [])
 
     def test_for_a_person(self):
         run = self.run_program(f"random 0\n{NEW}\nhelp\npress cmdMove\nclick 14 7\nclick 0 0\n"

@@ -20,7 +20,7 @@ struct ConsoleGame {
         std::vector<nlohmann::json> objects;
         std::istringstream in(Lines(commands));
         std::stringstream out;
-        status = RunForProgram(in, out, errors, {settings, *fileTypes, {}}, path);
+        status = RunForProgram({in}, out, errors, {settings, *fileTypes, {}}, path);
         for (std::string line; std::getline(out, line);) {
             objects.push_back(nlohmann::json::parse(line));
         }
@@ -31,7 +31,7 @@ struct ConsoleGame {
     std::string ForPerson(const std::string& commands, bool colors = false) {
         std::istringstream in(Lines(commands));
         std::ostringstream out;
-        status = RunForPerson(in, out, {settings, *fileTypes, {}}, path, colors);
+        status = RunForPerson({in}, out, {settings, *fileTypes, {}}, path, colors);
         return out.str();
     }
 

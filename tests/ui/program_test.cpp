@@ -8,7 +8,9 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QTest>
+#include <csignal>
 #include <filesystem>
+#include <functional>
 
 #include "support/temp_folder.h"
 #include "ui/frm_end.h"
@@ -132,6 +134,46 @@ TEST_F(WholeProgram, BeginsWithTheStartWindowAndEndsWithAGame) {
     WriteFile(folder / "game.tgf", newGame);
     script.On<FrmGame>([](FrmGame& window) { window.close(); });
     EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+    EXPECT_TRUE(script.Done());
+}
+
+// As when the person logs out, which the session manager tells.
+void LogOut() {
+    const int signal = qApp->metaObject()->indexOfSignal("commitDataRequest(QSessionManager&)");
+    char manager = 0;  // nobody looks at it
+    void* arguments[]{nullptr, &manager};
+    QMetaObject::activate(qApp, signal, arguments);
+}
+
+// Whatever is open then, the game is saved as it was before the event under way, and nobody is
+// asked.
+TEST_F(WholeProgram, EndsWithoutAskingWhenItIsToldTo) {
+    for (const auto& tell :
+         {std::function<void()>([] { raise(SIGTERM); }),
+          std::function<void()>([] { raise(SIGHUP); }),
+          std::function<void()>([] { raise(SIGINT); }), std::function<void()>(LogOut)}) {
+        for (const char* box : {"", "New", "mnuSaveAs", "mnuDefaultFilepath"}) {
+            WriteFile(folder / "game.tgf", newGame);
+            script.On<FrmGame>([=](FrmGame& window) {
+                if (box[0] == '\0') return tell();
+                window.findChild<QAction*>(box)->trigger();
+            });
+            if (box[0] != '\0') script.On<QDialog>([=](QDialog&) { tell(); });
+            EXPECT_EQ(RunProgram(folder / "game.tgf"), 0) << box;
+            EXPECT_GT(ReadFile(folder / "game.tgf").size(), newGame.size()) << "it was saved";
+        }
+        script.On<FrmSplash>([=](FrmSplash&) { tell(); });
+        EXPECT_EQ(RunProgram(""), 0);
+    }
+    EXPECT_TRUE(script.Done());
+
+    std::filesystem::create_directory(folder.Path() / "sub");
+    WriteFile(folder / "sub/game.tgf", newGame);
+    script.On<FrmGame>([&](FrmGame&) {
+        std::filesystem::remove_all(folder / "sub");
+        raise(SIGTERM);
+    });
+    EXPECT_EQ(RunProgram(folder / "sub/game.tgf"), 1) << "it can not be saved";
     EXPECT_TRUE(script.Done());
 }
 
