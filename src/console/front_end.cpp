@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "console/answers_text.h"
+#include "console/printable.h"
 #include "console/session.h"
 #include "console/state_json.h"
 #include "console/text_view.h"
@@ -71,7 +72,7 @@ std::string ChoicesOf(Buttons offered) {
 
 // Shows a box to the person at the terminal, and asks until a choice is made or the input ends.
 std::optional<Answer> AskPerson(std::istream& in, std::ostream& out, const MessageBox& box) {
-    out << "\n--- " << (box.Title.empty() ? "" : box.Title + ": ") << box.Text << '\n';
+    out << "\n--- " << (box.Title.empty() ? "" : box.Title + ": ") << Printable(box.Text) << '\n';
     const std::string choices = ChoicesOf(box.Offered);
     if (box.Offered == Buttons::OK) return Answer::OK;
     for (;;) {
@@ -93,7 +94,7 @@ public:
         for (const std::string& topic : session.Help().TakeTopics()) {
             out_ << "The help page is " << (topic.empty() ? "the start page" : topic) << ".\n";
         }
-        if (!error.empty()) out_ << error << '\n';
+        if (!error.empty()) out_ << Printable(error) << '\n';
         if (!game.blnOpen) return;
         PrintBoard(out_, game, colors_);
         PrintStatus(out_, game);
@@ -112,7 +113,7 @@ int RunForProgram(const Commands& commands, std::ostream& out, std::ostream& err
     Session session(desktop, commands.isAskedToEnd);
     if (!file.empty()) {
         const std::string error = Execute(session, {"open", file});
-        if (!error.empty()) errors << error << std::endl;
+        if (!error.empty()) errors << Printable(error) << std::endl;
         session.Dialogs().TakeShown();
         session.TakeHappenings();
     }
@@ -134,7 +135,7 @@ int RunForPerson(const Commands& commands, std::ostream& out, const DesktopPorts
     session.Dialogs().SetAskPerson(
         [&](const MessageBox& box) { return AskPerson(commands.in, out, box); });
     session.Dialogs().SetTellPerson([&](const MessageBox& box, Answer answer) {
-        out << "\n--- " << box.Text << " (" << WordOf(answer) << ")\n";
+        out << "\n--- " << Printable(box.Text) << " (" << WordOf(answer) << ")\n";
     });
     Terminal terminal(out, colors);
     if (file.empty()) {

@@ -7,6 +7,7 @@
 
 #include "console/front_end.h"
 #include "console/options.h"
+#include "console/printable.h"
 #include "console/watched_input.h"
 #include "console/words.h"
 #include "desktop/linux_desktop.h"
@@ -51,10 +52,10 @@ int main(int argc, char** argv) {
         const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
         return Run(qarn::ParseOptions(arguments.subspan(1)));
     } catch (const qarn::Refusal& refusal) {
-        std::cerr << refusal.what() << '\n' << usage;
+        std::cerr << qarn::Printable(refusal.what()) << '\n' << usage;
         return 2;
     } catch (const std::exception& error) {
-        std::cerr << error.what() << '\n';
+        std::cerr << qarn::Printable(error.what()) << '\n';
         return 1;
     }
 }

@@ -36,6 +36,9 @@ constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
 std::string AbsolutePath(const std::string& path) {
     if (path.empty()) throw Refusal("The path is empty.");
+    if (path.find('\0') != std::string::npos) {
+        throw Refusal("The path holds a character that no path can hold.");
+    }
     std::error_code error;
     const std::filesystem::path absolute = std::filesystem::absolute(path, error);
     if (error) throw Refusal("The working folder can not be found: " + error.message() + ".");

@@ -4,6 +4,7 @@
 #include <optional>
 #include <ostream>
 
+#include "console/printable.h"
 #include "core/captions.h"
 #include "play/side_colors.h"
 #include "rules/terrain.h"
@@ -108,7 +109,7 @@ void PrintButtons(std::ostream& out, const Game& game) {
 }  // namespace
 
 void PrintBoard(std::ostream& out, const Game& game, bool colors) {
-    out << game.controls.Caption << "\n   ";
+    out << Printable(game.controls.Caption) << "\n   ";
     for (int X = 1; X <= columnCount; ++X) out << Padded(X, 3) << ' ';
     out << '\n';
     for (int Y = 1; Y <= rowCount; ++Y) {
@@ -126,7 +127,7 @@ void PrintStatus(std::ostream& out, const Game& game) {
     }
     PrintCheckBoxes(out, controls);
     PrintButtons(out, game);
-    out << PlainText(controls.lblStatus.Caption) << '\n';
+    out << Printable(PlainText(controls.lblStatus.Caption)) << '\n';
 }
 
 void PrintHelp(std::ostream& out) {

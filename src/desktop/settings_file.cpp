@@ -4,7 +4,9 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <iostream>
 #include <stdexcept>
+#include <utility>
 
 #include "core/file_store.h"
 #include "desktop/glib_owned.h"
@@ -18,11 +20,21 @@ fs::path FileOf(const std::string& application) {
     return fs::path(g_get_user_config_dir()) / (application + ".ini");
 }
 
-// A file that is not there yet, or cannot be understood, counts as one without settings.
+std::string Reason(const std::system_error& error, const fs::path& path) {
+    return error.code().message() + ".\n" + path.string();
+}
+
+// A file that is not there yet, or cannot be understood, counts as one without settings. Throws
+// std::system_error for one that is there and cannot be read.
 GlibKeyFile LoadKeyFile(const std::string& application) {
     GlibKeyFile file(g_key_file_new());
-    g_key_file_load_from_file(file.get(), FileOf(application).c_str(), G_KEY_FILE_KEEP_COMMENTS,
-                              nullptr);
+    try {
+        const std::string text = ReadWholeFile(FileOf(application).string());
+        g_key_file_load_from_data(file.get(), text.c_str(), text.size(), G_KEY_FILE_KEEP_COMMENTS,
+                                  nullptr);
+    } catch (const std::system_error& error) {
+        if (error.code() != std::errc::no_such_file_or_directory) throw;
+    }
     return file;
 }
 
@@ -33,24 +45,33 @@ std::string StoredKey(const std::string& key) { return key.empty() ? "default" :
 
 std::string SettingsFile::Read(const std::string& application, const std::string& section,
                                const std::string& key, const std::string& defaultValue) {
-    const GlibKeyFile file = LoadKeyFile(application);
-    const GlibText value(
-        g_key_file_get_string(file.get(), section.c_str(), StoredKey(key).c_str(), nullptr));
-    return value ? value.get() : defaultValue;
+    try {
+        const GlibKeyFile file = LoadKeyFile(application);
+        const GlibText value(
+            g_key_file_get_string(file.get(), section.c_str(), StoredKey(key).c_str(), nullptr));
+        return value ? value.get() : defaultValue;
+    } catch (const std::system_error& error) {
+        TellOnce("The settings are passed over: " + Reason(error, FileOf(application)));
+        return defaultValue;
+    }
+}
+
+void SettingsFile::TellOnce(const std::string& text) {
+    if (!std::exchange(told_, true)) std::cerr << text << std::endl;
 }
 
 void SettingsFile::Write(const std::string& application, const std::string& section,
                          const std::string& key, const std::string& value) {
-    const GlibKeyFile file = LoadKeyFile(application);
-    g_key_file_set_string(file.get(), section.c_str(), StoredKey(key).c_str(), value.c_str());
-    gsize length = 0;
-    const GlibText contents(g_key_file_to_data(file.get(), &length, nullptr));
     const fs::path path = FileOf(application);
     try {
+        const GlibKeyFile file = LoadKeyFile(application);
+        g_key_file_set_string(file.get(), section.c_str(), StoredKey(key).c_str(), value.c_str());
+        gsize length = 0;
+        const GlibText contents(g_key_file_to_data(file.get(), &length, nullptr));
         fs::create_directories(path.parent_path());
         ReplaceFile(path.string(), {contents.get(), length});
     } catch (const std::system_error& error) {
-        throw std::runtime_error(error.code().message() + ".\n" + path.string());
+        throw std::runtime_error(Reason(error, path));
     }
 }
 

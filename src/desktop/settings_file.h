@@ -7,7 +7,9 @@
 namespace qarn {
 
 /// The settings store of a Linux desktop: one file an application in the person's configuration
-/// folder, read afresh at every use.
+/// folder, read afresh at every use. One that is no
+/// ordinary file, or larger than a megabyte, is passed over, which standard error is told once, and
+/// never written.
 class SettingsFile : public SettingsStore {
 public:
     std::string Read(const std::string& application, const std::string& section,
@@ -15,6 +17,11 @@ public:
     void Write(const std::string& application, const std::string& section, const std::string& key,
                const std::string& value) override;
     std::string LoginName() override;
+
+private:
+    void TellOnce(const std::string& text);
+
+    bool told_ = false;
 };
 
 }  // namespace qarn

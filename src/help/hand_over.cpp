@@ -1,12 +1,15 @@
 #include "help/hand_over.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QLockFile>
-#include <QStandardPaths>
 
 namespace qarn {
 namespace {
@@ -14,13 +17,24 @@ namespace {
 constexpr int patience = 2000;  // milliseconds
 constexpr auto streamVersion = QDataStream::Qt_6_0;
 
-// The folder belongs to the person alone; the name stands for the file and the display.
+// A folder that belongs to the person alone, or none: what lies where others write could be theirs.
+QString TrustedFolder() {
+    const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
+    struct stat status {};
+    const bool trusted = QDir::isAbsolutePath(QFile::decodeName(folder)) &&
+                         stat(folder.constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
+                         status.st_uid == geteuid() && (status.st_mode & 077) == 0;
+    return trusted ? QFile::decodeName(folder) : QString();
+}
+
+// The name stands for the file and the display. Without a trusted folder it is empty.
 QString NameFor(const QString& helpFilePath) {
+    const QString folder = TrustedFolder();
+    if (folder.isEmpty()) return {};
     const QFileInfo file(helpFilePath);
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(file.canonicalFilePath().toUtf8());
     hash.addData(qgetenv("DISPLAY") + '\n' + qgetenv("WAYLAND_DISPLAY"));
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     return QDir(folder).filePath("qarn-help-" + hash.result().toHex().left(16));
 }
 
@@ -47,6 +61,7 @@ HandOver::HandOver(const QString& helpFilePath) : socketName_(NameFor(helpFilePa
 }
 
 bool HandOver::GiveAway(const QString& topic) {
+    if (socketName_.isEmpty()) return false;
     // Of two viewers started at once, the second waits until the first one listens.
     QLockFile lock(socketName_ + ".lock");
     lock.tryLock(patience);

@@ -7,7 +7,8 @@
 namespace qarn {
 
 /// Keeps one viewer window for each person, display and help file: the first viewer listens, and
-/// the next one hands its topic over to it.
+/// the next one hands its topic over to it. Where the person has no runtime folder of their own,
+/// every viewer has its own window.
 class HandOver : public QObject {
     Q_OBJECT
 
@@ -19,7 +20,7 @@ public:
     /// or when it does not answer within a few seconds; from then on topics come to this one.
     bool GiveAway(const QString& topic);
 
-    /// The name of the local socket.
+    /// The name of the local socket; empty where nothing can be handed over.
     const QString& SocketName() const { return socketName_; }
 
 signals:

@@ -36,6 +36,18 @@ TEST(Terminal, ShowsAmpersandsInNamesAndNoneInCaptions) {
     EXPECT_NE(bob.ForPerson("").find("\nIt is &Bob's turn.\n"), std::string::npos);
 }
 
+// A name that comes with a file commands no terminal.
+TEST(Terminal, ShowsControlCharactersAsEscapes) {
+    ConsoleGame game(
+        Named(SavedGame("turn1 WS@3,7 Z@1,1"), "\x1b[2J\a\x7f\x81\xe9", "B\xf6\x9bse"));
+    const std::string text = game.ForPerson("open \xe9\x1b[31m\x9b; menu New; no");
+    EXPECT_NE(text.find("(\\x1b[2J\\x07\\x7f\\x81é vs. Bö›se)"), text.npos) << text;
+    EXPECT_NE(text.find("\nIt is \\x1b[2J\\x07\\x7f\\x81é's turn.\n"), text.npos);
+    EXPECT_NE(text.find("\\x1b[31m\\x9b"), text.npos);
+    EXPECT_EQ(text.find_first_of("\x1b\a\x7f"), text.npos);
+    EXPECT_EQ(text.find("\xc2\x81"), text.npos);
+}
+
 TEST(Terminal, TellsSidesByColourAndByTheCaseOfAMark) {
     ConsoleGame game(SavedGame("Q@1,1 Z@2,1 BT@3,1 WS@4,1 HF@4,1 BT@4,1 ZA1@5,1 ZA2@5,1 ZA3@5,1"));
     const auto secondLine = [](const std::string& text) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
 #include "desktop/settings_file.h"
 #include "support/temp_folder.h"
@@ -42,6 +43,32 @@ TEST(SettingsFile, KeepsValuesAcrossRuns) {
     }
     EXPECT_EQ(store.Read("QARN", "Summary", "1", "True"), "True");
     std::filesystem::remove(config);
+}
+
+TEST(SettingsFile, PassesOverWhatNobodyCanHaveWritten) {
+    const std::string config = getenv("XDG_CONFIG_HOME");
+    std::filesystem::create_directories(config);
+    const std::string file = config + "/QARN.ini";
+    const std::string large = "[Summary]\n1=False\n#" + std::string(1 << 20, 'x');
+    for (const bool pipe : {true, false}) {
+        std::filesystem::remove(file);
+        if (pipe) {
+            ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+        } else {
+            WriteFile(file, large);
+        }
+        SettingsFile store;
+        testing::internal::CaptureStderr();
+        for (int time = 0; time < 2; ++time) {
+            EXPECT_EQ(store.Read("QARN", "Summary", "1", "True"), "True");
+        }
+        const std::string why = pipe ? "It is not an ordinary file.\n" : "File too large.\n";
+        EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                  "The settings are passed over: " + why + file + "\n");
+        EXPECT_THROW(store.Write("QARN", "Summary", "1", "True"), std::runtime_error);
+    }
+    EXPECT_EQ(ReadFile(file), large);
+    std::filesystem::remove(file);
 }
 
 }  // namespace

@@ -240,6 +240,27 @@ TEST_F(SecondStart, IsNotDisturbedByStrangers) {
     EXPECT_EQ(topics.size(), 1);
 }
 
+// A folder that others can write to, or none, could hold another person's socket.
+TEST_F(SecondStart, HandsNothingOverWithoutATrustedFolder) {
+    const QByteArray trusted = qgetenv("XDG_RUNTIME_DIR");
+    const TempFolder shared;
+    std::filesystem::permissions(shared.Path(), std::filesystem::perms(0777));
+    std::filesystem::current_path(shared.Path());
+    const QByteArray folder = QByteArray::fromStdString(shared.Path().string());
+    for (const QByteArray& untrusted : {QByteArray(), QByteArray("."), folder, folder + "/none"}) {
+        qputenv("XDG_RUNTIME_DIR", untrusted);
+        if (untrusted.isEmpty()) qunsetenv("XDG_RUNTIME_DIR");
+        HandOver first(QARN_HELP_FILE);
+        HandOver second(QARN_HELP_FILE);
+        EXPECT_FALSE(first.GiveAway("")) << untrusted.toStdString();
+        EXPECT_FALSE(second.GiveAway("")) << untrusted.toStdString();
+        EXPECT_EQ(second.SocketName(), "");
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(shared.Path()));
+    std::filesystem::current_path("/");
+    qputenv("XDG_RUNTIME_DIR", trusted);
+}
+
 // ---- Without a help file ----
 
 TEST(RunViewer, TellsThatTheHelpFileIsMissingAndGivesStatus1) {

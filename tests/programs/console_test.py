@@ -35,8 +35,8 @@ REFUSED = """nonsense; Click 1 1; click 0 1; click 19 1; click 1 11; click 1; cl
     menu mnuNothing; menu File; timer 0; timer -1; answer; answer ok; answer yes maybe; random;
     random 1; random -0.1; random nan; random 0.5 x; seed; seed -1; seed 18446744073709551616;
     reach; reach 1; reach 1 1; reach 19 1; reach 14 7 1; odds 14 7; odds 14 7 14 11;
-    house ownGroups; house ownGroups yes; house nothing on; saveas ""; open ""; open; state now; help; quit now; click "1 1; new n.tgf HM A human B;
-    new n.tgf hm A human B human; new n.tgf HM A man B human; new none/n.tgf HM A human B human;
+    house ownGroups; house ownGroups yes; house nothing on; saveas ""; saveas x\0y; open ""; open x\0.tgf; open; state now; help; quit now; click "1 1; new n.tgf HM A human B;
+    new n.tgf hm A human B human; new n\0.tgf HM A human B human; new n.tgf HM A man B human; new none/n.tgf HM A human B human;
     new n.tgf HM Łucja human B human; new n.tgf HM \udcff human B human;
     new n.tgf HM """ + 55 * "A" + " human B human"
 
