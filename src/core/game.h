@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/controls.h"
+#include "core/file_mark.h"
 #include "core/game_record.h"
 #include "core/happenings.h"
 #include "core/opponents.h"
@@ -45,6 +46,8 @@ struct Game {
 
     /// What a front end keeps of the game beside its file, which has just been written.
     std::function<void()> afterSave = [] {};
+
+    SeenFile seenFile = {};  ///< the game's file, as this program has read or written it last
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have

@@ -40,10 +40,11 @@ std::optional<std::string> ContentsOf(const std::string& path) {
 }
 
 // A front end without anybody to answer would go round for ever.
-[[noreturn]] void GiveUp(const Game& game, const std::optional<std::string>& file) {
+[[noreturn]] void GiveUp(Game& game, const std::optional<std::string>& file) {
     std::string text = "The file has not been converted, as nobody has answered.";
     try {
         if (file) ReplaceFile(game.record.strGamePath, *file);
+        NoteGameFile(game);
     } catch (const std::system_error& error) {
         text += " It can not be put back either: " + error.code().message() + ".";
     }

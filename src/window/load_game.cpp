@@ -14,6 +14,7 @@
 #include "shell/file_commands.h"
 #include "shell/user_settings.h"
 #include "window/house_rules.h"
+#include "window/save_game.h"
 #include "window/speed.h"
 #include "window/view_choices.h"
 
@@ -139,6 +140,7 @@ void SetPlayers(GameRecord& record, const PlayerLines& players) {
 
 void LoadGame(Game& game, KnownScenario& known) {
     ClearGame(game);
+    NoteGameFile(game);
     DecideScenario(game, known);
     SetupScenario(game);
     ComposeCaption(game);

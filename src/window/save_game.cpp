@@ -1,6 +1,7 @@
 #include "window/save_game.h"
 
 #include <exception>
+#include <optional>
 #include <system_error>
 
 #include "core/file_store.h"
@@ -44,6 +45,44 @@ std::string Reason(const Game& game, const SaveError& error) {
            game.record.strGamePath;
 }
 
+class ChangedElsewhere : public SaveError {
+public:
+    ChangedElsewhere() : SaveError("It was changed by another program.") {}
+};
+
+bool IsChangedElsewhere(const Game& game) {
+    const std::string& path = game.record.strGamePath;
+    const std::optional<FileMark>& seen = game.seenFile.mark;
+    const std::optional<FileMark> found = MarkOf(path);
+    return game.seenFile.path == path && seen && found && found != seen;
+}
+
+bool AgreesToReplace(Game& game) {
+    return game.ports.dialogs.Show({.Title = "Save",
+                                    .Text = game.record.strGameName +
+                                            " was changed by another program.\nDo you want to "
+                                            "replace it by this game?\n" +
+                                            game.record.strGamePath,
+                                    .Offered = Buttons::YesNo,
+                                    .DeclinedByDefault = true,
+                                    .ForThePerson = true}) == Answer::Yes;
+}
+
+void Save(Game& game, bool (*mayReplaceChanged)(Game&)) {
+    if (!IsKnownScenario(game.record)) return;
+    const std::string text = GameText(game.record);
+    try {
+        const bool replaced = ReplaceFile(game.record.strGamePath, text, [&] {
+            return !IsChangedElsewhere(game) || mayReplaceChanged(game);
+        });
+        if (!replaced) throw ChangedElsewhere();
+    } catch (const std::system_error& error) {
+        throw SaveError(error.code().message() + ".");
+    }
+    NoteGameFile(game);
+    game.afterSave();
+}
+
 bool SavesOrLeavesWithoutSaving(Game& game) {
     try {
         SaveGame(game);
@@ -60,21 +99,18 @@ bool SavesOrLeavesWithoutSaving(Game& game) {
 
 }  // namespace
 
-void SaveGame(const Game& game) {
-    if (!IsKnownScenario(game.record)) return;
-    const std::string text = GameText(game.record);
-    try {
-        ReplaceFile(game.record.strGamePath, text);
-    } catch (const std::system_error& error) {
-        throw SaveError(error.code().message() + ".");
-    }
-    game.afterSave();
+void NoteGameFile(Game& game) {
+    game.seenFile = {game.record.strGamePath, MarkOf(game.record.strGamePath)};
 }
+
+void SaveGame(Game& game) { Save(game, AgreesToReplace); }
 
 bool TrySaveGame(Game& game) {
     try {
         SaveGame(game);
         return true;
+    } catch (const ChangedElsewhere&) {
+        return false;  // as the person has just decided
     } catch (const SaveError& error) {
         game.ports.dialogs.Show({.Title = "Save", .Text = Reason(game, error)});
         return false;
@@ -99,7 +135,7 @@ void Form_Unload(Game& game) {
 void CloseWithoutBoxes(Game& game) {
     constexpr int notSaved = 1;
     try {
-        SaveGame(game);
+        Save(game, [](Game&) { return false; });
     } catch (const std::exception&) {
         throw ProgramEnd{notSaved};
     }

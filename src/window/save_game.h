@@ -6,11 +6,15 @@ namespace qarn {
 
 struct Game;
 
-/// Writes the game to strGamePath. A game of an unknown scenario is not written. Throws SaveError
-/// with the reason; the old file is then untouched.
-void SaveGame(const Game& game);
+/// Notes the game's file as this program has read or written it.
+void NoteGameFile(Game& game);
 
-/// SaveGame, reporting a failure in a box. Gives false after one.
+/// Writes the game to strGamePath. A game of an unknown scenario is not written. Where another
+/// program has changed the file since it was noted, a box asks whether to replace it. Throws
+/// SaveError with the reason; the old file is then untouched.
+void SaveGame(Game& game);
+
+/// SaveGame, reporting a failure in a box. Gives false when the game was not saved.
 bool TrySaveGame(Game& game);
 
 /// Closes the window: saves the game, then ends the program (throws ProgramEnd), unless blnLeaving

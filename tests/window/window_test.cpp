@@ -7,6 +7,8 @@
 #include "scenarios/setup.h"
 #include "support/sequence.h"
 #include "window/hint_mark.h"
+#include "window/run_event.h"
+#include "window/save_game.h"
 #include "window/told_of_opponent.h"
 #include "window/view_choices.h"
 
@@ -108,6 +110,41 @@ TEST(MenuCommands, HintGoesWhenTheGameGoesOn) {
     EXPECT_FALSE(controls.Hint.Way.empty());
     played.Do("click 10 10");
     EXPECT_TRUE(controls.Hint.Way.empty() && !controls.Hint.Visible);
+}
+
+TEST(SaveGame, AsksBeforeItReplacesWhatAnotherProgramHasWritten) {
+    PlayedGame played("Q@9,10 Z@1,1");
+    const std::string others = "another program's";
+    const auto doAnswering = [&](const char* command, std::deque<Answer> answers) {
+        played.dialogs.boxes.clear();
+        played.dialogs.queued = std::move(answers);
+        played.Do(command);
+        EXPECT_TRUE(played.dialogs.queued.empty()) << command;
+        return played.dialogs.boxes.size();
+    };
+    for (int time = 0; time < 2; ++time) EXPECT_EQ(doAnswering("menu mnuSave", {}), 0u);
+    const std::string game = ReadFile(played.path);
+    WriteFile(played.path, others);
+    EXPECT_EQ(doAnswering("menu mnuSave", {Answer::No}), 1u);
+    const MessageBox& box = played.dialogs.boxes.front();
+    EXPECT_NE(box.Text.find("game.tgf was changed by another program."), box.Text.npos);
+    EXPECT_TRUE(box.DeclinedByDefault && box.ForThePerson);
+    EXPECT_EQ(doAnswering("close", {Answer::No, Answer::No}), 2u);
+    EXPECT_TRUE(played.game.blnOpen);
+    EXPECT_EQ(ReadFile(played.path), others);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(played.folder.Path()), {}), 1);
+
+    EXPECT_EQ(doAnswering("menu mnuSave", {Answer::Yes}), 1u);
+    EXPECT_EQ(ReadFile(played.path), game);
+    WriteFile(played.folder / "other.tgf", "was offered to be replaced by the dialog");
+    EXPECT_EQ(doAnswering("saveas other.tgf", {}), 0u);
+    std::filesystem::remove(played.folder / "other.tgf");
+    EXPECT_EQ(doAnswering("menu mnuSave", {}), 0u) << "nothing is lost";
+
+    WriteFile(played.folder / "other.tgf", others);
+    RunEvent(played.game, "Form_Unload", CloseWithoutBoxes);
+    EXPECT_EQ(played.game.exitStatus, 1);
+    EXPECT_EQ(ReadFile(played.folder / "other.tgf"), others);
 }
 
 TEST(MenuCommands, ConvertFile) {
