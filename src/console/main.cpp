@@ -37,10 +37,10 @@ int Run(const qarn::Options& options) {
     WatchedInput input(STDIN_FILENO, NoteEndSignals());
     std::istream in(&input);
     const Commands commands{in, [&] { return IsAskedToEnd() || input.HasHungUp(); }};
-    if (options.json)
-        return RunForProgram(commands, std::cout, std::cerr, desktop.Ports(), options.file);
-    return RunForPerson(commands, std::cout, desktop.Ports(), options.file,
-                        isatty(STDOUT_FILENO) != 0);
+    DesktopPorts ports = desktop.Ports();
+    ports.folders.userState.clear();  // no program expects to be asked about an earlier sitting
+    if (options.json) return RunForProgram(commands, std::cout, std::cerr, ports, options.file);
+    return RunForPerson(commands, std::cout, ports, options.file, isatty(STDOUT_FILENO) != 0);
 }
 
 }  // namespace

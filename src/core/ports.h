@@ -138,9 +138,10 @@ public:
 
 /// Folders, as absolute paths.
 struct ProgramFolders {
-    std::string program;       ///< the one that the program itself stands in
-    std::string userData;      ///< the person's own for this program's files; need not exist yet
-    bool isBuildTree = false;  ///< the program still stands where it was built
+    std::string program;         ///< the one that the program itself stands in
+    std::string userData;        ///< the person's own for this program's files; need not exist yet
+    bool isBuildTree = false;    ///< the program still stands where it was built
+    std::string userState = {};  ///< the person's own for what it was doing; empty: it keeps none
 };
 
 /// What the desktop keeps for the program, whatever its front end.

@@ -18,7 +18,8 @@ ProgramFolders FindProgramFolders() {
     const std::string program = fs::read_symlink("/proc/self/exe", none).parent_path().string();
     return {.program = program,
             .userData = (fs::path(g_get_user_data_dir()) / "qarn").string(),
-            .isBuildTree = IsBuildTree(program)};
+            .isBuildTree = IsBuildTree(program),
+            .userState = (fs::path(g_get_user_state_dir()) / "qarn").string()};
 }
 
 }  // namespace qarn

@@ -10,6 +10,7 @@
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "shell/kept_journal.h"
+#include "shell/kept_recovery.h"
 #include "shell/start_window.h"
 #include "shell/user_settings.h"
 
@@ -210,6 +211,7 @@ void StartGame(StartWindow& window) {
     TakePlayer(window, 2);
     KeepOpponents(window.ports, path, window.state.newOpponent);
     ForgetJournal(window.ports, path);
+    ForgetRecovery(window.ports, path);
     window.strGamePath = fs::absolute(path).string();
     window.Next = NextWindow::Game;
 }

@@ -12,6 +12,7 @@
 #include "shell/default_path.h"
 #include "shell/game_files.h"
 #include "shell/kept_journal.h"
+#include "shell/kept_recovery.h"
 #include "shell/program_texts.h"
 
 namespace qarn {
@@ -129,8 +130,9 @@ void RefreshFileList(StartWindow& window) {
     list.List.clear();
     list.Told.clear();
     for (GameFile& file : GameFilesIn(list.Path)) {
+        const bool recovers = FindRecovery(window.ports, PathOf(list, file.Name)).has_value();
         list.List.push_back(std::move(file.Name));
-        list.Told.push_back(std::move(file.Told));
+        list.Told.push_back(file.Told + (recovers ? " Can be recovered." : ""));
     }
     const auto found = std::find(list.List.begin(), list.List.end(), selected);
     const bool there = found != list.List.end();
@@ -167,6 +169,7 @@ void cmdDelete_Click(StartWindow& window) {
     if (!ConfirmsDeletion(window, name)) return;
     DeleteGame(PathOf(list, name));
     ForgetJournal(window.ports, PathOf(list, name));
+    ForgetRecovery(window.ports, PathOf(list, name));
     AllowLoading(window.controls, false);
     RefreshFileList(window);
     window.controls.SetFocus = StartControl::fileLoad;

@@ -1,6 +1,7 @@
 #include "window/load_game.h"
 
 #include <filesystem>
+#include <optional>
 
 #include "core/board_display.h"
 #include "core/code_page.h"
@@ -14,6 +15,7 @@
 #include "shell/file_commands.h"
 #include "shell/user_settings.h"
 #include "window/house_rules.h"
+#include "window/recovery.h"
 #include "window/save_game.h"
 #include "window/speed.h"
 #include "window/view_choices.h"
@@ -23,7 +25,8 @@ namespace {
 
 // What a repeated load keeps of the attempt before it.
 struct KnownScenario {
-    std::string item;  // of the first line
+    std::string file = {};  // that is read
+    std::string item = {};  // of the first line
     std::uint8_t bytScenario = 0;
 };
 
@@ -66,7 +69,7 @@ std::uint8_t ScenarioOfOlderForm(const std::string& item) {
 void DecideScenario(Game& game, KnownScenario& known) {
     const bool repeated = known.bytScenario != 0;
     if (!repeated) {
-        known.item = ReadScenarioItem(game.record.strGamePath);
+        known.item = ReadScenarioItem(known.file);
     }
     InitTerrainKinds(game.record);
     if (IsCode(known.item)) {
@@ -110,8 +113,8 @@ void ReadLandmarks(GameRecord& record, GameFileReader& file) {
     }
 }
 
-PlayerLines ReadGame(GameRecord& record) {
-    GameFileReader file(record.strGamePath);
+PlayerLines ReadGame(GameRecord& record, const std::string& path) {
+    GameFileReader file(path);
     file.ReadLine("the scenario");
     PlayerLines players;
     players.line1 = file.ReadLine("the player of side 1");
@@ -144,7 +147,7 @@ void LoadGame(Game& game, KnownScenario& known) {
     DecideScenario(game, known);
     SetupScenario(game);
     ComposeCaption(game);
-    SetPlayers(game.record, ReadGame(game.record));
+    SetPlayers(game.record, ReadGame(game.record, known.file));
     AppendPlayersToCaption(game);
 }
 
@@ -158,14 +161,22 @@ bool AsksToRetry(Game& game, const GameFileError& error) {
     return answer == Answer::Retry;
 }
 
-void LoadGameOrEnd(Game& game) {
+// `recovery` is read in the place of the game's own file.
+void LoadGameOrEnd(Game& game, const std::optional<std::string>& recovery) {
     constexpr int notOpened = 1;
-    KnownScenario known;
+    const std::string path = game.record.strGamePath;
+    KnownScenario known{.file = recovery.value_or(path)};
     for (;;) {
         try {
             LoadGame(game, known);
             return;
         } catch (const GameFileError& error) {
+            if (known.file != path) {
+                game.ports.dialogs.Tell("The game can not be recovered. " +
+                                        std::string(error.what()) + "\n" + known.file);
+                known = {.file = path};
+                continue;
+            }
             if (!AsksToRetry(game, error)) throw ProgramEnd{notOpened};
         }
     }
@@ -193,7 +204,8 @@ void Form_Load(Game& game, const std::string& strGamePath) {
     RemoveAbandonedSaves(path.parent_path().string());
     game.record.strGamePath = strGamePath;
     game.record.strGameName = path.filename();
-    LoadGameOrEnd(game);
+    const bool again = game.blnOpen;
+    LoadGameOrEnd(game, again ? std::nullopt : AsksToRecover(game));
     DrawBoard(game);
     game.blnOpen = true;
     StartTurns(game);

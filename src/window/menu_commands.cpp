@@ -12,6 +12,7 @@
 #include "shell/file_commands.h"
 #include "shell/item_details.h"
 #include "shell/kept_opponents.h"
+#include "shell/kept_recovery.h"
 #include "shell/user_settings.h"
 #include "window/board_clicks.h"
 #include "window/hint_mark.h"
@@ -213,6 +214,7 @@ void mnuSaveAs_Click(Game& game) {
         return;
     }
     KeepOpponents(game.ports, path, KeptOpponents(game.ports, oldPath));
+    ForgetRecovery(game.ports, oldPath);
     ComposeCaption(game);
     AppendPlayersToCaption(game);
 }

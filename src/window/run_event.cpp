@@ -3,6 +3,7 @@
 #include "core/failure_text.h"
 #include "core/game.h"
 #include "window/hint_mark.h"
+#include "window/recovery.h"
 
 namespace qarn {
 namespace {
@@ -39,6 +40,7 @@ bool RunEvent(Game& game, std::string_view name, const std::function<void(Game&)
         game.ports.dialogs.Tell(FailureText(std::current_exception(), name));
         return false;
     }
+    FollowRecovery(game);
     return true;
 }
 

@@ -10,35 +10,11 @@
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "shell/about.h"
+#include "shell/kept_recovery.h"
 #include "window/load_game.h"
 
 namespace qarn {
 namespace {
-
-std::string GameText(const GameRecord& record) {
-    GameFileWriter file;
-    std::string code;
-    ScenarioCode(record.bytScenario, code);
-    file.WriteText(code);
-    for (std::size_t side = 1; side <= 2; ++side) {
-        file.WritePlayer({record.strPlayerName[side], record.blnComputer[side]});
-    }
-    file.WriteNumber(record.bytTurn);
-    file.WriteNumber(record.bytPeopleLeft[1]);
-    file.WriteNumber(record.bytPeopleLeft[2]);
-    for (std::size_t i = 1; i <= peopleCount; ++i) {
-        file.WriteNumber(record.People[i].LocationX);
-        file.WriteNumber(record.People[i].LocationY);
-    }
-    const LandmarkSquares& landmarks = DataOfScenario(record.bytScenario).landmarkSquares;
-    file.WriteNumber(static_cast<int>(landmarks.size()));
-    for (const Square& square : landmarks) {
-        file.WriteNumber(square.X);
-        file.WriteNumber(square.Y);
-        file.WriteNumber(record.bytTerrain[square.X][square.Y]);
-    }
-    return file.Text();
-}
 
 std::string Reason(const Game& game, const SaveError& error) {
     return "The game can not be saved. " + std::string(error.what()) + "\n" +
@@ -86,6 +62,7 @@ void Save(Game& game, bool (*mayReplaceChanged)(Game&)) {
 bool SavesOrLeavesWithoutSaving(Game& game) {
     try {
         SaveGame(game);
+        ForgetRecovery(game.ports, game.record.strGamePath);
         return true;
     } catch (const SaveError& error) {
         const Answer answer = game.ports.dialogs.Show(
@@ -98,6 +75,31 @@ bool SavesOrLeavesWithoutSaving(Game& game) {
 }
 
 }  // namespace
+
+std::string GameText(const GameRecord& record) {
+    GameFileWriter file;
+    std::string code;
+    ScenarioCode(record.bytScenario, code);
+    file.WriteText(code);
+    for (std::size_t side = 1; side <= 2; ++side) {
+        file.WritePlayer({record.strPlayerName[side], record.blnComputer[side]});
+    }
+    file.WriteNumber(record.bytTurn);
+    file.WriteNumber(record.bytPeopleLeft[1]);
+    file.WriteNumber(record.bytPeopleLeft[2]);
+    for (std::size_t i = 1; i <= peopleCount; ++i) {
+        file.WriteNumber(record.People[i].LocationX);
+        file.WriteNumber(record.People[i].LocationY);
+    }
+    const LandmarkSquares& landmarks = DataOfScenario(record.bytScenario).landmarkSquares;
+    file.WriteNumber(static_cast<int>(landmarks.size()));
+    for (const Square& square : landmarks) {
+        file.WriteNumber(square.X);
+        file.WriteNumber(square.Y);
+        file.WriteNumber(record.bytTerrain[square.X][square.Y]);
+    }
+    return file.Text();
+}
 
 void NoteGameFile(Game& game) {
     game.seenFile = {game.record.strGamePath, MarkOf(game.record.strGamePath)};
@@ -136,6 +138,7 @@ void CloseWithoutBoxes(Game& game) {
     constexpr int notSaved = 1;
     try {
         Save(game, [](Game&) { return false; });
+        ForgetRecovery(game.ports, game.record.strGamePath);
     } catch (const std::exception&) {
         throw ProgramEnd{notSaved};
     }

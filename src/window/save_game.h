@@ -5,6 +5,10 @@
 namespace qarn {
 
 struct Game;
+struct GameRecord;
+
+/// The text of the file of a game of a known scenario. Throws SaveError for what no file can hold.
+std::string GameText(const GameRecord& record);
 
 /// Notes the game's file as this program has read or written it.
 void NoteGameFile(Game& game);

@@ -1,0 +1,68 @@
+#include "shell/kept_recovery.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "core/file_store.h"
+#include "core/fingerprint.h"
+#include "core/ports.h"
+#include "shell/true_path.h"
+
+namespace qarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path FileOf(const Ports& ports, const std::string& strGamePath) {
+    return fs::path(ports.folders.userState) / "recovery" /
+           (Fingerprint(TruePath(strGamePath)) + ".tgf");
+}
+
+fs::path Aside(fs::path file) { return file.replace_extension(".declined.tgf"); }
+
+bool IsSomethingElse(const fs::path& file, const std::string& strGamePath) {
+    try {
+        return ReadWholeFile(file.string()) != ReadWholeFile(strGamePath);
+    } catch (const std::system_error&) {
+        return false;
+    }
+}
+
+}  // namespace
+
+void KeepRecovery(const Ports& ports, const std::string& strGamePath, const std::string& text) {
+    if (ports.folders.userState.empty()) return;
+    const fs::path file = FileOf(ports, strGamePath);
+    try {
+        fs::create_directories(file.parent_path());
+        ReplaceFile(file.string(), text);
+    } catch (const std::system_error&) {
+        // The game goes on all the same, and says so itself when it cannot be saved.
+    }
+}
+
+std::optional<std::string> FindRecovery(const Ports& ports, const std::string& strGamePath) {
+    if (ports.folders.userState.empty()) return std::nullopt;
+    const fs::path file = FileOf(ports, strGamePath);
+    for (const fs::path& kept : {file, Aside(file)}) {
+        if (IsSomethingElse(kept, strGamePath)) return kept.string();
+    }
+    return std::nullopt;
+}
+
+void SetRecoveryAside(const Ports& ports, const std::string& strGamePath) {
+    if (ports.folders.userState.empty()) return;
+    const fs::path file = FileOf(ports, strGamePath);
+    std::error_code noneToBeSetAside;
+    fs::rename(file, Aside(file), noneToBeSetAside);
+}
+
+void ForgetRecovery(const Ports& ports, const std::string& strGamePath) {
+    if (ports.folders.userState.empty()) return;
+    const fs::path file = FileOf(ports, strGamePath);
+    std::error_code noneThere;
+    fs::remove(file, noneThere);
+    fs::remove(Aside(file), noneThere);
+}
+
+}  // namespace qarn
