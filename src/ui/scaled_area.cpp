@@ -39,6 +39,7 @@ void ScaledArea::resizeEvent(QResizeEvent* event) {
                      qRound((size.height() - pixels.height() * scale_) / 2));
 
     ScaleFont();
+    std::erase_if(placed_, [](const Placed& placed) { return placed.widget.isNull(); });
     for (const Placed& placed : placed_) Apply(placed);
 }
 

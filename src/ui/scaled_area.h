@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <vector>
 
@@ -16,7 +17,7 @@ public:
     ScaledArea(QSize design, double fontSize);
 
     /// Gives a widget its place in twips, counted from its parent: this area or one placed on it.
-    /// A widget that has a place already moves.
+    /// A widget that has a place already moves; one that goes gives its place up.
     void Place(QWidget* widget, const QRect& twips);
 
     QSize sizeHint() const override { return design_ / twipsPerPixel; }
@@ -27,7 +28,7 @@ protected:
 
 private:
     struct Placed {
-        QWidget* widget;
+        QPointer<QWidget> widget;  // null once it has gone
         QRect twips;
     };
 

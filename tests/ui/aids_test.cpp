@@ -217,6 +217,9 @@ TEST_F(GameWindow, OffersAidsInTheFirstGameOnly) {
     ViewChoices offered;
     offered.sides = offered.reach = offered.odds = true;
     EXPECT_EQ(window->ShownGame().view, offered);
+    const int width = board->width();
+    window->resize(window->size() * 4 / 5);  // the strip has left its place
+    EXPECT_LT(board->width(), width);
     EXPECT_TRUE(window->ShownGame().record.house.ownGroupsOnly);
 
     window = std::make_unique<FrmGame>(random, desktop);
