@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <csignal>
 #include <filesystem>
@@ -162,6 +163,14 @@ TEST_F(WholeProgram, EndsWithoutAskingWhenItIsToldTo) {
             EXPECT_EQ(RunProgram(folder / "game.tgf"), 0) << box;
             EXPECT_GT(ReadFile(folder / "game.tgf").size(), newGame.size()) << "it was saved";
         }
+        // The box that tells the end of a game: it has not come to that.
+        WriteFile(folder / "game.tgf", newGame);
+        script.On<FrmGame>(
+            [](FrmGame& window) { window.findChild<QAction*>("mnuResign")->trigger(); });
+        script.On<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
+        script.On<QMessageBox>([=](QMessageBox&) { tell(); });
+        EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+        EXPECT_GT(ReadFile(folder / "game.tgf").size(), newGame.size());
         script.On<FrmSplash>([=](FrmSplash&) { tell(); });
         EXPECT_EQ(RunProgram(""), 0);
     }
