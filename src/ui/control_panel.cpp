@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
+#include "play/ticked_told.h"
 #include "rules/terrain.h"
 #include "ui/design.h"
 #include "ui/text.h"
@@ -169,7 +170,9 @@ void ControlPanel::Show(const Game& game) {
         ShowButton(widget, controls.*button.State, TakesPress(game, button));
     }
     ShowTerrainKey(game);
-    lblDetailMore_->ShowText(ToLabelText(controls.lblDetailMore.Caption));
+    std::string items = controls.lblDetailMore.Caption;
+    if (const std::string ticked = ToldOfTicked(game); !ticked.empty()) items += '\n' + ticked;
+    lblDetailMore_->ShowText(ToLabelText(items));
     lblStatus_->Tell(ToLabelText(controls.lblStatus.Caption));
     ShowFloatingFrames(controls);
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "play/ticked_told.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -26,6 +27,20 @@ TEST(SquareText, TellsOwnersAndStrengthsWhileSidesAreShown) {
     played.game.record.strPlayerName = {};
     EXPECT_EQ(NameOfSquare(game, 17, 2),
               "(17, 2) Ocean. Badbeasts: Corsair, 3 mobility, 3 attack, 3 defense.");
+}
+
+TEST(SquareText, TellsWhatTheTickedComeToWhileSidesAreShown) {
+    PlayedGame played("Q@9,5 WS@9,5 BT@9,5 Z@17,2");
+    for (const char* command : {"press cmdMove", "click 9 5"}) played.Do(command);
+    EXPECT_EQ(ToldOfTicked(played.game), "");
+    played.Do("menu mnuSides");
+    EXPECT_EQ(ToldOfTicked(played.game),
+              "7 mobility, 13 attack, 10 defense\nHero: 3, 5, 5\nWarlord's Slaves: 4, 8, 5\nBoat");
+    played.Do("untick 2");
+    played.Do("untick 3");
+    EXPECT_EQ(ToldOfTicked(played.game), "3 mobility, 5 attack, 5 defense\nHero: 3, 5, 5");
+    played.Do("press cmdDoneSel");
+    EXPECT_EQ(ToldOfTicked(played.game), "");
 }
 
 TEST(SquareText, TellsWhatAStepWouldCostWhileReachIsShown) {

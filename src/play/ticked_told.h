@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace qarn {
+
+struct Game;
+
+/// What the ticked boxes of a choice come to, while sides are shown: the sum of their strengths and
+/// then each name with its own mobility, attack and defense, one a line. Empty otherwise, and where
+/// nothing is to be chosen.
+std::string ToldOfTicked(const Game& game);
+
+}  // namespace qarn
