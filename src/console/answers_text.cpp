@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include "console/printable.h"
+
 namespace qarn {
 namespace {
 
@@ -28,7 +30,7 @@ void PrintAttack(std::ostream& out, const std::optional<AttackOdds>& attack) {
 
 void PrintAnswers(std::ostream& out, const Answers& answers) {
     if (answers.journal) {
-        for (const std::string& line : *answers.journal) out << line << '\n';
+        for (const std::string& line : *answers.journal) out << Printable(line) << '\n';
     }
     if (answers.reach) PrintReach(out, *answers.reach);
     if (answers.odds) {

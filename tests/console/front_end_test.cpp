@@ -40,7 +40,7 @@ TEST(Terminal, ShowsAmpersandsInNamesAndNoneInCaptions) {
 TEST(Terminal, ShowsControlCharactersAsEscapes) {
     ConsoleGame game(
         Named(SavedGame("turn1 WS@3,7 Z@1,1"), "\x1b[2J\a\x7f\x81\xe9", "B\xf6\x9bse"));
-    const std::string text = game.ForPerson("open \xe9\x1b[31m\x9b; menu New; no");
+    const std::string text = game.ForPerson("journal; open \xe9\x1b[31m\x9b; menu New; no");
     EXPECT_NE(text.find("(\\x1b[2J\\x07\\x7f\\x81é vs. Bö›se)"), text.npos) << text;
     EXPECT_NE(text.find("\nIt is \\x1b[2J\\x07\\x7f\\x81é's turn.\n"), text.npos);
     EXPECT_NE(text.find("\\x1b[31m\\x9b"), text.npos);
