@@ -3,47 +3,27 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <filesystem>
 #include <limits>
 #include <optional>
-#include <system_error>
 
 #include "ai/turn_driver.h"
 #include "console/words.h"
 #include "core/failure_text.h"
-#include "core/file_store.h"
-#include "core/game_file.h"
 #include "core/opponents.h"
 #include "core/player_error.h"
 #include "play/play_menu.h"
 #include "play/tell_journal.h"
 #include "rules/terrain.h"
-#include "scenarios/catalogue.h"
-#include "shell/kept_journal.h"
-#include "shell/kept_opponents.h"
 #include "window/board_clicks.h"
 #include "window/buttons.h"
 #include "window/house_rules.h"
-#include "window/load_game.h"
 #include "window/menu_commands.h"
 #include "window/opponents_turn.h"
-#include "window/save_game.h"
 
 namespace qarn {
 namespace {
 
 constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
-
-std::string AbsolutePath(const std::string& path) {
-    if (path.empty()) throw Refusal("The path is empty.");
-    if (path.find('\0') != std::string::npos) {
-        throw Refusal("The path holds a character that no path can hold.");
-    }
-    std::error_code error;
-    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-    if (error) throw Refusal("The working folder can not be found: " + error.message() + ".");
-    return absolute.string();
-}
 
 Square ParseSquare(const std::string& column, const std::string& row) {
     return {static_cast<std::uint8_t>(ParseNumber<int>(column, 1, columnCount)),
@@ -58,30 +38,6 @@ double ParseUniform(const std::string& word) {
         throw Refusal("\"" + word + "\" should be a number of at least 0 and below 1.");
     }
     return number;
-}
-
-Player ParsePlayer(const std::string& name, const std::string& kind) {
-    if (kind != "human" && kind != "computer") {
-        throw Refusal("A player is \"human\" or \"computer\", not \"" + kind + "\".");
-    }
-    return {.strPlayerName = name, .blnComputer = kind == "computer"};
-}
-
-std::string TextOfNewGame(const std::string& code, const std::array<Player, 2>& players) {
-    if (ScenarioNumber(code) == 0) throw Refusal("There is no scenario \"" + code + "\".");
-    try {
-        return NewGameText(code, players);
-    } catch (const SaveError& error) {
-        throw Refusal(error.what());
-    }
-}
-
-// Gives false when the game in progress could not be saved and stays open.
-bool LeaveGame(Game& game) {
-    if (!game.blnOpen) return true;
-    game.record.blnLeaving = true;
-    Form_Unload(game);
-    return !game.blnOpen;
 }
 
 void RequireUsable(bool enabled, bool visible, std::string_view name) {
@@ -182,40 +138,6 @@ void Session::ExecuteOrThrow(const Words& words) {
 
 void Session::RequireRunning() const {
     if (game_.blnEnded) throw Refusal("The program has ended.");
-}
-
-void Session::New(const Words& words) {
-    RequireRunning();
-    const std::string path = AbsolutePath(words[1]);
-    const std::string text =
-        TextOfNewGame(words[2], {ParsePlayer(words[3], words[4]), ParsePlayer(words[5], words[6])});
-    Load(path, [&] {
-        try {
-            ReplaceFile(path, text);
-            KeepOpponents(game_.ports, path, {"", classicOpponent, classicOpponent});
-            ForgetJournal(game_.ports, path);
-        } catch (const std::system_error& error) {
-            throw SaveError("The new game can not be written. " + error.code().message() + ".\n" +
-                            path);
-        }
-    });
-}
-
-void Session::Open(const Words& words) {
-    RequireRunning();
-    Load(AbsolutePath(words[1]), [] {});
-}
-
-void Session::Load(const std::string& path, const std::function<void()>& prepare) {
-    bool opened = false;
-    Run("Form_Load", [&](Game& game) {
-        if (!LeaveGame(game)) return;
-        prepare();
-        Form_Load(game, path);
-        opened = true;
-    });
-    if (game_.blnOpen) journal_.Open(game_);
-    if (!opened && !game_.blnEnded) throw Refusal("The game could not be opened.");
 }
 
 void Session::Click(const Words& words) {
@@ -325,7 +247,7 @@ void Session::ChooseHouseRule(const Words& words) {
 }
 
 void Session::SaveAs(const Words& words) {
-    const std::string path = AbsolutePath(words[1]);
+    const std::string path = ParsePath(words[1]);
     const MenuCommand& mnuSaveAs = RequireChoosable(game_, "mnuSaveAs");
     dialogs_.SetSaveFileName(path);
     Run("mnuSaveAs_Click", mnuSaveAs.Click);
@@ -362,12 +284,6 @@ void Session::ChooseInMenuPlay(const Words& words) {
 }
 
 void Session::AskJournal(const Words&) { answers_.journal = TellJournal(journal_.Told(), game_); }
-
-void Session::Close(const Words&) { Run("Form_Unload", Form_Unload); }
-
-void Session::CloseWithoutBoxes() {
-    if (game_.blnOpen) Run("Form_Unload", qarn::CloseWithoutBoxes);
-}
 
 // ---- Events ----
 

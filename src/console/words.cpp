@@ -1,5 +1,8 @@
 #include "console/words.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace qarn {
 namespace {
 
@@ -43,6 +46,17 @@ std::vector<std::string> SplitWords(std::string_view line) {
         line.remove_prefix(begin);
         words.push_back(TakeWord(line));
     }
+}
+
+std::string ParsePath(const std::string& word) {
+    if (word.empty()) throw Refusal("The path is empty.");
+    if (word.find('\0') != std::string::npos) {
+        throw Refusal("The path holds a character that no path can hold.");
+    }
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(word, error);
+    if (error) throw Refusal("The working folder can not be found: " + error.message() + ".");
+    return absolute.string();
 }
 
 }  // namespace qarn

@@ -31,4 +31,7 @@ Number ParseNumber(const std::string& word, Number low, Number high) {
     return number;
 }
 
+/// The absolute path that a word tells. Throws Refusal for one that no path can be.
+std::string ParsePath(const std::string& word);
+
 }  // namespace qarn
