@@ -18,7 +18,7 @@ struct Muster {
     int rows = 0;
     int west = columnCount;
     int east = 1;
-    const RosterEntry* leader = nullptr;
+    const RosterEntry* strongest = nullptr;
 };
 
 int StrengthOf(const RosterEntry& entry) { return entry.Attack + entry.Defense; }
@@ -34,8 +34,8 @@ Muster MusterOf(const ScenarioData& data, std::uint8_t side) {
         muster.rows += entry.LocationY;
         muster.west = std::min<int>(muster.west, entry.LocationX);
         muster.east = std::max<int>(muster.east, entry.LocationX);
-        if (muster.leader == nullptr || StrengthOf(entry) > StrengthOf(*muster.leader)) {
-            muster.leader = &entry;
+        if (muster.strongest == nullptr || StrengthOf(entry) > StrengthOf(*muster.strongest)) {
+            muster.strongest = &entry;
         }
     }
     return muster;
@@ -64,7 +64,7 @@ std::string PlaceOf(const Muster& muster) {
 std::string ToldOfSide(int scenario, std::uint8_t side) {
     const Muster muster = MusterOf(DataOfScenario(scenario), side);
     return std::string(side == 1 ? "Goodbeasts: " : "Badbeasts: ") + std::to_string(muster.groups) +
-           " groups, led by " + std::string(muster.leader->Name) + ", " +
+           " groups, the strongest " + std::string(muster.strongest->Name) + "; " +
            std::to_string(muster.attack) + " attack, " + std::to_string(muster.defense) +
            " defense, " + PlaceOf(muster) + ".";
 }

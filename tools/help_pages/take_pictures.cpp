@@ -77,7 +77,7 @@ void TakeStartWindow(const fs::path& folder) {
     NoSettings settings;
     NoFileTypes fileTypes;
     NoWastebasket wastebasket;
-    const std::string games = fs::temp_directory_path().string();
+    const std::string games = folder.string();  // has none yet
     FrmSplash window(random, {settings, fileTypes, {games, games}}, wastebasket);
     window.show();
     LetWindowsSettle();
