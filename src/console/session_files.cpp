@@ -73,7 +73,7 @@ void Session::Load(const std::string& path, const std::function<void()>& prepare
         Form_Load(game, path);
         opened = true;
     });
-    if (game_.blnOpen) journal_.Open(game_);
+    if (opened) journal_.Open(game_);
     if (!opened && !game_.blnEnded) throw Refusal("The game could not be opened.");
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "console/session.h"
+#include "console/words.h"
 #include "shell/user_settings.h"
 #include "support/console_game.h"
 #include "support/played_game.h"
@@ -132,6 +134,19 @@ TEST(Answers, ForAPerson) {
         EXPECT_NE(text.find(part), text.npos) << part << "\n" << text;
     }
     EXPECT_NE(text.find("\nFor 2 mobility units:"), text.npos) << text;
+}
+
+TEST(JournalCommand, GoesOnWithAGameThatCouldNotBeLeft) {
+    ConsoleGame game(SavedGame("Q@9,10 WA@15,4"));
+    Session session({game.settings, *game.fileTypes, {}});
+    session.Execute({"open", game.path});
+    session.Execute({"answer", "yes"});
+    session.Execute({"pass"});
+    WriteFile(game.path, "another program's");  // which is asked about, and nobody answers
+    EXPECT_THROW(session.Execute({"open", game.folder / "other.tgf"}), Refusal);
+    session.Execute({"journal"});
+    const std::vector<std::string> told{"Turn 1: Red", "  Nothing was done.", "Turn 2: Blue"};
+    EXPECT_EQ(session.TakeAnswers().journal, told);
 }
 
 TEST(JournalCommand, TellsTheOpponentsTurnAndWhatItSaid) {
