@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <variant>
@@ -88,5 +89,12 @@ struct Ended {
 
 using Happening = std::variant<Moved, Attacked, Lost, Burned, Returned, TurnCame, Ended>;
 using Happenings = std::vector<Happening>;
+
+/// True when one of them is of a kind.
+template <typename Kind>
+bool Brought(const Happenings& happenings) {
+    return std::any_of(happenings.begin(), happenings.end(),
+                       [](const Happening& one) { return std::holds_alternative<Kind>(one); });
+}
 
 }  // namespace qarn

@@ -43,14 +43,17 @@ OddsAnswer OddsOfStack(const GameRecord& record, Square from, Square to) {
     return answer;
 }
 
+std::string TextOf(const Odds& odds) {
+    return "wins " + Percent(odds.win) + ", ties " + Percent(odds.tie) + ", loses " +
+           Percent(odds.lose);
+}
+
 std::string TextOf(const AttackOdds& attack) {
     const std::string units =
         std::to_string(attack.attack) + " against " + std::to_string(attack.defense) + ": ";
     if (attack.burns) return units + "burns it down";
-    const Odds& odds = attack.odds;
-    return units + "wins " + Percent(odds.win) + ", ties " + Percent(odds.tie) + ", loses " +
-           Percent(odds.lose) +
-           (odds.lossAfterWin > 0 ? "; after a win one in five costs a character" : "");
+    return units + TextOf(attack.odds) +
+           (attack.odds.lossAfterWin > 0 ? "; after a win one in five costs a character" : "");
 }
 
 }  // namespace qarn

@@ -39,8 +39,11 @@ std::optional<AttackOdds> OddsOfAttack(const Position& position, Square from, Sq
 /// turn. Throws EightBitOverflow when a sum passes 255.
 OddsAnswer OddsOfStack(const GameRecord& record, Square from, Square to);
 
-/// The same in words: "13 against 4: wins 60 %, ties 20 %, loses 20 %; after a win one in five
-/// costs a character".
+/// Odds in words: "wins 60 %, ties 20 %, loses 20 %".
+std::string TextOf(const Odds& odds);
+
+/// The odds of an attack in words: "13 against 4: wins 60 %, ties 20 %, loses 20 %; after a win one
+/// in five costs a character".
 std::string TextOf(const AttackOdds& attack);
 
 }  // namespace qarn

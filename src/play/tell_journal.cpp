@@ -7,6 +7,7 @@
 #include "core/game.h"
 #include "core/opponents.h"
 #include "play/journal.h"
+#include "play/odds_told.h"
 #include "play/square_text.h"
 #include "rules/questions/odds.h"
 #include "window/house_rules.h"
@@ -14,18 +15,8 @@
 namespace qarn {
 namespace {
 
-std::string Text(Square square) {
+std::string TextOf(Square square) {
     return "(" + std::to_string(square.X) + ", " + std::to_string(square.Y) + ")";
-}
-
-std::string Percent(int numbersOfTheDie) {
-    return std::to_string(100 * numbersOfTheDie / dieSides) + " %";
-}
-
-std::string OddsText(const Attacked& attack) {
-    const Odds odds = OddsOf(attack.attack, attack.defense);
-    return "wins " + Percent(odds.win) + ", ties " + Percent(odds.tie) + ", loses " +
-           Percent(odds.lose);
 }
 
 std::string ResultText(AttackResult result) {
@@ -85,25 +76,25 @@ public:
         const Attacked& attack = fight.attack;
         const std::string text =
             NamesOf(fight.attackers) + " attacked " + WhatIsAttacked(fight) + " from " +
-            Text(attack.from) + (attack.direct ? " by stepping in, " : ", ") +
+            TextOf(attack.from) + (attack.direct ? " by stepping in, " : ", ") +
             std::to_string(attack.attack) + " against " + std::to_string(attack.defense);
         if (!attack.roll) return Say(text + ".");
-        Say(text + ": " + OddsText(attack) + ".");
+        Say(text + ": " + TextOf(OddsOf(attack.attack, attack.defense)) + ".");
         Say(RollText(attack));
     }
 
     void operator()(const Lost& lost) {
-        Say(PlayerOf(lost.side) + " lost " + NamesOf(lost.people) + " on " + Text(lost.at) + ".");
+        Say(PlayerOf(lost.side) + " lost " + NamesOf(lost.people) + " on " + TextOf(lost.at) + ".");
     }
 
     // Only Gallowrock becomes sand.
     void operator()(const Burned& burned) {
-        Say((burned.terrain == Sand ? "Gallowrock " : "The abbey ") + Text(burned.at) +
+        Say((burned.terrain == Sand ? "Gallowrock " : "The abbey ") + TextOf(burned.at) +
             " burned down.");
     }
 
     void operator()(const Returned& back) {
-        Say(NamesOf(back.people) + " had to go back to " + Text(back.at) + ".");
+        Say(NamesOf(back.people) + " had to go back to " + TextOf(back.at) + ".");
     }
 
     void operator()(const Ended& end) {
@@ -129,10 +120,10 @@ private:
         if (way_.path.empty()) return;
         std::string by;
         for (std::size_t k = 1; k + 1 < way_.path.size(); ++k) {
-            by += (by.empty() ? " by " : ", ") + Text(way_.path[k]);
+            by += (by.empty() ? " by " : ", ") + TextOf(way_.path[k]);
         }
-        Say(NamesOf(way_.people) + " went from " + Text(way_.path[0]) + by + " to " +
-            Text(way_.path.back()) + ".");
+        Say(NamesOf(way_.people) + " went from " + TextOf(way_.path[0]) + by + " to " +
+            TextOf(way_.path.back()) + ".");
         way_ = {};
     }
 
@@ -152,7 +143,7 @@ private:
     // Nobody need stand on a landmark that is attacked.
     std::string WhatIsAttacked(const Fight& fight) const {
         const std::string place = std::string(game_.controls.lblTerrKey.at(fight.terrain).Caption) +
-                                  " " + Text(fight.attack.to);
+                                  " " + TextOf(fight.attack.to);
         if (fight.defenders.Empty()) return place;
         return NamesOf(fight.defenders) + " on " + place;
     }

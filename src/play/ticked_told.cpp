@@ -1,15 +1,20 @@
 #include "play/ticked_told.h"
 
+#include "core/eight_bit.h"
 #include "core/game.h"
+#include "core/position.h"
 
 namespace qarn {
 namespace {
 
-struct Strengths {
-    int mobility = 0;
-    int attack = 0;
-    int defense = 0;
-};
+PeopleSet Ticked(const Game& game) {
+    PeopleSet ticked;
+    for (std::size_t i = 1; i <= checkBoxCount; ++i) {
+        const CheckBox& box = game.controls.chkItems[i];
+        if (box.Visible && box.Value) ticked.Add(game.record.bytListedPeople[i]);
+    }
+    return ticked;
+}
 
 std::string LineOf(const PeopleRecord& people) {
     if (IsTransport(people)) return std::string(people.Name);
@@ -17,24 +22,25 @@ std::string LineOf(const PeopleRecord& people) {
            std::to_string(people.Attack) + ", " + std::to_string(people.Defense);
 }
 
+std::string Told(const GameRecord& record, PeopleSet ticked) {
+    const Strength sum = StrengthOf(PositionOf(record), ticked);
+    std::string told = std::to_string(sum.Mobility) + " mobility, " + std::to_string(sum.Attack) +
+                       " attack, " + std::to_string(sum.Defense) + " defense";
+    for (const std::uint8_t i : ticked) told += '\n' + LineOf(record.People[i]);
+    return told;
+}
+
 }  // namespace
 
 std::string ToldOfTicked(const Game& game) {
     if (!game.view.sides || !game.controls.cmdDoneSel.Visible) return "";
-    Strengths sum;
-    std::string lines;
-    for (std::size_t i = 1; i <= checkBoxCount; ++i) {
-        const CheckBox& box = game.controls.chkItems[i];
-        if (!box.Visible || !box.Value) continue;
-        const PeopleRecord& people = game.record.People.at(game.record.bytListedPeople[i]);
-        sum.mobility += people.Mobility;
-        sum.attack += people.Attack;
-        sum.defense += people.Defense;
-        lines += '\n' + LineOf(people);
+    const PeopleSet ticked = Ticked(game);
+    if (ticked.Empty()) return "";
+    try {
+        return Told(game.record, ticked);
+    } catch (const EightBitOverflow&) {
+        return "";
     }
-    if (lines.empty()) return "";
-    return std::to_string(sum.mobility) + " mobility, " + std::to_string(sum.attack) + " attack, " +
-           std::to_string(sum.defense) + " defense" + lines;
 }
 
 }  // namespace qarn

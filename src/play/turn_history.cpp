@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <utility>
-#include <variant>
 
 #include "window/opponents_turn.h"
 #include "window/run_event.h"
@@ -17,13 +16,6 @@ constexpr std::array<std::string_view, 5> eventsOfATurn{
 
 bool IsOfATurn(std::string_view event) {
     return std::find(eventsOfATurn.begin(), eventsOfATurn.end(), event) != eventsOfATurn.end();
-}
-
-template <typename Kind>
-int CountOf(const Happenings& happenings) {
-    return static_cast<int>(
-        std::count_if(happenings.begin(), happenings.end(),
-                      [](const Happening& one) { return std::holds_alternative<Kind>(one); }));
 }
 
 void KeepNamesAndSettings(const Game& game, GameState& state) {
@@ -63,9 +55,8 @@ void TurnHistory::NoteTick(Game& game) {
 
 void TurnHistory::Note(Game& game, bool played, bool confirmed) {
     const bool underWay = IsPersonsMoveUnderWay(game.record);
-    const bool decided = played && (confirmed || CountOf<Attacked>(game.happenings) > 0);
-    const int turns = CountOf<TurnCame>(game.happenings);
-    if (decided || turns > 0 || HasTurnInHand(game)) {
+    const bool decided = played && (confirmed || Brought<Attacked>(game.happenings));
+    if (decided || Brought<TurnCame>(game.happenings) || HasTurnInHand(game)) {
         before_.clear();
         closed_ = decided && underWay;
     } else if (played && !closed_ && (underWay || IsPersonsMoveUnderWay(game.beforeEvent.record))) {

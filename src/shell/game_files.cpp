@@ -1,16 +1,16 @@
 #include "shell/game_files.h"
 
 #include <strings.h>
-#include <sys/stat.h>
 
 #include <algorithm>
-#include <array>
-#include <ctime>
 #include <filesystem>
+#include <utility>
 
 #include "core/code_page.h"
+#include "core/file_mark.h"
 #include "core/game_file.h"
 #include "scenarios/catalogue.h"
+#include "shell/told_time.h"
 
 namespace qarn {
 namespace {
@@ -24,19 +24,16 @@ bool EndsWith(const std::string& name, const std::string& end) {
 
 struct Found {
     std::string name;
-    timespec saved{};
+    FileMark mark;
 };
 
 bool ComesBefore(const Found& one, const Found& other) {
-    if (one.saved.tv_sec != other.saved.tv_sec) return one.saved.tv_sec > other.saved.tv_sec;
-    if (one.saved.tv_nsec != other.saved.tv_nsec) return one.saved.tv_nsec > other.saved.tv_nsec;
+    const auto savedAt = [](const Found& found) {
+        return std::pair(found.mark.seconds, found.mark.nanoseconds);
+    };
+    if (savedAt(one) != savedAt(other)) return savedAt(one) > savedAt(other);
     const int order = strcasecmp(one.name.c_str(), other.name.c_str());
     return order != 0 ? order < 0 : one.name < other.name;
-}
-
-timespec SavedAt(const std::string& path) {
-    struct stat status {};
-    return stat(path.c_str(), &status) == 0 ? status.st_mtim : timespec{};
 }
 
 std::string PlayerOf(const std::string& line) {
@@ -57,17 +54,9 @@ std::string ToldOfGame(const std::string& path) {
     return told + " " + (turn == 1 ? first : second) + " to move.";
 }
 
-std::string DateOf(const timespec& time) {
-    std::array<char, 64> month{};
-    tm local{};
-    localtime_r(&time.tv_sec, &local);
-    std::strftime(month.data(), month.size(), "%B %Y, %H:%M", &local);
-    return std::to_string(local.tm_mday) + " " + month.data();
-}
-
-std::string ToldOfFile(const std::string& path, const timespec& saved) {
+std::string ToldOfFile(const std::string& path, const FileMark& mark) {
     try {
-        return ToldOfGame(path) + " " + DateOf(saved) + ".";
+        return ToldOfGame(path) + " " + ToldTime(mark.seconds) + ".";
     } catch (const PlayerError& error) {
         return error.what();
     }
@@ -76,20 +65,19 @@ std::string ToldOfFile(const std::string& path, const timespec& saved) {
 }  // namespace
 
 std::vector<GameFile> GameFilesIn(const std::string& folder) {
-    std::vector<Found> names;
+    std::vector<Found> found;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         std::error_code none;
         const std::string name = entry->path().filename().string();
-        if (EndsWith(name, ".tgf") && entry->is_regular_file(none)) {
-            names.push_back({name, SavedAt(entry->path().string())});
-        }
+        if (!EndsWith(name, ".tgf") || !entry->is_regular_file(none)) continue;
+        if (const auto mark = MarkOf(entry->path().string())) found.push_back({name, *mark});
     }
-    std::sort(names.begin(), names.end(), ComesBefore);
+    std::sort(found.begin(), found.end(), ComesBefore);
     std::vector<GameFile> files;
-    for (const Found& one : names) {
-        files.push_back({one.name, ToldOfFile((fs::path(folder) / one.name).string(), one.saved)});
+    for (const auto& [name, mark] : found) {
+        files.push_back({name, ToldOfFile((fs::path(folder) / name).string(), mark)});
     }
     return files;
 }

@@ -34,9 +34,8 @@ struct ListBox {
 struct FileList {
     std::string Path;
     std::vector<std::string> List;  ///< names without folder, in the file system's bytes
-    std::vector<std::string>
-        Told;            ///< of each: what game it holds, of when, and whether a later turn is kept
-    int ListIndex = -1;  ///< as in ListBox
+    std::vector<std::string> Told;  ///< of each: its game, when it was saved, what can be recovered
+    int ListIndex = -1;             ///< as in ListBox
     bool Enabled = true;
     bool Visible = true;
 };

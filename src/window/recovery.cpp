@@ -1,35 +1,19 @@
 #include "window/recovery.h"
 
-#include <sys/stat.h>
-
-#include <algorithm>
-#include <array>
-#include <ctime>
-#include <variant>
-
+#include "core/file_mark.h"
 #include "core/game.h"
 #include "core/game_file.h"
 #include "shell/kept_recovery.h"
+#include "shell/told_time.h"
 #include "window/load_game.h"
 #include "window/save_game.h"
 
 namespace qarn {
 namespace {
 
-template <typename Kind>
-bool Brought(const Happenings& happenings) {
-    return std::any_of(happenings.begin(), happenings.end(),
-                       [](const Happening& one) { return std::holds_alternative<Kind>(one); });
-}
-
 std::string TimeOf(const std::string& path) {
-    struct stat status {};
-    std::tm time{};
-    std::array<char, 64> text{};
-    const bool known = stat(path.c_str(), &status) == 0 &&
-                       localtime_r(&status.st_mtim.tv_sec, &time) != nullptr &&
-                       std::strftime(text.data(), text.size(), "%B %Y, %H:%M:%S", &time) > 0;
-    return known ? std::to_string(time.tm_mday) + " " + text.data() : "unknown";
+    const std::optional<FileMark> mark = MarkOf(path);
+    return mark ? ToldTime(mark->seconds) : "unknown";
 }
 
 void KeepGame(const Game& game) {
