@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/color.h"
 #include "ui/paint_codes.h"
 #include "ui/paint_coordinates.h"
 #include "ui/paint_hint.h"
@@ -17,8 +18,6 @@ constexpr QColor lineColor(0x40, 0x40, 0x40);
 constexpr QColor cursorColor(0x00, 0x00, 0x00);
 constexpr QColor cursorRimColor(0xFF, 0xFF, 0xFF);
 constexpr QColor highlightColor(0xFF, 0x00, 0xC8);
-
-QColor ToQt(Color color) { return QColor::fromRgb(color.rgb); }
 
 // An outline inside a rectangle, `width` thick.
 void PaintOutline(QPainter& painter, const QRectF& rect, double width, QColor color) {

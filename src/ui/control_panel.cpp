@@ -7,6 +7,7 @@
 #include "play/ticked_told.h"
 #include "rules/terrain.h"
 #include "ui/design.h"
+#include "ui/note_look.h"
 #include "ui/text.h"
 #include "window/buttons.h"
 #include "window/opponents_turn.h"
@@ -54,10 +55,7 @@ void Tighten(QPushButton* button) {
 // A note that lies over the board. The mouse reaches the squares beneath it.
 void MakeNote(QFrame* widget) {
     widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-    widget->setFrameShape(QFrame::Box);
-    widget->setAutoFillBackground(true);
-    widget->setBackgroundRole(QPalette::ToolTipBase);
-    widget->setForegroundRole(QPalette::ToolTipText);
+    LookLikeNote(*widget);
 }
 
 }  // namespace

@@ -3,14 +3,13 @@
 #include <QMenu>
 
 #include "ui/design.h"
+#include "ui/note_look.h"
 
 namespace qarn {
 
 NoMoveStrip::NoMoveStrip(ScaledArea* area) : QFrame(area) {
     setObjectName("noMoveStrip");
-    setFrameShape(QFrame::Box);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
+    LookLikeNote(*this);
     text_.setObjectName("noMoveText");
     text_.setForegroundRole(QPalette::ToolTipText);
     cmdPass_.setObjectName("cmdPassItsTurn");

@@ -1,14 +1,13 @@
 #include "ui/odds_note.h"
 
+#include "ui/note_look.h"
+
 namespace qarn {
 
 OddsNote::OddsNote(QWidget* parent) : StatusLine(parent) {
     setObjectName("oddsNote");
-    setFrameShape(QFrame::Box);
+    LookLikeNote(*this);
     setMargin(2);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
     hide();
 }
 

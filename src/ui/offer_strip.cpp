@@ -1,6 +1,7 @@
 #include "ui/offer_strip.h"
 
 #include "ui/design.h"
+#include "ui/note_look.h"
 #include "ui/scaled_area.h"
 #include "ui/status_line.h"
 
@@ -8,9 +9,7 @@ namespace qarn {
 
 OfferStrip::OfferStrip(ScaledArea* area) : QFrame(area), take_(new QPushButton("Show them", this)) {
     setObjectName("offerStrip");
-    setFrameShape(QFrame::Box);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
+    LookLikeNote(*this);
     area->Place(this, opponentStripTwips);
 
     auto* text = new StatusLine(this);

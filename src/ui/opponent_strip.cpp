@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "ui/note_look.h"
+
 namespace qarn {
 namespace {
 
@@ -11,11 +13,8 @@ constexpr int worthShowing = 150;  // milliseconds of thinking
 
 OpponentStrip::OpponentStrip(QWidget* parent) : StatusLine(parent) {
     setObjectName("opponentStrip");
-    setFrameShape(QFrame::Box);
+    LookLikeNote(*this);
     setMargin(2);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
     hide();
     time_.setObjectName("told");
     time_.setSingleShot(true);

@@ -4,6 +4,7 @@
 
 #include "rules/terrain.h"
 #include "scenarios/setup.h"
+#include "ui/color.h"
 #include "ui/side_plate.h"
 
 namespace qarn {
@@ -38,7 +39,7 @@ QPixmap ScenarioPicture(int scenario, int square, qreal devicePixelRatio) {
                 data.Board[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
             const Color color = ColorsOfTerrain(static_cast<std::uint8_t>(code - '0')).BackColor;
             painter.fillRect(column * square + 1, row * square + 1, square - 1, square - 1,
-                             QColor::fromRgb(color.rgb));
+                             ToQt(color));
         }
     }
     PaintGroups(painter, data, square);

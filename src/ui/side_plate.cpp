@@ -3,6 +3,7 @@
 #include <QPainterPath>
 
 #include "play/side_colors.h"
+#include "ui/color.h"
 
 namespace qarn {
 namespace {
@@ -28,8 +29,6 @@ QPainterPath ShapeOf(const QRectF& place, std::uint8_t side) {
     }
     return shape;
 }
-
-QColor ToQt(Color color) { return QColor::fromRgb(color.rgb); }
 
 }  // namespace
 

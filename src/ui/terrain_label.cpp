@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "rules/terrain.h"
+#include "ui/color.h"
 #include "ui/terrain_pattern.h"
 
 namespace qarn {
@@ -13,8 +14,8 @@ constexpr double cell = 0.18;  // by the width of the label: as large as on the 
 QPalette TerrainPalette(std::uint8_t code) {
     const TerrainColors colors = ColorsOfTerrain(code);
     QPalette palette;
-    palette.setColor(QPalette::Window, QColor::fromRgb(colors.BackColor.rgb));
-    palette.setColor(QPalette::WindowText, QColor::fromRgb(colors.ForeColor.rgb));
+    palette.setColor(QPalette::Window, ToQt(colors.BackColor));
+    palette.setColor(QPalette::WindowText, ToQt(colors.ForeColor));
     return palette;
 }
 

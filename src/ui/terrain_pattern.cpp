@@ -3,6 +3,7 @@
 #include <QPainterPath>
 
 #include "rules/terrain.h"
+#include "ui/color.h"
 
 namespace qarn {
 namespace {
@@ -149,7 +150,7 @@ void TerrainSquares::Paint(QPainter& painter, const QRectF& square, std::uint8_t
     if (picture.isNull()) {
         picture = QPixmap(pixels_);
         picture.setDevicePixelRatio(ratio_);
-        picture.fill(QColor::fromRgb(ColorsOfTerrain(code).BackColor.rgb));
+        picture.fill(ToQt(ColorsOfTerrain(code).BackColor));
         QPainter onPicture(&picture);
         const QSizeF size = picture.deviceIndependentSize();
         PaintTerrainPattern(onPicture, QRectF(QPointF(), size), code, size.width() / cellsInSquare);

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "rules/terrain.h"
+#include "ui/color.h"
 
 namespace qarn {
 
@@ -20,7 +21,7 @@ QIcon WindowIcon() {
     for (int i = 0; i < squares * squares; ++i) {
         const Color color = ColorsOfTerrain(codes[static_cast<std::size_t>(i)]).BackColor;
         painter.fillRect(frame + i % squares * side + 1, frame + i / squares * side + 1, side - 2,
-                         side - 2, QColor::fromRgb(color.rgb));
+                         side - 2, ToQt(color));
     }
     return picture;
 }

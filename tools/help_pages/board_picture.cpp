@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "rules/terrain.h"
+#include "ui/color.h"
 #include "ui/side_plate.h"
 
 namespace qarn {
@@ -19,7 +20,7 @@ constexpr int chipsInColumn = 4;
 constexpr QColor grid{0x60, 0x60, 0x60};
 constexpr QColor numbers{0x55, 0x55, 0x55};
 
-QColor BackColor(std::uint8_t code) { return QColor::fromRgb(ColorsOfTerrain(code).BackColor.rgb); }
+QColor BackColor(std::uint8_t code) { return ToQt(ColorsOfTerrain(code).BackColor); }
 
 std::uint8_t TerrainAt(const ScenarioData& data, int X, int Y) {
     const char digit = data.Board[static_cast<std::size_t>(Y) - 1][static_cast<std::size_t>(X) - 1];
