@@ -7,9 +7,8 @@
 namespace qarn {
 
 /// The settings store of a Linux desktop: one file an application in the person's configuration
-/// folder, read afresh at every use. One that is no
-/// ordinary file, or larger than a megabyte, is passed over, which standard error is told once, and
-/// never written.
+/// folder, read afresh at every use. One that is no ordinary file, or larger than a megabyte, is
+/// passed over, which standard error is told once, and never written.
 class SettingsFile : public SettingsStore {
 public:
     std::string Read(const std::string& application, const std::string& section,

@@ -53,8 +53,7 @@ public:
 TEST(DrawOffer, IsThePersonsToTake) {
     const std::string offer =
         "Red offers a draw: for 30 turns neither side has come any further.\nDo you agree? The "
-        "game "
-        "then ends, and its file is deleted.";
+        "game then ends, and its file is deleted.";
     for (const char* position : {"computer1 Q@10,10 Z@1,1", "computer1 computer2 Q@10,10 Z@1,1"}) {
         LockedGame declined(position, "scout", "classic");
         declined.dialogs.queued = {Answer::No};
