@@ -28,6 +28,7 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName("qarn-help");
     QApplication::setApplicationDisplayName("Thornmere Series Tactical Game Help");
     QApplication::setApplicationVersion(QARN_VERSION);
+    QApplication::setDesktopFileName("qarn");  // the help has no entry of its own
     QApplication::setWindowIcon(QIcon::fromTheme(
         "help-browser", application.style()->standardIcon(QStyle::SP_DialogHelpButton)));
 

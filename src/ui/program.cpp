@@ -104,6 +104,9 @@ private:
 
 }  // namespace
 
-int RunProgram(const std::string& strCommandLine) { return Program().Run(strCommandLine); }
+int RunProgram(const std::string& strCommandLine) {
+    QGuiApplication::setDesktopFileName("qarn");  // by which a desktop finds name and icon
+    return Program().Run(strCommandLine);
+}
 
 }  // namespace qarn

@@ -14,5 +14,5 @@ newestIs() {
     esac
 }
 newestIs CHANGELOG.md '^## '
-newestIs packaging/changelog '^qarn '
+newestIs debian/changelog '^qarn '
 newestIs packaging/net.thornmere.qarn.metainfo.xml '<release '

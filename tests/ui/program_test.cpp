@@ -85,6 +85,7 @@ TEST_F(WholeProgram, GoesFromGamesToTheStartWindowAndBack) {
     EXPECT_EQ(RunProgram(folder / "first.tgf"), 0);
     EXPECT_TRUE(script.Done());
     EXPECT_GT(ReadFile(folder / "second.tgf").size(), newGame.size()) << "it was saved";
+    EXPECT_EQ(QGuiApplication::desktopFileName(), "qarn");
 }
 
 // Whoever is to move resigns, and chooses what comes next.
