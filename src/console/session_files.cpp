@@ -7,6 +7,7 @@
 #include "core/game_file.h"
 #include "core/player_error.h"
 #include "scenarios/catalogue.h"
+#include "shell/file_commands.h"
 #include "shell/kept_journal.h"
 #include "shell/kept_opponents.h"
 #include "window/load_game.h"
@@ -71,6 +72,7 @@ void Session::Load(const std::string& path, const std::function<void()>& prepare
         if (!LeaveGame(game)) return;
         prepare();
         Form_Load(game, path);
+        LoadFileTypeMark(game);
         opened = true;
     });
     if (opened) journal_.Open(game_);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/ports.h"
+#include "desktop/deferred_services.h"
 #include "desktop/program_folders.h"
 #include "desktop/settings_file.h"
-#include "desktop/xdg_file_types.h"
 
 namespace qarn {
 
@@ -14,7 +14,7 @@ public:
 
 private:
     SettingsFile settings_;
-    XdgFileTypes fileTypes_;
+    DeferredFileTypes fileTypes_;
 };
 
 }  // namespace qarn

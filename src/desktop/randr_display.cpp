@@ -152,17 +152,6 @@ DisplayMode SizeOf(const XRRModeInfo& mode, const Monitor& monitor) {
 
 }  // namespace
 
-std::unique_ptr<RandrDisplay> RandrDisplay::Open() {
-    _XDisplay* connection = XOpenDisplay(nullptr);
-    if (connection == nullptr) return nullptr;
-    auto display = std::make_unique<RandrDisplay>(connection);
-    int major = 1;
-    int minor = 3;
-    const bool known = XRRQueryVersion(connection, &major, &minor) != 0 &&
-                       (major > 1 || (major == 1 && minor >= 3));
-    return known ? std::move(display) : nullptr;
-}
-
 RandrDisplay::RandrDisplay(_XDisplay* connection) : connection_(connection) {
     const Server server(connection_);
     const Monitor monitor = server.FindMonitor();
@@ -202,3 +191,14 @@ DisplayChange RandrDisplay::Change(const DisplayMode& request, bool permanent) {
 }
 
 }  // namespace qarn
+
+extern "C" [[gnu::visibility("default")]] qarn::DisplaySettings* qarn_open_randr_display() {
+    _XDisplay* connection = XOpenDisplay(nullptr);
+    if (connection == nullptr) return nullptr;
+    auto display = std::make_unique<qarn::RandrDisplay>(connection);
+    int major = 1;
+    int minor = 3;
+    const bool known = XRRQueryVersion(connection, &major, &minor) != 0 &&
+                       (major > 1 || (major == 1 && minor >= 3));
+    return known ? display.release() : nullptr;
+}

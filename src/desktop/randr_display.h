@@ -14,9 +14,6 @@ namespace qarn {
 /// store for those that follow.
 class RandrDisplay : public DisplaySettings {
 public:
-    /// Null when there is no X server, or it lacks the extension.
-    static std::unique_ptr<RandrDisplay> Open();
-
     explicit RandrDisplay(_XDisplay* connection);  ///< closes the connection in the end
     RandrDisplay(const RandrDisplay&) = delete;
     RandrDisplay& operator=(const RandrDisplay&) = delete;
@@ -29,5 +26,12 @@ private:
     _XDisplay* connection_;
     std::vector<DisplayMode> modes_;
 };
+
+/// The module that it stands in, since only a screen that is too small needs it, and the function
+/// that opens it: null when there is no X server, or it lacks the extension. Whoever calls it owns
+/// what it gives.
+constexpr auto randrModule = "qarn-randr.so";
+constexpr auto randrFunction = "qarn_open_randr_display";
+using RandrFunction = DisplaySettings*();
 
 }  // namespace qarn

@@ -75,9 +75,13 @@ void SettingsFile::Write(const std::string& application, const std::string& sect
     }
 }
 
+// Looked up once: it is a part of the keys, and the look-up reads several files.
 std::string SettingsFile::LoginName() {
-    const passwd* entry = getpwuid(getuid());
-    return entry != nullptr ? entry->pw_name : "";
+    static const std::string name = [] {
+        const passwd* entry = getpwuid(getuid());
+        return entry != nullptr ? entry->pw_name : "";
+    }();
+    return name;
 }
 
 }  // namespace qarn

@@ -18,7 +18,8 @@ void CreateFileType(const Ports& ports, const std::string& strExtension,
 /// that is, and leaves it as it is otherwise.
 void IsFileTypeRegistered(const Ports& ports, const std::string& strKey, bool& blnRegistered);
 
-/// Sets the check mark of mnuTGF: whether the type of the game files is registered.
+/// Sets the check mark of mnuTGF: whether the type of the game files is registered. A front end
+/// calls this before the mark can be seen for the first time; a load of a game leaves it as it is.
 void LoadFileTypeMark(Game& game);
 
 /// The menu item Options > Add and Remove the TGF Filetype: registers the type of the game files

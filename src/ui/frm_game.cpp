@@ -12,6 +12,7 @@
 #include "play/own_groups.h"
 #include "play/play_menu.h"
 #include "shell/about.h"
+#include "shell/file_commands.h"
 #include "shell/kept_opponents.h"
 #include "ui/design.h"
 #include "ui/frm_about.h"
@@ -22,6 +23,7 @@
 #include "window/hint_mark.h"
 #include "window/load_game.h"
 #include "window/opponents_turn.h"
+#include "window/run_event.h"
 #include "window/save_game.h"
 
 namespace qarn {
@@ -65,6 +67,7 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
     connect(board_, &BoardWidget::LooksElsewhere, this, &FrmGame::ShowOdds);
     for (QPushButton* button : panel_.PushButtons()) button->installEventFilter(this);
 
+    connect(menus_.MenuWith("mnuTGF"), &QMenu::aboutToShow, this, [this] { ShowFileTypeMark(); });
     PrepareTimer();
     RestoreWindowPlace(*this, desktop.settings);
     RestoreDockPlaces(docks_, desktop.settings);
@@ -148,6 +151,14 @@ void FrmGame::ShowWidgets() {
     }
     // Where a control loses the focus, the next event mostly comes from the board.
     if (focused != nullptr && (!focused->isEnabled() || focused->isHidden())) board_->setFocus();
+}
+
+// The desktop is asked when somebody looks for the mark: most games need the libraries for it
+// never.
+void FrmGame::ShowFileTypeMark() {
+    if (game_.controls.mnuTGF.Checked) return;
+    RunEvent(game_, "LoadFileTypeMark", LoadFileTypeMark);
+    menus_.Show(game_);
 }
 
 void FrmGame::MakeOffer() {

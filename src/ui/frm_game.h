@@ -61,6 +61,7 @@ private:
     void BringUpToDate();
     void ShowWidgets();
     void Choose(const MenuCommand& command);
+    void ShowFileTypeMark();
     void MakeOffer();
     void AnswerOffer(const std::string& name, void (*answer)(Game&));
     void ShowFullScreen();

@@ -57,6 +57,10 @@ QAction* GameMenus::MakeAction(QMenu* menu, const MenuCommand& command) {
     return action;
 }
 
+QMenu* GameMenus::MenuWith(std::string_view command) const {
+    return qobject_cast<QMenu*>(bar_->findChild<QAction*>(ToQt(command))->parent());
+}
+
 void GameMenus::Show(const Game& game) {
     for (const Item& item : items_) {
         item.action->setVisible(IsShown(game, *item.command));

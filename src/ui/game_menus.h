@@ -14,6 +14,9 @@ public:
     /// Makes the menus on `bar`. `choose` gets each command that is chosen, by mouse or by key.
     GameMenus(QMenuBar* bar, std::function<void(const MenuCommand&)> choose);
 
+    /// The menu that has this command.
+    QMenu* MenuWith(std::string_view command) const;
+
     /// Brings check marks, enabled and visible states up to date.
     void Show(const Game& game);
 

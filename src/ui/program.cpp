@@ -4,10 +4,9 @@
 #include <QDialog>
 #include <QSocketNotifier>
 
+#include "desktop/deferred_services.h"
 #include "desktop/desktop_display.h"
-#include "desktop/desktop_wastebasket.h"
 #include "desktop/linux_desktop.h"
-#include "desktop/login_manager.h"
 #include "desktop/process_signals.h"
 #include "play/end_report.h"
 #include "ui/frm_end.h"
@@ -88,8 +87,8 @@ private:
     ClockSeededNumbers random_;
     LinuxDesktop desktop_;
     DesktopDisplay display_;
-    LoginManager computer_;
-    DesktopWastebasket wastebasket_;
+    DeferredComputer computer_;
+    DeferredWastebasket wastebasket_;
 
     NextWindow next_ = NextWindow::Same;
     std::string strGamePath_;

@@ -12,7 +12,6 @@
 #include "rules/terrain.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
-#include "shell/file_commands.h"
 #include "shell/user_settings.h"
 #include "window/house_rules.h"
 #include "window/recovery.h"
@@ -36,13 +35,14 @@ void ClearGame(Game& game) {
     empty.strGamePath = game.record.strGamePath;
     game.record = std::move(empty);
     const MenuState mnuAbout = game.controls.mnuAbout;  // its window stays as it is
+    const MenuState mnuTGF = game.controls.mnuTGF;      // is not of this game
     game.controls = Controls();
     game.controls.mnuAbout = mnuAbout;
+    game.controls.mnuTGF = mnuTGF;
     LoadSummarySetting(game);
     LoadHouseRules(game);
     LoadSpeed(game);
     LoadViewChoices(game);
-    LoadFileTypeMark(game);
     game.ports.random.Seed();
     ClearBoard(game);
 }

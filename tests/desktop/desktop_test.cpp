@@ -4,10 +4,9 @@
 #include <chrono>
 #include <thread>
 
-#include "desktop/desktop_wastebasket.h"
+#include "desktop/deferred_services.h"
 #include "desktop/help_program.h"
 #include "desktop/program_folders.h"
-#include "desktop/xdg_file_types.h"
 #include "shell/file_commands.h"
 #include "support/played_game.h"
 
@@ -62,7 +61,7 @@ TEST(XdgFileTypesTest, TheDesktopsToolsFindTheProgram) {
     PlayedGame world;
     const std::string folder = world.folder / R"(it's "my" $HOME\bin)";
     const TellingProgram program(folder + "/qarn");
-    XdgFileTypes fileTypes;
+    DeferredFileTypes fileTypes;
     Game game{
         .record = {},
         .controls = {},
@@ -83,15 +82,15 @@ TEST(XdgFileTypesTest, TheDesktopsToolsFindTheProgram) {
     OutputOf("gio open '" + file + "'");
     EXPECT_EQ(program.WaitForArguments(), "[" + file + "]");
     EXPECT_EQ(fileTypes.DefaultValue(".tgf"), "qarn-tgf_ext.desktop");
-    EXPECT_EQ(XdgFileTypes().DefaultValue(".tgf"), "qarn-tgf_ext.desktop");
+    EXPECT_EQ(DeferredFileTypes().DefaultValue(".tgf"), "qarn-tgf_ext.desktop");
 }
 
 TEST(XdgFileTypesTest, AProgramThatIsNotThereIsNotRegistered) {
     ForgetEverything();
-    XdgFileTypes fileTypes;
+    DeferredFileTypes fileTypes;
     fileTypes.SetDefaultValue(".tgf", "tgf_ext");
     EXPECT_FALSE(fileTypes.SetDefaultValue("tgf_ext\\shell\\open\\command", "\"/nowhere/qarn\""));
-    EXPECT_FALSE(XdgFileTypes().DefaultValue(".tgf"));
+    EXPECT_FALSE(DeferredFileTypes().DefaultValue(".tgf"));
 }
 
 TEST(HelpProgramTest, IsStartedWithFileAndTopic) {
@@ -134,10 +133,10 @@ TEST(DesktopWastebasketTest, KeepsTheFile) {
     ForgetEverything();
     const fs::path file = DataFolder() / "my game.tgf";  // on the disk of the home folder
     WriteFile(file, "old");
-    DesktopWastebasket().MoveThere(file);
+    DeferredWastebasket().MoveThere(file);
     EXPECT_FALSE(fs::exists(file));
     EXPECT_EQ(ReadFile(DataFolder() / "Trash/files/my game.tgf"), "old");
-    EXPECT_THROW(DesktopWastebasket().MoveThere(file), std::runtime_error);
+    EXPECT_THROW(DeferredWastebasket().MoveThere(file), std::runtime_error);
 }
 
 }  // namespace

@@ -119,6 +119,13 @@ class ConsoleTest(unittest.TestCase):
             self.assertEqual((done["ok"], done["error"]), (True, ""), command)
         self.assertEqual(self.read("other.tgf"), self.read("saved.tgf").replace(" 1 ", " 2 ", 1))
 
+    def test_the_file_type_is_registered_with_the_desktop(self):
+        folders = {"XDG_DATA_HOME": self.path("data"), "XDG_CONFIG_HOME": self.path("config")}
+        marks = [done["menus"]["mnuTGF"]["checked"]
+                 for done in self.play(NEW, "menu mnuTGF", "open g.tgf",
+                                       env={**os.environ, **folders})]
+        self.assertEqual(marks, [False, True, True])
+
     def test_refused_commands_change_nothing(self):
         for done in self.play(*words(REFUSED_WITHOUT_GAME)):
             self.assertEqual((done["ok"], done["error"]), (False, "No game is open."))

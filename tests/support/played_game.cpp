@@ -8,6 +8,7 @@
 #include "play/play_menu.h"
 #include "rules/terrain.h"
 #include "scenarios/setup.h"
+#include "shell/file_commands.h"
 #include "support/facts.h"
 #include "window/board_clicks.h"
 #include "window/buttons.h"
@@ -53,7 +54,10 @@ void PlayedGame::Open(const std::string& contents) {
 
 void PlayedGame::Open() {
     game.blnOpen = game.blnEnded = false;
-    history.Run(game, "Form_Load", [&](Game& g) { Form_Load(g, path); });
+    history.Run(game, "Form_Load", [&](Game& g) {
+        Form_Load(g, path);
+        LoadFileTypeMark(g);
+    });
 }
 
 void PlayedGame::Load(const std::string& position) {

@@ -109,6 +109,15 @@ TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
     EXPECT_TRUE(MenuItem("mnuSummary")->isChecked());
 }
 
+TEST_F(GameWindow, AsksTheDesktopForTheMarkOfTheFileTypeWhenItsMenuOpens) {
+    fileTypes.values = {{".tgf", "another program's"}};
+    Open("Q@9,5 WA@17,2");
+    EXPECT_FALSE(MenuItem("mnuTGF")->isChecked());
+    auto* options = qobject_cast<QMenu*>(MenuItem("mnuTGF")->parent());
+    emit options->aboutToShow();
+    EXPECT_TRUE(MenuItem("mnuTGF")->isChecked());
+}
+
 TEST_F(GameWindow, ShowsCheckMarksInItsMenus) {
     Open("computer2 Q@9,5 WA@17,2");
     const std::vector<const char*> items{
