@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <string>
 #include <vector>
 
+#include "ai/choosers.h"
 #include "ai/opponents/evaluation.h"
 #include "ai/opponents/node.h"
 #include "ai/self_play.h"
@@ -16,7 +18,6 @@
 #include "ai/turn_driver.h"
 #include "rules/play_turn.h"
 #include "scenarios/catalogue.h"
-#include "window/run_event.h"
 
 namespace qarn {
 namespace {
@@ -77,10 +78,21 @@ void SelfPlay(benchmark::State& state) {
     state.counters["turns"] = benchmark::Counter(turns, benchmark::Counter::kIsRate);
 }
 
-// What an event costs that changes nothing.
-void EmptyEvent(benchmark::State& state) {
-    SelfPlayedGame played(1, 1);
-    for (auto _ : state) RunEvent(played.CurrentGame(), "nothing", [](Game&) {});
+// What an opponent takes to choose the first turn of a few scenarios.
+void Choices(benchmark::State& state, const Opponent& opponent) {
+    Thinking thinking;
+    double choices = 0;
+    for (auto _ : state) {
+        for (const int scenario : {1, 4, 7, 10}) {
+            Position start = StartOf(scenario);
+            start.bytTurn = 1;
+            benchmark::DoNotOptimize(opponent.choose(start, 1, thinking));
+            ++choices;
+        }
+    }
+    const auto positions = static_cast<double>(thinking.positions);
+    state.counters["choices"] = benchmark::Counter(choices, benchmark::Counter::kIsRate);
+    state.counters["positions"] = benchmark::Counter(positions, benchmark::Counter::kIsRate);
 }
 
 // How many turns a position is played forward by in a second: one stack goes to and fro.
@@ -137,11 +149,25 @@ void MemoryOfSelfPlay(benchmark::State& state) {
 }
 
 BENCHMARK(ChooseMoveInSelfPlay)->UseManualTime()->Iterations(1)->Unit(benchmark::kMicrosecond);
-BENCHMARK(EmptyEvent);
 BENCHMARK(TurnsOfPosition);
 BENCHMARK(TurnsOfSearch);
 BENCHMARK(SelfPlay)->Unit(benchmark::kMillisecond);
 BENCHMARK(MemoryOfSelfPlay)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+void AddChoicesOfAll() {
+    for (const Opponent& opponent : Opponents()) {
+        benchmark::RegisterBenchmark(("Choices/" + std::string(opponent.name)).c_str(), Choices,
+                                     opponent)
+            ->Unit(benchmark::kMillisecond);
+    }
+}
+
 }  // namespace qarn
+
+int main(int argc, char* argv[]) {
+    benchmark::Initialize(&argc, argv);
+    qarn::AddChoicesOfAll();
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,9 +1,10 @@
-// How long programs take from their start to their window on screen:
+// How long programs take from their start to their window on screen, and how much memory:
 //   start_up [RUNS] COMMAND...
 // Starts each command, a program and its arguments, in turn on the X display, RUNS times, waits
-// until its window is mapped and then painted, and ends it. Prints both medians in milliseconds,
-// and their ratio to the first command's. The display should be one without a window manager and
-// with a black background, such as Xvfb's.
+// until its window is mapped and then painted, and ends it. Prints a line for each command: the
+// medians of both times in milliseconds and of the most memory in MB, each followed by its ratio to
+// the first command's. The display should be one without a window manager and with a black
+// background, such as Xvfb's.
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -16,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -68,18 +70,31 @@ void End(Display* display, pid_t child) {
     XSync(display, True);
 }
 
-struct StartTimes {
+// The most that a running program has had in memory, in MB.
+double PeakMemory(pid_t program) {
+    std::ifstream status("/proc/" + std::to_string(program) + "/status");
+    std::string word;
+    while (status >> word && word != "VmHWM:") {
+    }
+    double kilobytes = 0;
+    status >> kilobytes;
+    return kilobytes / 1024;
+}
+
+struct Starts {
     std::vector<double> mapped;
     std::vector<double> painted;
+    std::vector<double> memory;
 };
 
-void TimeStart(Display* display, const std::string& command, StartTimes& times) {
+void TimeStart(Display* display, const std::string& command, Starts& starts) {
     const Clock::time_point start = Clock::now();
     const pid_t child = Start(command);
     const Window window = WaitForWindow(display);
-    times.mapped.push_back(Milliseconds(Clock::now() - start).count());
+    starts.mapped.push_back(Milliseconds(Clock::now() - start).count());
     WaitForPaint(display, window);
-    times.painted.push_back(Milliseconds(Clock::now() - start).count());
+    starts.painted.push_back(Milliseconds(Clock::now() - start).count());
+    starts.memory.push_back(PeakMemory(child));
     End(display, child);
 }
 
@@ -103,19 +118,18 @@ int main(int argc, char* argv[]) {
     XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
 
     const std::vector<std::string> commands(argv + first, argv + argc);
-    std::vector<StartTimes> times(commands.size());
+    std::vector<Starts> starts(commands.size());
     for (int run = 0; run < runs; ++run) {
         for (std::size_t i = 0; i < commands.size(); ++i) {
-            TimeStart(display, commands[i], times[i]);
+            TimeStart(display, commands[i], starts[i]);
         }
     }
-    std::puts("  mapped           painted");
     for (std::size_t i = 0; i < commands.size(); ++i) {
-        const double mapped = Median(times[i].mapped);
-        const double painted = Median(times[i].painted);
-        std::printf("%6.1f ms x %.2f %6.1f ms x %.2f  %s\n", mapped,
-                    mapped / Median(times[0].mapped), painted, painted / Median(times[0].painted),
-                    commands[i].c_str());
+        for (const auto kind : {&Starts::mapped, &Starts::painted, &Starts::memory}) {
+            const double median = Median(starts[i].*kind);
+            std::printf("%.1f %.3f ", median, median / Median(starts[0].*kind));
+        }
+        std::puts(commands[i].c_str());
     }
     XCloseDisplay(display);
 }
