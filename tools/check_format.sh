@@ -3,5 +3,5 @@
 #   check_format.sh SOURCE_FOLDER
 set -eu
 cd "$1"
-files=$(find src tools tests bench -name '*.h' -o -name '*.cpp')
+files=$(find src tools tests bench fuzz -name '*.h' -o -name '*.cpp')
 exec clang-format --dry-run -Werror $files

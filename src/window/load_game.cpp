@@ -99,6 +99,7 @@ void ReadPositions(GameRecord& record, GameFileReader& file) {
         people.LocationX = file.ReadNumber("the column of group " + group, 0, columnCount);
         const int firstRow = OnBoard(people) ? 1 : 0;
         people.LocationY = file.ReadNumber("the row of group " + group, firstRow, rowCount);
+        if (!OnBoard(people)) people.LocationY = 0;  // off the board a row says nothing
     }
 }
 
