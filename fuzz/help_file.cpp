@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const TempFolder folder;
     WriteFile(folder / "help.chm", std::string(reinterpret_cast<const char*>(data), size));
     try {
-        const HelpFile help(folder / "help.chm");
+        const HelpFile help(folder / "help.chm", HelpReader());
         Require(help.Find(help.StartPage()) != nullptr, "a help that was read has its start page");
     } catch (const HelpFileError&) {
     }

@@ -151,11 +151,12 @@ private:
         Do({bytes_.OneOf(std::array{"undo", "undo", "cancel", "pass", "resign", "draw"})});
     }
 
-    // A hint takes its time, and is asked for by command.
+    // Hints and the strongest opponents take their time, and are left to the console's commands.
     void ChooseMenu() {
         const MenuCommand& command = bytes_.OneOf(MenuCommands());
         turn_.PassOver();
-        if (command.Name != "mnuHint") Do({"menu", std::string(command.Name)});
+        if (command.Name == "mnuHint" || command.Submenu == "&Opponent") return;
+        Do({"menu", std::string(command.Name)});
     }
 
     void Ask() {

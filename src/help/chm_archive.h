@@ -2,12 +2,15 @@
 
 #include <string>
 
-#include "help/help_contents.h"
+#include "help/lock_in.h"
 
 namespace qarn {
 
-/// Reads a whole compiled help file. Throws HelpFileError when it cannot be opened, is not such a
-/// file, is cut short, or holds more than 64 MiB.
-HelpContents ReadChm(const std::string& path);
+/// How the reading of a compiled help file ended.
+enum class ChmResult { Whole, Damaged, TooLarge };
+
+/// Sends all that a compiled help file holds to `socket`, see sent_help.h. Its library may come to
+/// any harm on a damaged file: only for a process that is locked in.
+ChmResult SendChm(const LockedIn& process, const std::string& path, int socket);
 
 }  // namespace qarn

@@ -2,21 +2,22 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
-#include "help/chm_archive.h"
 #include "help/page_folder.h"
 
 namespace qarn {
 namespace {
 
-HelpContents ReadHelp(const std::string& path) {
+HelpContents ReadHelp(const std::string& path, HelpReader reader) {
     std::error_code none;
-    return std::filesystem::is_directory(path, none) ? ReadPageFolder(path) : ReadChm(path);
+    return std::filesystem::is_directory(path, none) ? ReadPageFolder(path) : reader.Read(path);
 }
 
 }  // namespace
 
-HelpFile::HelpFile(const std::string& path) : help_(ReadHelp(path)) {
+HelpFile::HelpFile(const std::string& path, HelpReader reader)
+    : help_(ReadHelp(path, std::move(reader))) {
     const std::string* contents = Find(help_.contentsName);
     if (contents != nullptr) contents_ = ParseContents(*contents);
     if (Find(StartPage()) == nullptr) throw HelpFileError("Its start page is missing.");

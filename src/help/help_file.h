@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "help/help_contents.h"
+#include "help/help_reader.h"
 
 namespace qarn {
 
@@ -18,9 +19,9 @@ struct ContentsEntry {
 /// The help in memory. It stays as it was read when what is on the disk changes.
 class HelpFile {
 public:
-    /// Reads a compiled help file, or a folder of the pages that one is made of. Throws
-    /// HelpFileError when it cannot be read, or has no start page.
-    explicit HelpFile(const std::string& path);
+    /// Has `reader` read a compiled help file, or reads a folder of the pages that one is made of.
+    /// Throws HelpFileError when it cannot be read, or has no start page.
+    HelpFile(const std::string& path, HelpReader reader);
 
     /// A page, picture or style sheet, whatever the case of its name; null when there is none.
     const std::string* Find(std::string_view name) const;

@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "desktop/help_program.h"
 #include "desktop/process_signals.h"
@@ -22,6 +23,7 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
 
 int main(int argc, char* argv[]) {
     qarn::TellFullQuotas();
+    qarn::HelpReader reader;
     const QtMessageHandler usual = qInstallMessageHandler(TellNoDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(usual);
@@ -50,5 +52,6 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     const std::string beside = qarn::HelpPathIn(QApplication::applicationDirPath().toStdString());
-    return qarn::RunViewer(arguments.value(0, QString::fromStdString(beside)), arguments.value(1));
+    return qarn::RunViewer(std::move(reader), arguments.value(0, QString::fromStdString(beside)),
+                           arguments.value(1));
 }

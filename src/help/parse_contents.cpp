@@ -57,7 +57,7 @@ public:
                 if (depth > 0) return entries;
             } else if (name == "ul" && depth < deepest) {
                 AddList(entries, ReadList(depth + 1));
-            } else if (name == "object") {
+            } else if (name == "object" && ++count_ <= mostEntries) {
                 entries.push_back(ReadObject());
             }
         }
@@ -66,6 +66,7 @@ public:
 
 private:
     static constexpr int deepest = 20;
+    static constexpr int mostEntries = 10000;
 
     bool NextTag(std::string_view& tag) {
         const std::size_t begin = rest_.find('<');
@@ -95,6 +96,7 @@ private:
     }
 
     std::string_view rest_;
+    int count_ = 0;
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <memory>
+#include <utility>
 
 #include "desktop/settings_file.h"
 #include "help/hand_over.h"
@@ -13,9 +14,9 @@
 namespace qarn {
 namespace {
 
-std::unique_ptr<HelpFile> OpenHelpFile(const QString& path) {
+std::unique_ptr<HelpFile> OpenHelpFile(const QString& path, HelpReader reader) {
     try {
-        return std::make_unique<HelpFile>(path.toStdString());
+        return std::make_unique<HelpFile>(path.toStdString(), std::move(reader));
     } catch (const HelpFileError& error) {
         QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
                         "The help file can not be opened.");
@@ -28,12 +29,12 @@ std::unique_ptr<HelpFile> OpenHelpFile(const QString& path) {
 
 }  // namespace
 
-int RunViewer(const QString& helpFilePath, const QString& topic) {
+int RunViewer(HelpReader reader, const QString& helpFilePath, const QString& topic) {
     const QString path = QFileInfo(helpFilePath).absoluteFilePath();
     HandOver handOver(path);
     if (handOver.GiveAway(topic)) return 0;
 
-    const std::unique_ptr<HelpFile> file = OpenHelpFile(path);
+    const std::unique_ptr<HelpFile> file = OpenHelpFile(path, std::move(reader));
     if (!file) return 1;
     SettingsFile settings;
     HelpWindow window(*file, settings);

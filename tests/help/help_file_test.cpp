@@ -1,11 +1,16 @@
 #include "help/help_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <random>
 #include <set>
 
-#include "help/chm_archive.h"
+#include "help/lock_in.h"
 #include "scenarios/balance.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
@@ -14,9 +19,11 @@
 namespace qarn {
 namespace {
 
+HelpFile Open(const std::string& path) { return HelpFile(path, HelpReader()); }
+
 // QARN_HELP_FILE is the Help.chm of this build, QARN_HELP_PAGES the folder it was made of.
 const HelpFile& Help() {
-    static const HelpFile file(QARN_HELP_FILE);
+    static const HelpFile file = Open(QARN_HELP_FILE);
     return file;
 }
 
@@ -177,7 +184,7 @@ protected:
     std::string ErrorOf(const std::string& contents) {
         WriteFile(path_, contents);
         try {
-            const HelpFile file(path_);
+            Open(path_);
             return "";
         } catch (const HelpFileError& error) {
             return error.what();
@@ -213,12 +220,56 @@ TEST_F(DamagedHelpFile, WhatIsNoHelpFileIsRefusedWithTheReason) {
     EXPECT_EQ(ErrorOf(std::string(100000, 'x')), "It is damaged, or it is not a help file.");
     EXPECT_EQ(ErrorOf("ITSF"), "It is damaged, or it is not a help file.");
     try {
-        ReadChm(folder_ / "missing.chm");
+        Open(folder_ / "missing.chm");
         ADD_FAILURE();
     } catch (const HelpFileError& error) {
         EXPECT_STREQ(error.what(), "No such file or directory.");
     }
-    EXPECT_THROW(ReadChm(folder_.Path()), HelpFileError);
+}
+
+// The one block of the directory names itself as the one behind it, with an entry and without any,
+// or as the one that it leads to as an index.
+TEST_F(DamagedHelpFile, ADirectoryThatLeadsBackIntoItselfIsRefused) {
+    const std::size_t block = whole_.find("PMGL");
+    const auto setWord = [](std::string& bytes, std::size_t at, std::uint32_t word) {
+        bytes.replace(at, 4, reinterpret_cast<const char*>(&word), 4);
+    };
+    std::string again = whole_;
+    setWord(again, block + 16, 0);
+    again.replace(block + 20, 6, std::string("\2/a\0\0\0", 6));
+    setWord(again, block + 4, 4096 - 26);
+    EXPECT_EQ(ErrorOf(again), "It is too large.");
+
+    std::string empty = again;
+    setWord(empty, block + 4, 4096 - 20);
+    EXPECT_EQ(ErrorOf(empty), "It is damaged, or it is not a help file.");
+
+    std::string index = whole_;
+    index.replace(block, 11, std::string("PMGI\0\0\0\0\1!\0", 11));
+    setWord(index, block + 4, 4096 - 11);
+    setWord(index, whole_.find("ITSP") + 28, 0);
+    EXPECT_EQ(ErrorOf(index), "It is damaged, or it is not a help file.");
+}
+
+// ---- The process that reads ----
+
+TEST(LockedIn, LeavesNothingButReadingOneFile) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "The sanitizer needs more than that.";
+#endif
+    const auto lockedIn = [](auto deed) {
+        const LockedIn process;
+        _exit(deed() ? 0 : 1);
+    };
+    const auto openToRead = [] { return open("/dev/null", O_RDONLY); };
+    const testing::ExitedWithCode fine(0);
+    const testing::KilledBySignal killed(SIGSYS);
+    EXPECT_EXIT(lockedIn([&] { return openToRead() >= 0 && openToRead() < 0; }), fine, "");
+    EXPECT_EXIT(lockedIn([&] { return close(openToRead()) != 0; }), fine, "");
+    EXPECT_EXIT(lockedIn([] { return malloc(std::size_t{2} << 30) == nullptr; }), fine, "");
+    EXPECT_EXIT(lockedIn([] { return open("/dev/null", O_WRONLY) >= 0; }), killed, "");
+    EXPECT_EXIT(lockedIn([] { return socket(AF_UNIX, SOCK_STREAM, 0) >= 0; }), killed, "");
+    EXPECT_EXIT(lockedIn([] { return fork() >= 0; }), killed, "");
 }
 
 // ---- A folder of pages ----
@@ -232,7 +283,7 @@ std::string TitlesOf(const std::vector<ContentsEntry>& entries) {
 }
 
 TEST(PageFolder, IsReadAsTheFileThatIsMadeOfIt) {
-    const HelpFile pages(QARN_HELP_PAGES);
+    const HelpFile pages = Open(QARN_HELP_PAGES);
     EXPECT_EQ(pages.StartPage(), Help().StartPage());
     EXPECT_EQ(TitlesOf(pages.Contents()), TitlesOf(Help().Contents()));
     EXPECT_EQ(pages.PageNames(), Help().PageNames());
@@ -244,7 +295,7 @@ TEST(PageFolder, IsReadAsTheFileThatIsMadeOfIt) {
 
 std::string ErrorOfFolder(const std::string& path) {
     try {
-        const HelpFile pages(path);
+        Open(path);
         return "";
     } catch (const HelpFileError& error) {
         return error.what();

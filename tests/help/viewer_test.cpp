@@ -41,7 +41,7 @@ protected:
         return browser->textCursor().selectedText().toLower().toStdString();
     }
 
-    HelpFile file{QARN_HELP_FILE};
+    HelpFile file{QARN_HELP_FILE, HelpReader()};
     FakeSettings settings;
     HelpWindow window{file, settings};
     HelpBrowser* browser = window.findChild<HelpBrowser*>();
@@ -163,7 +163,7 @@ TEST_F(Viewer, RemembersItsSize) {
 }
 
 TEST(PageSearch, RanksTitlesFirstAndShowsThePlace) {
-    const PageSearch search(HelpFile(QARN_HELP_FILE));
+    const PageSearch search(HelpFile(QARN_HELP_FILE, HelpReader()));
     const auto pages = search.Find(WordsOf("  COMPUTER   opponent "));
     ASSERT_FALSE(pages.isEmpty());
     EXPECT_EQ(pages.front().name, "Computer.htm");
@@ -273,7 +273,7 @@ TEST(RunViewer, TellsThatTheHelpFileIsMissingAndGivesStatus1) {
     });
     const TempFolder folder;
     const QString path = QString::fromStdString(folder / "Help.chm");
-    EXPECT_EQ(RunViewer(path, ""), 1);
+    EXPECT_EQ(RunViewer(HelpReader(), path, ""), 1);
     EXPECT_EQ(text, "The help file can not be opened.\nNo such file or directory.\n" + path);
 }
 
