@@ -19,11 +19,16 @@ FittedLabel::FittedLabel(QWidget* parent, double relativeSize)
 void FittedLabel::ShowText(const QString& text) {
     if (text == this->text()) return;
     setText(text);
-    Fit();
+    if (isVisible()) Fit();
 }
 
 void FittedLabel::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
+    if (isVisible()) Fit();
+}
+
+void FittedLabel::showEvent(QShowEvent* event) {
+    QLabel::showEvent(event);
     Fit();
 }
 

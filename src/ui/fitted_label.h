@@ -4,7 +4,8 @@
 
 namespace qarn {
 
-/// A label that always shows its whole text: where this does not fit, its font shrinks.
+/// A label that always shows its whole text: where this does not fit, its font shrinks. Finding the
+/// font takes time, so a label has none of its own until it is on the screen.
 class FittedLabel : public QLabel {
 public:
     /// `relativeSize` is the size of its font where there is room, measured by its parent's font.
@@ -16,6 +17,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     bool Fits(const QFont& font) const;
