@@ -15,14 +15,19 @@ void Walk(Path& path, const Path& steps) {
 
 struct Follow {
     LastMove& move;
+    bool passed = false;  // the turn, in this event
 
-    void operator()(const Moved& moved) const { Walk(move.underWay.path, moved.path); }
+    // After a burning, which passes the turn, the step into the fire still belongs to the move.
+    void operator()(const Moved& moved) {
+        Walk(passed ? move.shown.path : move.underWay.path, moved.path);
+    }
     void operator()(const Attacked& attacked) const {
         if (!attacked.direct) move.underWay.path = {attacked.from, attacked.to};
         move.underWay.fight = attacked.to;
     }
     void operator()(const Returned&) const { move.underWay = {}; }
-    void operator()(const TurnCame&) const {
+    void operator()(const TurnCame&) {
+        passed = true;
         move.shown = move.underWay;
         move.underWay = {};
     }
@@ -32,7 +37,8 @@ struct Follow {
 }  // namespace
 
 void FollowMove(LastMove& move, const Happenings& happenings) {
-    for (const Happening& happening : happenings) std::visit(Follow{move}, happening);
+    Follow follow{move};
+    for (const Happening& happening : happenings) std::visit(follow, happening);
 }
 
 }  // namespace qarn

@@ -60,6 +60,17 @@ TEST(Journal, TellsWhatElseCanHappen) {
     }
 }
 
+// A burning within a move passes the turn twice.
+TEST(LastMove, IsTheOtherSides) {
+    JournalGame played("WS@14,4 LS@14,4 WA@15,4 Z@1,1");
+    const LastMove& last = played.game.record.LastMove;
+    played.DoAll("press cmdMove; click 14 4; press cmdDoneSel; answer yes; click 15 4");
+    EXPECT_EQ(last.shown, (TurnTrace{{{14, 4}, {15, 4}}, {15, 4}}));
+    played.DoAll("press cmdMove");
+    ASSERT_EQ(played.game.record.bytTurn, 1);
+    EXPECT_EQ(last.shown, TurnTrace());
+}
+
 TEST(Journal, TellsTheLuckOfBoth) {
     const std::string attack = "press cmdAttack; click 9 10; click 10 10";
     JournalGame played("turn2 LS@9,10 ZA1@10,10 Z@1,1");
