@@ -40,7 +40,10 @@ TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
     EXPECT_EQ(played.game.record.house, (HouseRules{true, true}));
     EXPECT_EQ(played.game.controls.lblStatus.Caption,
               "It is Red's turn.\nHouse rules: own groups only, one turn for a burning.");
-    EXPECT_TRUE(played.Do("menu mnuOneTurnForABurning"));
+    EXPECT_TRUE(played.Do("press cmdSquareDetails") && played.Do("menu mnuOneTurnForABurning") &&
+                played.Do("press cmdSquareDetails"));
+    EXPECT_EQ(played.game.controls.lblStatus.Caption,
+              "It is Red's turn.\nHouse rules: own groups only.");
     played.settings.writeError = "No space left on device";
     EXPECT_TRUE(played.Do("menu mnuOwnGroupsOnly"));
     EXPECT_EQ(played.dialogs.boxes.back().Text,
