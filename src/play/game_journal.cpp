@@ -11,6 +11,7 @@
 #include "play/tell_journal.h"
 #include "play/turn_history.h"
 #include "shell/kept_journal.h"
+#include "window/opponents_turn.h"
 
 namespace qarn {
 namespace {
@@ -28,12 +29,37 @@ std::string PositionText(const GameRecord& record) {
     return text;
 }
 
+// What goes with the game that a crash leaves to be recovered is kept beside what goes with its
+// file: the person chooses one of them.
+std::string PathOfRecovery(const Game& game) { return game.record.strGamePath + ".recovery"; }
+
+void KeepFor(const std::string& path, const Journal& journal, const Game& game) {
+    try {
+        KeepJournalText(game.ports, path,
+                        {Fingerprint(PositionText(game.record)), JournalLines(journal)});
+    } catch (const std::system_error&) {
+        // The game itself is kept; its journal is not worth a box.
+    }
+}
+
+void KeepForRecovery(const Journal& journal, const Game& game) {
+    if (game.ports.folders.userState.empty()) return;
+    if (game.blnEnded || !game.blnOpen) {
+        ForgetJournal(game.ports, PathOfRecovery(game));
+    } else if (Brought<TurnCame>(game.happenings)) {
+        KeepFor(PathOfRecovery(game), journal, game);
+    }
+}
+
 }  // namespace
 
 void GameJournal::Open(const Game& game) {
-    const KeptJournal kept = ReadKeptJournal(game.ports, game.record.strGamePath);
-    const bool same = kept.position == Fingerprint(PositionText(game.record));
-    journal_ = same ? ReadJournal(kept.text) : Journal{};
+    journal_ = {};
+    const std::string position = Fingerprint(PositionText(game.record));
+    for (const std::string& path : {PathOfRecovery(game), game.record.strGamePath}) {
+        const KeptJournal kept = ReadKeptJournal(game.ports, path);
+        if (kept.position == position) journal_ = ReadJournal(kept.text);
+    }
     NoteRules(journal_, game.record.house);
     AddEvent(journal_, game);
     size_ = journal_.entries.size();
@@ -46,9 +72,11 @@ void GameJournal::Follow(const Game& game, const TurnHistory& history) {
     if (history.TookBack()) Cut(sizes_.at(events));
     if (history.TookBack() || rules != game.beforeEvent.record.house) NoteRules(journal_, rules);
     AddEvent(journal_, game);
+    if (HasFoundNoMove(game)) NoteNoMove(journal_, game.record);
     if (events > sizes_.size()) sizes_.push_back(size_);
     sizes_.resize(events);
     size_ = journal_.entries.size();
+    KeepForRecovery(journal_, game);
 
     std::error_code none;
     const std::string& path = game.record.strGamePath;
@@ -64,14 +92,7 @@ void GameJournal::NoteSaid(std::string_view opponent, const MessageBox& box, Ans
     qarn::NoteSaid(journal_, opponent, box, answer);
 }
 
-void GameJournal::Keep(const Game& game) const {
-    try {
-        KeepJournalText(game.ports, game.record.strGamePath,
-                        {Fingerprint(PositionText(game.record)), JournalLines(journal_)});
-    } catch (const std::system_error&) {
-        // The game itself is saved; its journal is not worth a box.
-    }
-}
+void GameJournal::Keep(const Game& game) const { KeepFor(game.record.strGamePath, journal_, game); }
 
 void GameJournal::Export(const std::string& path, const Game& game) const {
     std::string text = game.controls.Caption + "\n\n";

@@ -21,7 +21,9 @@ public:
     void Open(const Game& game);
 
     /// Adds what an event has brought about, house rules that it has changed too, or cuts off what
-    /// it has taken back. Forgets what is kept of a game that is over and whose file is gone.
+    /// it has taken back, and where the computer found no move. Keeps it at each change of turn for
+    /// the game that a crash would leave to be recovered. Forgets what is kept of a game that is
+    /// over and whose file is gone.
     void Follow(const Game& game, const TurnHistory& history);
 
     /// Adds what an opponent, by its name, has been asked and has answered in the event under way.

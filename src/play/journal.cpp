@@ -20,9 +20,12 @@ const Kind* LastOf(const Journal& journal) {
     return nullptr;
 }
 
-// The turn that has just begun; null once something came about in it.
+// The turn that has just begun; null once more than words came about in it.
 TurnBegun* UntouchedTurn(Journal& journal) {
-    return journal.entries.empty() ? nullptr : std::get_if<TurnBegun>(&journal.entries.back());
+    const auto last = std::find_if_not(
+        journal.entries.rbegin(), journal.entries.rend(),
+        [](const JournalEntry& entry) { return std::holds_alternative<Said>(entry); });
+    return last == journal.entries.rend() ? nullptr : std::get_if<TurnBegun>(&*last);
 }
 
 std::string_view OpponentOf(const Game& game, std::uint8_t side) {
@@ -80,6 +83,12 @@ void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box
     const std::string name = PlainCaption(FindOpponentChoice(opponent)->Caption);
     if (TurnBegun* turn = UntouchedTurn(journal)) turn->opponent = opponent;
     journal.entries.emplace_back(Said{ToldOfOpponent(name, box, answer)});
+}
+
+void NoteNoMove(Journal& journal, const GameRecord& record) {
+    const Said said{record.strPlayerName.at(record.bytTurn) + " found no move."};
+    if (!journal.entries.empty() && journal.entries.back() == JournalEntry(said)) return;
+    journal.entries.emplace_back(said);
 }
 
 int TurnsOf(const Journal& journal) {

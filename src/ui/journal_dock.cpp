@@ -23,6 +23,11 @@ QTextBlockFormat FormatOf(bool heading, int lineHeight) {
     return format;
 }
 
+// A number stays with its percent sign.
+QString Sentence(const std::string& sentence) {
+    return ToQt(sentence).replace(" %", QString::fromUtf8("\u00A0%"));
+}
+
 QTextCharFormat LettersOf(bool heading) {
     QTextCharFormat letters;
     letters.setFontWeight(heading ? QFont::Bold : QFont::Normal);
@@ -93,11 +98,11 @@ std::vector<JournalDock::Line> JournalDock::LinesOf(const Journal& journal, cons
     std::vector<Line> lines;
     for (const ToldTurn& turn : TellTurns(journal, game)) {
         if (!turn.heading.empty()) lines.push_back({ToQt(turn.heading), Line::Turn});
-        for (const std::string& sentence : turn.sentences) lines.push_back({ToQt(sentence)});
+        for (const std::string& sentence : turn.sentences) lines.push_back({Sentence(sentence)});
     }
     const std::vector<std::string> luck = TellLuck(journal, game);
     if (!luck.empty()) lines.push_back({"Luck", Line::Heading});
-    for (const std::string& sentence : luck) lines.push_back({ToQt(sentence)});
+    for (const std::string& sentence : luck) lines.push_back({Sentence(sentence)});
     return lines;
 }
 

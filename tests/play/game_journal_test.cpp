@@ -47,6 +47,20 @@ TEST(GameJournal, GoesOnWhereTheGameWasSaved) {
     EXPECT_EQ(KeptFiles(played).size(), 2u);
 }
 
+TEST(GameJournal, GoesWithWhatACrashLeaves) {
+    JournalGame played(position);
+    played.game.ports.folders.userState = played.folder / "state";
+    played.DoAll(move);
+    const Journal told = played.journal.Told();
+    played.dialogs.queued = {Answer::No, Answer::Yes};
+    played.OpenAgain();
+    EXPECT_EQ(TurnsOf(played.journal.Told()), 1);
+    played.OpenAgain();
+    EXPECT_EQ(played.journal.Told(), told);
+    played.DoAll("close");
+    EXPECT_EQ(KeptFiles(played).size(), 1u);
+}
+
 TEST(GameJournal, LosesWhatIsTakenBack) {
     JournalGame played(position);
     const Journal start = played.journal.Told();

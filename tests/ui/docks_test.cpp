@@ -1,8 +1,11 @@
 #include <QDockWidget>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QTextEdit>
 #include <QTreeWidget>
 
 #include "support/game_window.h"
+#include "ui/window_script.h"
 
 namespace qarn {
 namespace {
@@ -52,6 +55,20 @@ TEST_F(Docks, JournalGrowsWithTheGame) {
     Find<QDockWidget>("dckJournal")->close();
     EXPECT_FALSE(MenuItem("mnuJournal")->isChecked());
     EXPECT_TRUE(Find("dckJournal")->isHidden());
+}
+
+TEST_F(Docks, JournalIsSavedBesideTheGame) {
+    Open("Q@9,5 WA@17,2");
+    MenuItem("mnuJournal")->trigger();
+    WindowScript script;
+    script.On<QFileDialog>([](QFileDialog& dialog) {
+        auto* field = dialog.findChild<QLineEdit*>();
+        EXPECT_EQ(field->text(), "game.txt");
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    Button("cmdSaveJournal")->click();
+    EXPECT_TRUE(script.Done());
+    EXPECT_TRUE(ReadFile(folder / "game.txt").ends_with("\n\nTurn 1: Red\n"));
 }
 
 TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
