@@ -119,6 +119,14 @@ void BoardWidget::UpdateSquare(QPoint square) {
     if (square != nowhere) update(PlaceOfSquare(square));
 }
 
+std::vector<QPoint> BoardWidget::SquaresOfAction() const {
+    std::vector<QPoint> squares;
+    for (const MarkedSquare& mark : shown_.roles) squares.emplace_back(mark.X, mark.Y);
+    const QPoint clicked(game_.record.bytClickX, game_.record.bytClickY);
+    if (!squares.empty() && clicked != nowhere) squares.push_back(clicked);
+    return squares;
+}
+
 // ---- Places ----
 
 void BoardWidget::resizeEvent(QResizeEvent*) { PlaceLines(); }

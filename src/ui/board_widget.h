@@ -35,6 +35,9 @@ public:
     /// Whether the person asks where the enemy could strike.
     void AskForStrikes(bool asks);
 
+    /// The squares of the move or attack under way, with the one that was clicked last in it.
+    std::vector<QPoint> SquaresOfAction() const;
+
     /// The place of a square on the widget, its lines included.
     QRect PlaceOfSquare(QPoint square) const { return places_.Whole(square); }
     /// The square at a place on the widget; the nearest one where the place is off it.

@@ -130,7 +130,7 @@ void ControlPanel::MakeLabels() {
     lblDetailMore_ = new FittedLabel(area_);
     lblDetailMore_->setObjectName("lblDetailMore");
     area_->Place(lblDetailMore_, lblDetailMoreTwips);
-    lblStatus_ = new StatusLine(area_);
+    lblStatus_ = new StatusLine(area_, lblStatusTwips.height() / double{twipsPerPixel});
     lblStatus_->setObjectName("lblStatus");
     area_->Place(lblStatus_, lblStatusTwips);
 }
@@ -212,13 +212,20 @@ void ControlPanel::ShowFloatingFrames(const Controls& controls) {
     lblTerrainDescription_->setVisible(description.Visible);
 
     const Marker& frame = controls.fraQuickDetails;
-    area_->Place(fraQuickDetails_, FraQuickDetailsTwips(frame.Left, frame.Top));
+    const QRect frameTwips = FraQuickDetailsTwips(frame.Left, frame.Top);
+    area_->Place(fraQuickDetails_, frameTwips);
     lblSummary_->ShowText(ToLabelText(controls.lblSummary.Caption));
     fraQuickDetails_->setVisible(frame.Visible);
+    const QRect covered = frame.Visible ? frameTwips & lblStatusTwips : QRect();
+    lblStatus_->StandBelow(double(covered.height()) / lblStatusTwips.height());
 }
 
 void ControlPanel::MakeRoomForStrip(bool room) {
     area_->Place(lblStatus_, room ? lblStatusBesideStripTwips : lblStatusTwips);
+}
+
+QRect ControlPanel::PlaceOfStatusLine() const {
+    return QRect(lblStatus_->mapToGlobal(QPoint()), lblStatus_->size());
 }
 
 void ControlPanel::ClickBox(int i) { chkItems_.at(static_cast<std::size_t>(i))->click(); }

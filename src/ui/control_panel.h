@@ -33,6 +33,9 @@ public:
     /// Makes room for a strip beside the status line, or gives the room back.
     void MakeRoomForStrip(bool room);
 
+    /// Where the status line stands on the screen.
+    QRect PlaceOfStatusLine() const;
+
     /// Clicks check box 1 to 11, if a person can.
     void ClickBox(int i);
 

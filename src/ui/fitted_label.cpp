@@ -40,9 +40,13 @@ bool FittedLabel::Fits(const QFont& font) const {
     return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
+double FittedLabel::LargestFont() const {
+    return parentWidget()->font().pixelSize() * relativeSize_;
+}
+
 void FittedLabel::Fit() {
     QFont fitted = font();
-    int size = static_cast<int>(parentWidget()->font().pixelSize() * relativeSize_);
+    int size = static_cast<int>(LargestFont());
     do {
         fitted.setPixelSize(size);
     } while (!Fits(fitted) && --size >= smallestFont);

@@ -19,9 +19,14 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
+    /// The size of its font where there is room, in pixels.
+    virtual double LargestFont() const;
+
+    /// Fits the font to the room that there is now.
+    void Fit();
+
 private:
     bool Fits(const QFont& font) const;
-    void Fit();
 
     double relativeSize_;
 };

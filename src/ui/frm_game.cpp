@@ -42,7 +42,8 @@ int BoxOfDigit(int key) { return key == Qt::Key_0 ? 10 : key - Qt::Key_0; }
 FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
     : dialogs_(
           this, [this] { ShowWidgets(); },
-          [this](const MessageBox& box, Answer answer) { TellAnswered(box, answer); }),
+          [this](const MessageBox& box, Answer answer) { TellAnswered(box, answer); },
+          [this] { return KeptClearOfBoxes(); }),
       help_(desktop.folders.program, dialogs_),
       game_{
           .record = {},
@@ -159,6 +160,17 @@ void FrmGame::ShowFileTypeMark() {
     if (game_.controls.mnuTGF.Checked) return;
     RunEvent(game_, "LoadFileTypeMark", LoadFileTypeMark);
     menus_.Show(game_);
+}
+
+// The squares of the move or attack that a box may be about, and the status line.
+std::vector<QRect> FrmGame::KeptClearOfBoxes() const {
+    if (isHidden()) return {};
+    std::vector<QRect> places{panel_.PlaceOfStatusLine()};
+    for (const QPoint square : board_->SquaresOfAction()) {
+        const QRect place = board_->PlaceOfSquare(square);
+        places.emplace_back(board_->mapToGlobal(place.topLeft()), place.size());
+    }
+    return places;
 }
 
 void FrmGame::MakeOffer() {

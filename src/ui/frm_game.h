@@ -83,6 +83,7 @@ private:
     std::optional<Plan> MakeChoice(const Choice& choice);
     OpponentStrip& Strip();
     bool TellsMore() const;
+    std::vector<QRect> KeptClearOfBoxes() const;
     void TellAnswered(const MessageBox& box, Answer answer);
     void ShowThinking();
     void ShowNoMove();

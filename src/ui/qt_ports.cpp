@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "ui/text.h"
+#include "ui/window_place.h"
 
 namespace qarn {
 namespace {
@@ -55,10 +56,31 @@ std::string ChosenFile(const QFileDialog& dialog) {
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 
+// A box has its size, and its place over the window, once it is shown.
+class PlacedBox : public QMessageBox {
+public:
+    PlacedBox(QWidget* window, const std::vector<QRect>& keptClear)
+        : QMessageBox(window), keptClear_(keptClear) {}
+
+protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        const QRect place = PlaceOfBox(*parentWidget(), geometry(), keptClear_);
+        if (place != geometry()) setGeometry(place);
+    }
+
+private:
+    std::vector<QRect> keptClear_;
+};
+
 }  // namespace
 
-QtDialogs::QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered)
-    : window_(window), beforeBox_(std::move(beforeBox)), tellAnswered_(std::move(tellAnswered)) {}
+QtDialogs::QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered,
+                     KeptClear keptClear)
+    : window_(window),
+      beforeBox_(std::move(beforeBox)),
+      tellAnswered_(std::move(tellAnswered)),
+      keptClear_(std::move(keptClear)) {}
 
 // Runs a dialog over the window, which afterwards has the keyboard again, without a window manager
 // too.
@@ -73,7 +95,7 @@ Answer QtDialogs::Ask(const MessageBox& box) {
     if (givenUp_) return Answer::OK;  // it tells of what was given up
     beforeBox_();
     const BoxButtons buttons = ButtonsFor(box.Offered);
-    QMessageBox widget(window_);
+    PlacedBox widget(window_, keptClear_());
     widget.setWindowTitle(TitleOf(box.Title));
     widget.setTextFormat(Qt::PlainText);
     widget.setText(ToQt(box.Text));

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "core/ports.h"
 #include "core/random_numbers.h"
@@ -17,10 +18,14 @@ struct DialogGivenUp {};
 class QtDialogs : public Dialogs {
 public:
     using TellAnswered = std::function<void(const MessageBox&, Answer)>;
+    using KeptClear = std::function<std::vector<QRect>()>;
 
     /// `beforeBox` runs before each box, so that what the box comments on is on screen. Where
-    /// opponents play, `tellAnswered` gets each box that one of them has answered.
-    QtDialogs(QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered = {});
+    /// opponents play, `tellAnswered` gets each box that one of them has answered. `keptClear` says
+    /// which places of the screen a box is not to hide, where the desktop lets it choose.
+    QtDialogs(
+        QWidget* window, std::function<void()> beforeBox, TellAnswered tellAnswered = {},
+        KeptClear keptClear = [] { return std::vector<QRect>(); });
 
     /// From now on nobody is asked: each box and dialog, those that are open included, is given up.
     void GiveUp() { givenUp_ = true; }
@@ -38,6 +43,7 @@ private:
     QWidget* window_;
     std::function<void()> beforeBox_;
     TellAnswered tellAnswered_;
+    KeptClear keptClear_;
     bool givenUp_ = false;
 };
 

@@ -1,9 +1,13 @@
 #include "ui/status_line.h"
 
 #include <QAccessibleWidget>
+#include <algorithm>
+#include <cmath>
 
 namespace qarn {
 namespace {
+
+constexpr double mostGrowth = 1.5;  // beyond that of the window
 
 // Of all that can happen to a widget without the focus, screen readers only speak of a notification
 // that comes up.
@@ -27,9 +31,29 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
 
 }  // namespace
 
-StatusLine::StatusLine(QWidget* parent) : FittedLabel(parent) {
+StatusLine::StatusLine(QWidget* parent, double designHeight)
+    : FittedLabel(parent), designHeight_(designHeight) {
     QAccessible::installFactory(MakeAccessible);
 }
+
+double StatusLine::LargestFont() const {
+    const double growth = designHeight_ > 0 ? height() / designHeight_ : 1;
+    return FittedLabel::LargestFont() * std::clamp(growth, 1.0, mostGrowth);
+}
+
+void StatusLine::StandBelow(double covered) {
+    if (covered == covered_) return;
+    covered_ = covered;
+    setContentsMargins(0, CoveredPixels(), 0, 0);
+    Fit();
+}
+
+void StatusLine::resizeEvent(QResizeEvent* event) {
+    if (covered_ > 0) setContentsMargins(0, CoveredPixels(), 0, 0);
+    FittedLabel::resizeEvent(event);
+}
+
+int StatusLine::CoveredPixels() const { return static_cast<int>(std::ceil(height() * covered_)); }
 
 void StatusLine::Tell(const QString& text) {
     if (text == this->text()) return;

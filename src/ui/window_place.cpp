@@ -67,6 +67,37 @@ QRect PlaceWithin(const QRect& room, const QRect& place, const QMargins& frame) 
     return within;
 }
 
+// The nearest place touches, across and down each, an edge of something or stays as it is.
+QRect PlaceClearOf(const QRect& room, const QRect& place, const std::vector<QRect>& keptClear) {
+    std::vector<int> lefts{place.left()}, tops{place.top()};
+    for (const QRect& kept : keptClear) {
+        lefts.insert(lefts.end(), {kept.left() - place.width(), kept.right() + 1});
+        tops.insert(tops.end(), {kept.top() - place.height(), kept.bottom() + 1});
+    }
+    QRect nearest;
+    for (const int left : lefts) {
+        for (const int top : tops) {
+            const QRect tried(QPoint(left, top), place.size());
+            const bool hides =
+                std::any_of(keptClear.begin(), keptClear.end(),
+                            [&](const QRect& kept) { return tried.intersects(kept); });
+            if (hides || !room.contains(tried)) continue;
+            const auto way = [&](const QRect& to) {
+                return (to.topLeft() - place.topLeft()).manhattanLength();
+            };
+            if (nearest.isNull() || way(tried) < way(nearest)) nearest = tried;
+        }
+    }
+    return nearest.isNull() ? place : nearest;
+}
+
+QRect PlaceOfBox(const QWidget& window, const QRect& place, const std::vector<QRect>& keptClear) {
+    const QMargins frame = FrameOf(window);
+    const QRect framed =
+        PlaceClearOf(window.screen()->availableGeometry(), place.marginsAdded(frame), keptClear);
+    return framed.marginsRemoved(frame);
+}
+
 void StoreWindowPlace(const QWidget& window, SettingsStore& settings) {
     Store(settings, key, window.saveGeometry());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 #include "core/ports.h"
 
@@ -26,6 +27,14 @@ void StoreDockPlaces(const GameDocks& docks, SettingsStore& settings);
 /// The place, without its frame, nearest to `place` at which a window with such a frame lies within
 /// `room`. It keeps its size where it can. All in pixels of one coordinate system.
 QRect PlaceWithin(const QRect& room, const QRect& place, const QMargins& frame);
+
+/// The place nearest to `place` at which a window of that size lies within `room` and over nothing
+/// of what it is to keep clear of; `place` itself where there is none.
+QRect PlaceClearOf(const QRect& room, const QRect& place, const std::vector<QRect>& keptClear);
+
+/// The place of a box that comes up over `window`, whose frame it has too, where it hides nothing
+/// of what it is to keep clear of, if the screen has room for that.
+QRect PlaceOfBox(const QWidget& window, const QRect& place, const std::vector<QRect>& keptClear);
 
 /// Stores the size and place of the window. Settings that cannot be written stay as they were.
 void StoreWindowPlace(const QWidget& window, SettingsStore& settings);

@@ -109,6 +109,7 @@ protected:
             if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
                 boxes.push_back(box->text().toStdString());
                 statuses.push_back(Text("lblStatus"));
+                places.push_back(box->frameGeometry());
             }
             const Qt::Key key = keys.front();
             keys.pop_front();
@@ -128,6 +129,7 @@ protected:
     std::vector<std::string> titles;    // of the boxes and dialogs that were answered
     std::vector<std::string> boxes;     // what the boxes among them said
     std::vector<std::string> statuses;  // under each of them
+    std::vector<QRect> places;          // where each of them stood on the screen
 };
 
 }  // namespace qarn

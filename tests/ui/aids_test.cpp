@@ -120,6 +120,7 @@ TEST_F(GameWindow, TellsTheOddsOfTheEnemyPointedAt) {
               "13 against 4: wins 60\u00A0%, ties 20\u00A0%, loses 20\u00A0%; after a win one in "
               "five costs a character.");
     EXPECT_TRUE(Find("oddsNote")->isVisible());
+    EXPECT_NE(Find("oddsNote")->contentsRect(), Find("oddsNote")->rect()) << "its frame";
     EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("oddsNote"))->role(),
               QAccessible::Notification);
     QTest::mouseMove(window->windowHandle(), PlaceOfSquare(17, 2).center());

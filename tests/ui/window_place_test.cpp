@@ -22,6 +22,61 @@ TEST(PlaceWithin, KeepsAWindowWithItsFrameOnTheScreen) {
     }
 }
 
+TEST(PlaceClearOf, IsTheNearestPlaceThatHidesNothing) {
+    const QRect room(0, 0, 1000, 700);
+    const QRect status(0, 660, 600, 40), square(480, 300, 50, 60), beside(530, 300, 50, 60);
+    const QRect middle(300, 250, 400, 150);
+    struct Row {
+        QRect place;
+        std::vector<QRect> keptClear;
+        QPoint found;
+    };
+    for (const Row& row : {Row{middle, {}, {300, 250}}, Row{middle, {status}, {300, 250}},
+                           Row{middle, {status, square, beside}, {300, 360}},
+                           Row{{300, 400, 400, 280}, {status, square}, {300, 380}},
+                           Row{{0, 200, 1000, 150}, {status, square}, {0, 150}},
+                           Row{{0, 200, 1000, 700}, {square}, {0, 200}}}) {
+        EXPECT_EQ(PlaceClearOf(room, row.place, row.keptClear), QRect(row.found, row.place.size()));
+    }
+}
+
+TEST_F(GameWindow, ItsBoxesHideNeitherTheFightNorTheStatusLine) {
+    Open("9,5=0 9,6=0 Q@9,5 TS@9,5 WA@9,6 Z@17,2");
+    Key(Qt::Key_M, Qt::AltModifier);
+    ClickSquare(9, 5);
+    Key(Qt::Key_S, Qt::AltModifier);
+    random.QueueRoll(5);
+    AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
+    ClickSquare(9, 6);
+    ASSERT_EQ(places.size(), 3u);
+    const QPoint corner = window->mapToGlobal(QPoint());
+    for (const QRect& place : places) {
+        for (const QRect& kept :
+             {PlaceOfSquare(9, 5), PlaceOfSquare(9, 6),
+              QRect(Find("lblStatus")->mapTo(window.get(), QPoint()), Find("lblStatus")->size())}) {
+            EXPECT_FALSE(place.intersects(kept.translated(corner)));
+        }
+    }
+}
+
+TEST_F(GameWindow, HasAStatusLineThatGrowsAndIsNeverCovered) {
+    Open("Q@9,9 WA@17,2");
+    auto* line = Find<QLabel>("lblStatus");
+    const auto growth = [&] {
+        return double(line->font().pixelSize()) / board->font().pixelSize();
+    };
+    EXPECT_EQ(growth(), 1);
+    Key(Qt::Key_I, Qt::AltModifier);
+    ClickSquare(9, 9);
+    const int covered = (Find("fraQuickDetails")->geometry() & line->geometry()).height();
+    EXPECT_GT(covered, 0);
+    EXPECT_EQ(line->contentsRect().top(), covered);
+    ClickSquare(9, 8);
+    window->resize(window->size() * 2);
+    EXPECT_GT(growth(), 1.4);
+    EXPECT_EQ(line->contentsRect(), line->rect());
+}
+
 TEST_F(GameWindow, OpensWithItsFrameOnTheScreenWhateverWasStored) {
     const QRect room = window->screen()->availableGeometry();
     const auto expectOnScreen = [&] {
