@@ -7,15 +7,40 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "core/board_geometry.h"
 #include "play/square_text.h"
 #include "ui/board_accessible.h"
 #include "ui/board_painter.h"
+#include "ui/key_deed.h"
 #include "ui/text.h"
 
 namespace qarn {
+namespace {
+
+// Where a key moves the cursor to; none for one that does not move it.
+std::optional<QPoint> PlaceAfter(QPoint cursor, KeyDeed deed) {
+    switch (deed) {
+        case KeyDeed::Left:
+            return cursor + QPoint(-1, 0);
+        case KeyDeed::Right:
+            return cursor + QPoint(1, 0);
+        case KeyDeed::Up:
+            return cursor + QPoint(0, -1);
+        case KeyDeed::Down:
+            return cursor + QPoint(0, 1);
+        case KeyDeed::FirstColumn:
+            return QPoint(1, cursor.y());
+        case KeyDeed::LastColumn:
+            return QPoint(columnCount, cursor.y());
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
 
 BoardWidget::BoardWidget(const Game& game, QWidget* parent) : QWidget(parent), game_(game) {
     // First, since whatever changes while a screen reader listens asks the factory.
@@ -187,33 +212,20 @@ void BoardWidget::MoveCursor(QPoint square) {
     if (hasFocus()) TellCursor();
 }
 
+bool BoardWidget::MovesTheCursor(const QKeyEvent& event) {
+    const KeyCommand* key = KeyOf(event);
+    return key != nullptr && PlaceAfter({1, 1}, key->Deed).has_value();
+}
+
 void BoardWidget::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-        case Qt::Key_Left:
-            MoveCursor(shown_.cursor + QPoint(-1, 0));
-            break;
-        case Qt::Key_Right:
-            MoveCursor(shown_.cursor + QPoint(1, 0));
-            break;
-        case Qt::Key_Up:
-            MoveCursor(shown_.cursor + QPoint(0, -1));
-            break;
-        case Qt::Key_Down:
-            MoveCursor(shown_.cursor + QPoint(0, 1));
-            break;
-        case Qt::Key_Home:
-            MoveCursor({1, shown_.cursor.y()});
-            break;
-        case Qt::Key_End:
-            MoveCursor({columnCount, shown_.cursor.y()});
-            break;
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (!event->isAutoRepeat()) Click(shown_.cursor);
-            break;
-        default:
-            QWidget::keyPressEvent(event);
+    const KeyCommand* key = KeyOf(*event);
+    if (key == nullptr) return QWidget::keyPressEvent(event);
+    if (const auto square = PlaceAfter(shown_.cursor, key->Deed)) {
+        MoveCursor(*square);
+    } else if (key->Deed == KeyDeed::ClickSquare) {
+        if (!event->isAutoRepeat()) Click(shown_.cursor);
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

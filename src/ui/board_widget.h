@@ -27,6 +27,9 @@ public:
     /// Moves it to a square, or to the nearest one where that is off the board.
     void MoveCursor(QPoint square);
 
+    /// Whether a key moves it.
+    static bool MovesTheCursor(const QKeyEvent& event);
+
     /// Clicks a square as a mouse does: the cursor goes there too.
     void Click(QPoint square);
 

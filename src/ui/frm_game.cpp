@@ -16,6 +16,7 @@
 #include "shell/kept_opponents.h"
 #include "ui/design.h"
 #include "ui/frm_about.h"
+#include "ui/key_deed.h"
 #include "ui/text.h"
 #include "ui/window_icon.h"
 #include "ui/window_place.h"
@@ -29,13 +30,8 @@
 namespace qarn {
 namespace {
 
-bool MovesTheCursor(int key) {
-    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up ||
-           key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
-}
-
 // The check box of a digit key; 0 stands for 10.
-int BoxOfDigit(int key) { return key == Qt::Key_0 ? 10 : key - Qt::Key_0; }
+int BoxOfDigit(std::string_view key) { return key == "0" ? 10 : key[0] - '0'; }
 
 }  // namespace
 
@@ -258,18 +254,30 @@ void FrmGame::changeEvent(QEvent* event) {
 
 // What the focused widget has no use for.
 void FrmGame::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Shift) board_->AskForStrikes(true);
-    if (event->key() == Qt::Key_Escape && HasHint()) {
+    const KeyCommand* key = KeyOf(*event);
+    if (key == nullptr) return QMainWindow::keyPressEvent(event);
+    switch (key->Deed) {
+        case KeyDeed::ShowStrikes:
+            return board_->AskForStrikes(true);
+        case KeyDeed::Escape:
+            return Escape();
+        case KeyDeed::NextGroup:
+            return GoToOwnGroup(true);
+        case KeyDeed::GroupBefore:
+            return GoToOwnGroup(false);
+        case KeyDeed::TickBox:
+            return panel_.ClickBox(BoxOfDigit(key->Key));
+        default:  // the board's
+            QMainWindow::keyPressEvent(event);
+    }
+}
+
+void FrmGame::Escape() {
+    if (HasHint()) {
         Run("DropHint", DropHint);
-    } else if (event->key() == Qt::Key_Escape && IsThinking()) {
+    } else if (IsThinking()) {
         tmrAI_.stop();  // it need not wait for its time
         thinker_->DecideNow();
-    } else if (event->key() == Qt::Key_N && !(event->modifiers() & ~Qt::ShiftModifier)) {
-        GoToOwnGroup(!(event->modifiers() & Qt::ShiftModifier));
-    } else if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9) {
-        panel_.ClickBox(BoxOfDigit(event->key()));
-    } else {
-        QMainWindow::keyPressEvent(event);
     }
 }
 
@@ -311,7 +319,7 @@ bool FrmGame::eventFilter(QObject* object, QEvent* event) {
         return true;
     }
     if (event->type() == QEvent::KeyPress &&
-        MovesTheCursor(static_cast<QKeyEvent*>(event)->key())) {
+        BoardWidget::MovesTheCursor(*static_cast<QKeyEvent*>(event))) {
         board_->setFocus();
         QCoreApplication::sendEvent(board_, event);
         return true;

@@ -68,6 +68,7 @@ private:
     void ShowOdds();
     bool HasHint() const;
     void ShowAbout();
+    void Escape();
     void GoToOwnGroup(bool forward);
     void GoTo(QPoint square);
     void SaveJournal(const QString& path);

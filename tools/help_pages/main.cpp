@@ -15,6 +15,7 @@
 #include "help_pages/scenario_page.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
+#include "window/keys.h"
 #include "window/menu_commands.h"
 
 namespace fs = std::filesystem;
@@ -80,6 +81,20 @@ std::string MenuCells(const std::string& name, std::set<std::string>& told) {
            (shortcut.empty() ? "&ndash;" : Escape(shortcut)) + "</td>";
 }
 
+// A row for each key of the window, or for those that do the same.
+std::string KeyRows() {
+    std::string rows;
+    std::string keys;
+    const auto commands = KeyCommands();
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        keys += (keys.empty() ? "" : ", ") + std::string(commands[i].Key);
+        if (i + 1 < commands.size() && commands[i + 1].Told == commands[i].Told) continue;
+        rows += Row({Escape(keys), "<td class=\"text\">" + Escape(commands[i].Told) + "</td>"});
+        keys.clear();
+    }
+    return rows;
+}
+
 void CheckAllMenusAreTold(const std::set<std::string>& told) {
     for (const MenuCommand& command : MenuCommands()) {
         if (!command.Name.empty() && !told.contains(TextOf(command))) {
@@ -129,6 +144,7 @@ void MakePages(const fs::path& source, const fs::path& matches, const fs::path& 
         {"scenarios", [](const std::string&) { return ScenarioOverview(); }},
         {"scenario-contents", [](const std::string&) { return ScenarioContents(); }},
         {"menu", [&](const std::string& name) { return MenuCells(name, toldMenus); }},
+        {"keys", [](const std::string&) { return KeyRows(); }},
         {"files", [&](const std::string&) { return AllFiles(folder); }},
     };
     std::set<fs::path> texts;
