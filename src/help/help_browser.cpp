@@ -11,20 +11,36 @@
 namespace qarn {
 namespace {
 
-constexpr QColor paper{0xFF, 0xFF, 0xFF};
-constexpr QColor ink{0x22, 0x22, 0x22};
-constexpr QColor link{0x1F, 0x4E, 0x99};
-constexpr QColor mark{0xFF, 0xE5, 0x6B};
+// What the style sheets leave to the viewer.
+struct PageColors {
+    QColor paper, ink, link, mark;
+};
+constexpr PageColors lightPage{
+    {0xFF, 0xFF, 0xFF}, {0x22, 0x22, 0x22}, {0x1F, 0x4E, 0x99}, {0xFF, 0xE5, 0x6B}};
+constexpr PageColors darkPage{
+    {0x20, 0x20, 0x23}, {0xE2, 0xDE, 0xD4}, {0x8F, 0xB8, 0xF5}, {0x6E, 0x56, 0x00}};
+constexpr auto lightSheet = "style.css";
+constexpr auto darkSheet = "dark.css";
+
 constexpr qreal margin = 20;
 constexpr int widestColumn = 780;
 
-// The pages bring their own colours, whatever those of the desktop are.
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+}
+
+const PageColors& ColorsOf(const QWidget& widget) {
+    return IsDark(widget.palette()) ? darkPage : lightPage;
+}
+
+// The pages bring colours of their own, dark ones where the desktop's are.
 void UsePaper(QWidget& widget) {
+    const PageColors& colors = ColorsOf(widget);
     QPalette palette = widget.palette();
-    palette.setColor(QPalette::Base, paper);
-    palette.setColor(QPalette::Text, ink);
-    palette.setColor(QPalette::Link, link);
-    palette.setColor(QPalette::LinkVisited, link);
+    palette.setColor(QPalette::Base, colors.paper);
+    palette.setColor(QPalette::Text, colors.ink);
+    palette.setColor(QPalette::Link, colors.link);
+    palette.setColor(QPalette::LinkVisited, colors.link);
     widget.setPalette(palette);
 }
 
@@ -64,7 +80,8 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     const QString inFile = NameInFile(page_.resolved(name));
     if (type == QTextDocument::ImageResource) return LoadPicture(inFile);
 
-    const QString text = ReadPage(file_, inFile);
+    const bool dark = inFile == lightSheet && IsDark(palette());
+    const QString text = ReadPage(file_, dark ? darkSheet : inFile);
     if (text.isEmpty() && type == QTextDocument::HtmlResource) return MissingPage(inFile);
     return text;
 }
@@ -98,8 +115,8 @@ void HelpBrowser::Mark(const QStringList& words) {
         for (; !place.isNull(); place = document()->find(word, place)) {
             ExtraSelection selection;
             selection.cursor = place;
-            selection.format.setBackground(mark);
-            selection.format.setForeground(ink);
+            selection.format.setBackground(ColorsOf(*this).mark);
+            selection.format.setForeground(ColorsOf(*this).ink);
             marks.append(selection);
         }
     }

@@ -9,6 +9,8 @@
 namespace qarn {
 namespace {
 
+constexpr int faintAlpha = 128;  // of 255
+
 bool IsStep(int key) { return key == Qt::Key_Up || key == Qt::Key_Down; }
 
 bool ComesToARow(int key) {
@@ -50,7 +52,10 @@ void ChoiceList::paintEvent(QPaintEvent* event) {
     QListWidget::paintEvent(event);
     if (count() > 0 || whileEmpty_.isEmpty()) return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    // Not the colour for such texts, which some dark desktops leave as it is on light ones.
+    QColor faint = palette().color(QPalette::Text);
+    faint.setAlpha(faintAlpha);
+    painter.setPen(faint);
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, whileEmpty_);
 }
 
