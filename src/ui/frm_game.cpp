@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <utility>
 
 #include "play/end_report.h"
@@ -49,12 +50,14 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
       board_(new BoardWidget(game_, area_)),
       panel_(area_, [this](const auto& name, const auto& handler) { Click(name, handler); }),
       menus_(menuBar(), [this](const MenuCommand& command) { Choose(command); }),
+      sideKey_(new SideKey),
       docks_(*this, {.choose = [this](const char* item) { Choose(*FindMenuCommand(item)); },
                      .goTo = [this](QPoint square) { GoTo(square); },
                      .saveJournal = [this](const QString& path) { SaveJournal(path); }}) {
     game_.afterSave = [this] { journal_.Keep(game_); };
     setWindowIcon(WindowIcon());
     setCentralWidget(area_);
+    menuBar()->setCornerWidget(sideKey_);
     area_->Place(board_, boardTwips);
     board_->setFocus();
     connect(board_, &BoardWidget::SquareClicked, this, [this](int X, int Y) {
@@ -139,6 +142,7 @@ void FrmGame::ShowWidgets() {
     ShowOdds();
     if (offer_ != nullptr) offer_->LetTake(CanTakeOffer(game_));
     menus_.Show(game_);
+    sideKey_->Show(game_);
     ShowFullScreen();
     docks_.Show(game_, journal_.Told());
     if (game_.blnOpen && isHidden()) {

@@ -22,6 +22,7 @@
 #include "ui/opponent_strip.h"
 #include "ui/qt_ports.h"
 #include "ui/scaled_area.h"
+#include "ui/side_key.h"
 #include "ui/thinker.h"
 
 namespace qarn {
@@ -105,6 +106,7 @@ private:
     BoardWidget* board_;
     ControlPanel panel_;
     GameMenus menus_;
+    SideKey* sideKey_;
     GameDocks docks_;
     QTimer tmrAI_{this};
     std::unique_ptr<Thinker> thinker_;  // of opponents that look ahead, once one has played

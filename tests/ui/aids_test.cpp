@@ -68,7 +68,9 @@ TEST_F(GameWindow, PutsPlatesBehindTheCodesOfTheSides) {
     Open("9,5=0 Q@9,5 WS@9,4 BT@9,4 WA@17,2 ZA1@17,2");
     window->resize(1600, 1100);
     EXPECT_EQ(SquaresWith(dark) + SquaresWith(brown), "");
+    EXPECT_FALSE(Find("sideKey")->isVisible());
     MenuItem("mnuSides")->trigger();
+    EXPECT_TRUE(Find("sideKey")->isVisible());
     EXPECT_EQ(SquaresWith(dark), "17,2 ");
     EXPECT_EQ(SquaresWith(brown), "9,4 ");
     EXPECT_NE(SquaresWith(bright).find("9,4 "), std::string::npos);
