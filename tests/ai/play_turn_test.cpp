@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <random>
 
 #include "ai/action.h"
 #include "ai/opponents/turns.h"
@@ -14,32 +13,34 @@
 #include "rules/questions/start.h"
 #include "rules/questions/turn.h"
 #include "scenarios/catalogue.h"
-#include "support/played_game.h"
+#include "support/random_game.h"
 
 namespace qarn {
 namespace {
 
 // Plays random turns of a scenario through the window's own buttons, as the driver replays them,
 // and beside that on a position, and compares what comes of both.
-class TwoGames {
+class TwoGames : public RandomGame {
 public:
-    TwoGames(int scenario, unsigned seed, HouseRules house) : chance_(seed) {
-        played_.Load(std::string(NamesOfScenario(scenario).Code) + " turn1");
-        played_.game.record.blnComputer = {false, true, true};
-        played_.game.record.house = house;
-        BringTogether();
+    TwoGames(int scenario, unsigned seed, HouseRules house) : RandomGame(scenario, seed) {
+        game.record.blnComputer = {false, true, true};
+        game.record.house = house;
+        for (const Terrain landmark : {Fortress, Fortress, Fortress, Fortress, Abbey}) {
+            game.record.bytTerrain[static_cast<std::size_t>(8 + Below(4))]
+                                  [static_cast<std::size_t>(4 + Below(4))] = landmark;
+        }
+        position_ = PositionOf(game.record);
     }
 
-    bool IsOver() const { return played_.game.blnEnded; }
     const std::map<std::string, int>& Kinds() const { return kinds_; }
 
     void PlayTurnInBoth() {
         const Dice dice{1 + Below(5), 1 + Below(5)};
         const Plan plan = RandomPlan();
         const Position before = position_;
-        played_.random.queued.clear();
-        played_.random.QueueRoll(dice.roll);
-        played_.random.QueueRoll(dice.secondRoll);
+        random.queued.clear();
+        random.QueueRoll(dice.roll);
+        random.QueueRoll(dice.secondRoll);
         const TurnOutcome outcome = PlayTurn(position_, plan, dice);
         Replay(plan);
         Compare(outcome);
@@ -49,27 +50,9 @@ public:
     }
 
 private:
-    int Below(int bound) { return static_cast<int>(chance_() % static_cast<unsigned>(bound)); }
-
     template <typename List>
     const auto& OneOf(const List& list) {
         return list[static_cast<std::size_t>(Below(static_cast<int>(list.size())))];
-    }
-
-    // Most of the groups come close together, and landmarks between them, so that they meet soon.
-    void BringTogether() {
-        GameRecord& record = played_.game.record;
-        for (std::size_t i = 1; i <= peopleCount; ++i) {
-            PeopleRecord& people = record.People[i];
-            if (Below(3) == 0) continue;
-            people.LocationX = static_cast<std::uint8_t>(7 + Below(4) + people.Side);
-            people.LocationY = static_cast<std::uint8_t>(4 + Below(4));
-        }
-        for (const Terrain landmark : {Fortress, Fortress, Fortress, Fortress, Abbey}) {
-            record.bytTerrain[static_cast<std::size_t>(8 + Below(4))]
-                             [static_cast<std::size_t>(4 + Below(4))] = landmark;
-        }
-        position_ = PositionOf(record);
     }
 
     std::vector<Square> SquaresOf(std::uint8_t side) const {
@@ -92,21 +75,21 @@ private:
 
     // A walk wherever it leads, without leaving the board; legal or not.
     Path RandomWalk(Square at) {
-        Path path;
+        Path walk;
         for (int steps = Below(5); steps > 0;) {
             const int X = at.X + (Below(2) == 0 ? 1 - 2 * Below(2) : 0);
             const int Y = at.Y + (X == at.X ? 1 - 2 * Below(2) : 0);
             if (!IsOnBoard(X, Y)) continue;
             at = {static_cast<std::uint8_t>(X), static_cast<std::uint8_t>(Y)};
-            path.push_back(at);
+            walk.push_back(at);
             --steps;
         }
-        return path;
+        return walk;
     }
 
-    static Path WithoutStart(const Path& path) {
+    static Path WithoutStart(const Path& whole) {
         Path rest;
-        for (std::size_t k = 1; k < path.size(); ++k) rest.push_back(path[k]);
+        for (std::size_t k = 1; k < whole.size(); ++k) rest.push_back(whole[k]);
         return rest;
     }
 
@@ -156,20 +139,19 @@ private:
     // Ticks until the action is over and its move with it; a burning that passes the turn at once
     // leaves the move to be ended.
     void Replay(const Plan& plan) {
-        Game& game = played_.game;
-        played_.dialogs.queued.assign(20, Answer::Yes);
+        dialogs.queued.assign(20, Answer::Yes);
         happenings_.clear();
         StartAction(game, plan);
         for (int tick = 0; tick < 100 && game.record.Action.blnAIBusy && !game.blnEnded; ++tick) {
             Tick(game);
             happenings_.insert(happenings_.end(), game.happenings.begin(), game.happenings.end());
         }
-        played_.dialogs.boxes.clear();
-        played_.dialogs.answers.clear();
+        dialogs.boxes.clear();
+        dialogs.answers.clear();
     }
 
     void Compare(const TurnOutcome& outcome) {
-        const GameRecord& record = played_.game.record;
+        const GameRecord& record = game.record;
         std::optional<Attacked> attack;
         PeopleSet lost;
         std::uint8_t winner = 0;
@@ -200,7 +182,7 @@ private:
         const Group& first = position_.People[plan.people.First()];
         const Square at{first.LocationX, first.LocationY};
         const int whole = StrengthOf(before, plan.people).Mobility;
-        const int paid = whole - played_.game.record.bytMobilityLeft;
+        const int paid = whole - game.record.bytMobilityLeft;
         const auto reach = ReachOf(before, {plan.people, plan.start, whole});
         const auto told =
             std::find_if(reach.begin(), reach.end(),
@@ -237,8 +219,6 @@ private:
         return how + (outcome.attack->secondRoll == 3 ? "won and lost one" : "won");
     }
 
-    std::mt19937 chance_;
-    PlayedGame played_;
     Position position_;
     Happenings happenings_;
     ReachedSquare chosenFor_;  // what a march was chosen for, if anything
@@ -254,7 +234,7 @@ TEST_P(PlayTurnByHouseRules, DoesWhatTheHandlersDo) {
         const int scenario = 1 + static_cast<int>(seed % scenarioCount);
         SCOPED_TRACE("seed " + std::to_string(seed));
         TwoGames games(scenario, seed, GetParam());
-        for (int turn = 0; turn < 100 && !games.IsOver(); ++turn, ++turns) {
+        for (int turn = 0; turn < 100 && !games.game.blnEnded; ++turn, ++turns) {
             SCOPED_TRACE("turn " + std::to_string(turn));
             games.PlayTurnInBoth();
             if (testing::Test::HasFatalFailure()) return;

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
 
 #include "ai/action.h"
 #include "core/turn_cycle.h"
+#include "scenarios/catalogue.h"
 #include "support/computer_game.h"
+#include "support/random_game.h"
 #include "window/load_game.h"
 
 namespace qarn {
@@ -194,91 +195,49 @@ TEST(TurnDriver, WaitsForAPersonsFinishedMove) {
     EXPECT_EQ(played.game.record.bytTurn, 2);
 }
 
-// Does at random what a person can do, and lets the timer tick in between.
-class Meddler {
+// The computer plays side 1, or both, and a person does anything in between.
+class MeddledGame : public RandomGame {
 public:
-    Meddler(ComputerGame& played, unsigned seed) : played_(played), random_(seed) {}
+    explicit MeddledGame(unsigned seed)
+        : RandomGame(1 + static_cast<int>(seed % scenarioCount), seed) {
+        game.record.blnComputer = {false, true, seed % 3 == 0};
+        ShowTurn(game, false);
+    }
 
     void Act() {
-        const std::string boxOrSquare[] = {"tick " + std::to_string(1 + Below(checkBoxCount)),
-                                           "untick " + std::to_string(1 + Below(checkBoxCount)),
-                                           ClickOnOwnGroup(), ClickNearCurrentSquare()};
-        const char* buttons[] = {"cmdMove", "cmdAttack", "cmdDoneSel", "cmdSquareDetails"};
-        FillQueues();
-        if (Below(3) == 0) {
-            played_.Do(std::string("press ") + buttons[Below(4)]);
-        } else if (Below(2) == 0) {
-            played_.Do(boxOrSquare[Below(4)]);
+        const bool looks = Below(game.record.blnDetailsMode ? 3 : 30) == 0;
+        QueueAnswersAndDice();
+        if (game.controls.tmrAI.Enabled && Below(2) == 0) {
+            Tick(game);
         } else {
-            played_.Tick();
+            Do(looks ? "press cmdSquareDetails" : RandomCommand());
         }
     }
 
     // Gives true when the turn passes, or the game ends, after no more than so many actions.
     bool GoesOnWithin(int actions) {
-        const Game& game = played_.game;
         const std::uint8_t turn = game.record.bytTurn;
         while (actions-- > 0 && !game.blnEnded && game.record.bytTurn == turn) Act();
         return game.blnEnded || game.record.bytTurn != turn;
     }
 
-private:
-    std::size_t Below(std::size_t bound) { return random_() % bound; }
-
-    void FillQueues() {
-        while (played_.dialogs.queued.size() < 5) {
-            played_.dialogs.queued.push_back(Below(4) == 0 ? Answer::No : Answer::Yes);
-        }
-        while (played_.random.queued.size() < 5) {
-            played_.random.QueueRoll(static_cast<int>(1 + Below(5)));
-        }
+    int CharactersLeft() const {
+        return static_cast<int>(std::count_if(
+            game.record.People.begin(), game.record.People.end(),
+            [](const PeopleRecord& people) { return !IsTransport(people) && OnBoard(people); }));
     }
-
-    std::string ClickOnOwnGroup() {
-        const GameRecord& record = played_.game.record;
-        std::size_t i = 0;
-        do {
-            i = 1 + Below(peopleCount);
-        } while (record.People[i].Side != record.bytTurn || !OnBoard(record.People[i]));
-        return "click " + std::to_string(record.People[i].LocationX) + " " +
-               std::to_string(record.People[i].LocationY);
-    }
-
-    std::string ClickNearCurrentSquare() {
-        const GameRecord& record = played_.game.record;
-        const int X = std::clamp(record.bytCurrentX + static_cast<int>(Below(3)) - 1, 1, 18);
-        const int Y = std::clamp(record.bytCurrentY + static_cast<int>(Below(3)) - 1, 1, 10);
-        return "click " + std::to_string(X) + " " + std::to_string(Y);
-    }
-
-    ComputerGame& played_;
-    std::mt19937 random_;
 };
-
-int CharactersLeft(const GameRecord& record) {
-    return static_cast<int>(std::count_if(
-        record.People.begin(), record.People.end(),
-        [](const PeopleRecord& people) { return !IsTransport(people) && OnBoard(people); }));
-}
-
-// Close together, so that everybody soon fights; a strong and a weak stack on either side.
-const std::string melee =
-    "TS@10,9 WS@10,9 BT@10,9 S@11,10 LS@12,10 V@12,10 J@12,9 SK@12,9 Q@13,9 "
-    "WA@11,9 WA1@13,10 WA2@13,10 ZA3@13,10 WA3@14,9 Z@9,10 ZA1@10,10 ZA2@10,10 10,10=7 9,10=8";
 
 TEST(TurnDriver, SurvivesWhateverThePersonDoes) {
     for (unsigned seed = 1; seed <= 100; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        ComputerGame played(melee);
-        for (const std::size_t i : {2, 3, 6, 7, 15}) played.game.record.People[i].Attack += 8;
-        played.game.record.blnComputer[2] = seed % 3 == 0;
-        Meddler person(played, seed);
+        MeddledGame played(seed);
         for (int action = 0; action < 80 && !played.game.blnEnded; ++action) {
-            const int left = CharactersLeft(played.game.record);
-            person.Act();
-            ASSERT_LE(CharactersLeft(played.game.record), left) << "The dead have risen.";
+            const int left = played.CharactersLeft();
+            played.Act();
+            ASSERT_LE(played.CharactersLeft(), left) << "The dead have risen.";
         }
-        ASSERT_TRUE(person.GoesOnWithin(4000));
+        ASSERT_TRUE(played.GoesOnWithin(4000));
         for (const MessageBox& box : played.dialogs.boxes) {
             ASSERT_EQ(box.Text.find("::"), std::string::npos) << box.Text;  // an index out of range
         }

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "core/position.h"
 #include "play/odds_ahead.h"
 #include "play/reach_marks.h"
@@ -10,25 +8,22 @@
 #include "play/strikes.h"
 #include "rules/questions/reach.h"
 #include "rules/questions/start.h"
-#include "support/played_game.h"
+#include "scenarios/catalogue.h"
+#include "support/random_game.h"
 
 namespace qarn {
 namespace {
 
-/// Games at random positions, in which what is told beforehand can be tried.
-class TriedGame : public PlayedGame {
+/// A game at a random position, in which what is told beforehand can be tried.
+class TriedGame : public RandomGame {
 public:
-    TriedGame() : PlayedGame("HM") { Do("menu mnuReach"); }
-
-    // Everybody stands somewhere in a corner, so that they meet.
-    void Scatter(std::mt19937& chance) {
-        record_.bytTurn = static_cast<std::uint8_t>(1 + chance() % 2);
-        for (std::size_t i = 1; i <= peopleCount; ++i) {
-            record_.People[i].LocationX = static_cast<std::uint8_t>(12 + chance() % 7);
-            record_.People[i].LocationY = static_cast<std::uint8_t>(1 + chance() % 6);
-        }
-        GoBack();
+    explicit TriedGame(unsigned seed)
+        : RandomGame(1 + static_cast<int>(seed % scenarioCount), seed) {
+        Do("menu mnuReach");
+        record_ = game.record;
+        controls_ = game.controls;
     }
+
     void GoBack() {
         game.record = record_;
         game.controls = controls_;
@@ -57,8 +52,8 @@ public:
     }
 
 private:
-    GameRecord record_ = game.record;
-    Controls controls_ = game.controls;
+    GameRecord record_;
+    Controls controls_;
 };
 
 void ExpectTold(const std::optional<AttackOdds>& told, const Attacked* fight) {
@@ -107,12 +102,11 @@ void TryAttacksFrom(TriedGame& tried, Square start) {
 }
 
 TEST(ReachAndOdds, AreWhatTheGameThenDoes) {
-    TriedGame tried;
-    std::mt19937 chance(1);
-    for (int round = 0; round < 40; ++round) {
-        tried.Scatter(chance);
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        TriedGame tried(seed);
         const GameRecord& record = tried.game.record;
-        const Square start = SquareOf(record.People[1 + chance() % 17]);
+        const auto anybody = static_cast<std::size_t>(1 + tried.Below(17));
+        const Square start = SquareOf(record.People.at(anybody));
         if (AskStart(PositionOf(record), start) != StartRefusal::None) continue;
         TryMoveFrom(tried, start);
         TryAttacksFrom(tried, start);

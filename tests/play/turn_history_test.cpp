@@ -2,60 +2,45 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
-
 #include "scenarios/catalogue.h"
-#include "scenarios/setup.h"
-#include "support/played_game.h"
+#include "support/random_game.h"
 #include "window/opponents_turn.h"
 #include "window/save_game.h"
 
 namespace qarn {
 namespace {
 
-// A scenario's groups in a crowd, in which a person of either side does anything, and takes back.
-class TakenBackGame {
+// A person of either side does anything, and takes back.
+class TakenBackGame : public RandomGame {
 public:
-    TakenBackGame(int scenario, unsigned seed) : chance_(seed) {
-        std::string crowd(NamesOfScenario(scenario).Code);
-        for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
-            const std::string code(entry.Code.Text());
-            crowd += " " + code + "@" + std::to_string(7 + Below(6)) + "," +
-                     std::to_string(3 + Below(5));
-            if (entry.Side != 0) crowd += " " + code + ".Attack=" + std::to_string(1 + Below(25));
-        }
-        played_.Load(crowd);
-    }
-
-    bool IsOver() const { return played_.game.blnEnded; }
-    int Turns() const { return turns_; }
-    int TakenBack() const { return takenBack_; }
+    using RandomGame::RandomGame;
 
     void DoSomething() {
         const Seen before = See();
-        played_.dialogs.queued.assign(3, Below(4) > 0 ? Answer::Yes : Answer::No);
-        played_.random.queued = {Below(5) / 5.0, Below(5) / 5.0};
-        const std::uint8_t turn = Record().bytTurn;
-        if (!played_.Do(Command())) return;
-        seen_.resize(played_.history.Events(), before);
-        turns_ += Record().bytTurn != turn ? 1 : 0;
+        const std::uint8_t turn = game.record.bytTurn;
+        QueueAnswersAndDice();
+        if (!Do(RandomCommand())) return;
+        seen_.resize(history.Events(), before);
+        turns += game.record.bytTurn != turn ? 1 : 0;
     }
 
     void TakeSomeBack() {
         for (int times = 1 + Below(4); times > 0 && !seen_.empty(); --times) {
-            const bool whole = Below(5) == 0 && played_.Do("menu mnuCancelMove");
-            ASSERT_TRUE(whole || played_.Do("menu mnuTakeBack"));
-            ASSERT_FALSE(whole && IsPersonsMoveUnderWay(Record()));
-            const Seen& before = seen_.at(played_.history.Events());
+            const bool whole = Below(5) == 0 && Do("menu mnuCancelMove");
+            ASSERT_TRUE(whole || Do("menu mnuTakeBack"));
+            ASSERT_FALSE(whole && IsPersonsMoveUnderWay(game.record));
+            const Seen& before = seen_.at(history.Events());
             ASSERT_EQ(See().state, before.state);
             ASSERT_TRUE(before.file.empty() || before.file == Saved());
-            ASSERT_TRUE(played_.game.happenings.empty());
-            played_.ExpectBoardShown();
-            seen_.resize(played_.history.Events());
-            ++takenBack_;
+            ASSERT_TRUE(game.happenings.empty());
+            ExpectBoardShown();
+            seen_.resize(history.Events());
+            ++takenBack;
         }
     }
+
+    int turns = 0;
+    int takenBack = 0;
 
 private:
     struct Seen {
@@ -63,57 +48,29 @@ private:
         std::string file;  // empty: not saved
     };
 
-    const GameRecord& Record() const { return played_.game.record; }
-    int Below(int bound) { return static_cast<int>(chance_() % static_cast<unsigned>(bound)); }
-
     std::string Saved() {
-        SaveGame(played_.game);
-        return ReadFile(played_.path);
+        SaveGame(game);
+        return ReadFile(path);
     }
-
     Seen See() {
-        const Game& game = played_.game;
         return {{game.record, game.controls, game.blnOpen}, Below(200) == 0 ? Saved() : ""};
     }
 
-    std::string Near(int place, int last) {
-        return " " + std::to_string(std::clamp(place + Below(3) - 1, 1, last));
-    }
-
-    // Mostly what the game waits for, and now and then anything else.
-    std::string Command() {
-        const GameRecord& record = Record();
-        const auto& at = record.People.at(static_cast<std::size_t>(1 + Below(peopleCount)));
-        const bool starts = !record.blnMoveUnderWay && !record.blnAttackerChosen && OnBoard(at);
-        const int X = starts ? at.LocationX : record.bytClickX;
-        const int Y = starts ? at.LocationY : record.bytClickY;
-        const std::string click = "click" + Near(X, columnCount) + Near(Y, rowCount);
-        const std::string commands[] = {
-            Below(3) > 0 ? "press cmdMove" : "press cmdAttack",
-            (Below(2) == 0 ? "tick " : "untick ") + std::to_string(1 + Below(4)),
-            played_.game.controls.cmdDoneSel.Visible ? "press cmdDoneSel" : click, click};
-        return commands[Below(4)];
-    }
-
-    std::mt19937 chance_;
-    PlayedGame played_;
     std::vector<Seen> seen_;  // before each of the events that can be taken back
-    int turns_ = 0;
-    int takenBack_ = 0;
 };
 
 TEST(TurnHistory, GivesTheVeryGameBeforeAnyEventOfATurn) {
     int turns = 0, takenBack = 0;
     for (unsigned seed = 1; turns < 2000; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        TakenBackGame game(1 + static_cast<int>(seed % scenarioCount), seed);
-        for (int event = 0; event < 3000 && !game.IsOver(); ++event) {
-            game.DoSomething();
-            if (seed * static_cast<unsigned>(event) % 23 == 0) game.TakeSomeBack();
+        TakenBackGame played(1 + static_cast<int>(seed % scenarioCount), seed);
+        for (int event = 0; event < 3000 && !played.game.blnEnded; ++event) {
+            played.DoSomething();
+            if (seed * static_cast<unsigned>(event) % 23 == 0) played.TakeSomeBack();
             if (testing::Test::HasFatalFailure()) return;
         }
-        turns += game.Turns();
-        takenBack += game.TakenBack();
+        turns += played.turns;
+        takenBack += played.takenBack;
     }
     EXPECT_GT(takenBack, 4000);
 }

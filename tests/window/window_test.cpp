@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
-#include "core/random_numbers.h"
 #include "scenarios/catalogue.h"
-#include "scenarios/setup.h"
+#include "support/random_game.h"
 #include "support/sequence.h"
 #include "window/hint_mark.h"
 #include "window/run_event.h"
@@ -128,7 +125,7 @@ TEST(SaveGame, AsksBeforeItReplacesWhatAnotherProgramHasWritten) {
     for (int time = 0; time < 2; ++time) EXPECT_EQ(doAnswering("menu mnuSave", {}), 0u);
     const std::string game = ReadFile(played.path);
     WriteFile(played.path, others);
-    EXPECT_EQ(doAnswering("menu mnuSave", {Answer::No}), 1u);
+    ASSERT_EQ(doAnswering("menu mnuSave", {Answer::No}), 1u);
     const MessageBox& box = played.dialogs.boxes.front();
     EXPECT_NE(box.Text.find("game.tgf was changed by another program."), box.Text.npos);
     EXPECT_TRUE(box.DeclinedByDefault && box.ForThePerson);
@@ -174,8 +171,6 @@ TEST(MenuCommands, ConvertFile) {
     played.ExpectBoardShown();
 }
 
-// Whatever a person does in a crowd of groups, the board shows where everyone stands, the turn is
-// somebody's, and there is always something left to do; and what was saved comes back.
 TEST(Boxes, AreToldOfAnOpponent) {
     const auto told = [](const char* text, Buttons offered = Buttons::OK) {
         return ToldOfOpponent("Scout", {.Title = {}, .Text = text, .Offered = offered},
@@ -196,44 +191,20 @@ TEST(Boxes, AreToldOfAnOpponent) {
               "Scout rolled a three and lost one character.");
 }
 
+// Whatever a person does in a crowd of groups, the board shows where everyone stands, the turn is
+// somebody's, and there is always something left to do; and what was saved comes back.
 TEST(Events, SurviveAnything) {
-    UniformGenerator chance;
-    const auto below = [&](int n) { return static_cast<int>(chance.Next() * n); };
-    const auto near = [&](int place, int last) {
-        return " " + std::to_string(std::clamp(place + below(3) - 1, 1, last));
-    };
     int gamesEnded = 0, gamesSaved = 0;
-    for (std::uint64_t seed = 1; seed <= 60; ++seed) {
-        chance.Seed(seed);
-        const int scenario = 1 + below(scenarioCount);
-        std::string crowd(NamesOfScenario(scenario).Code);
-        for (const RosterEntry& entry : DataOfScenario(scenario).Roster) {
-            const std::string code(entry.Code.Text()), attack = std::to_string(1 + below(25));
-            if (below(3) > 0) continue;
-            crowd +=
-                " " + code + "@" + std::to_string(8 + below(4)) + near(6, 10).replace(0, 1, ",");
-            if (entry.Side != 0) crowd += " " + code + ".Attack=" + attack;
-        }
-        PlayedGame played(crowd);
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        RandomGame played(1 + static_cast<int>(seed % scenarioCount), seed, 1);
         const GameRecord& record = played.game.record;
         const Controls& controls = played.game.controls;
         for (int event = 0; event < 1500 && !played.game.blnEnded; ++event) {
-            const bool going = record.blnMoveUnderWay;
-            const auto& at = record.People.at(static_cast<std::size_t>(1 + below(peopleCount)));
-            const std::string commands[] = {
-                "click" + near(going ? record.bytGroupX : at.LocationX, columnCount) +
-                    near(going ? record.bytGroupY : at.LocationY, rowCount),
-                "click" + near(record.bytCurrentX, 18) + near(record.bytCurrentY, 10),
-                "press cmdMove",
-                "press cmdAttack",
-                "press cmdDoneSel",
-                "untick" + near(2, checkBoxCount),
-                "tick" + near(2, checkBoxCount),
-                below(20) == 0 || record.blnDetailsMode ? "press cmdSquareDetails" : "click 9 5",
-                below(50) == 0 ? "menu mnuSave" : "press cmdDoneSel"};
-            played.dialogs.queued = {below(4) > 0 ? Answer::Yes : Answer::No, Answer::Yes};
-            played.random.queued = {chance.Next(), chance.Next()};
-            while (!played.Do(commands[below(9)])) continue;
+            const bool looks = played.Below(record.blnDetailsMode ? 3 : 40) == 0;
+            played.QueueAnswersAndDice();
+            played.Do(looks                    ? "press cmdSquareDetails"
+                      : played.Below(400) == 0 ? "menu mnuSave"
+                                               : played.RandomCommand());
             ASSERT_TRUE(record.bytTurn == 1 || record.bytTurn == 2);
             ASSERT_TRUE(played.game.blnEnded || controls.cmdMove.Enabled ||
                         controls.cmdAttack.Enabled || record.blnMoveMode || record.blnDetailsMode ||
