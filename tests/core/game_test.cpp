@@ -1,39 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "core/eight_bit.h"
 #include "core/game_file.h"
-#include "core/game_record.h"
 #include "core/random_numbers.h"
 #include "core/turn_cycle.h"
 #include "support/played_game.h"
 
 namespace qarn {
 namespace {
-
-TEST(GameRecord, ListsThePeopleOfASquare) {
-    GameRecord record;
-    for (const std::size_t i : {4u, 9u, 20u}) {
-        record.People[i] = {{3, 7, 2, 100, 1, 27}, "Band", "G  "};
-    }
-    record.People[20].Side = 0;
-    const SquareList list = LocationOfPeople(record, 3, 7);
-    EXPECT_EQ(list.bytNumberofPeople, 3);
-    EXPECT_EQ(list.bytTotalPeople, 2);
-    EXPECT_EQ(std::vector<std::uint8_t>(list.People().begin(), list.People().end()),
-              (std::vector<std::uint8_t>{4, 9, 20}));
-    EXPECT_EQ(GetPeopleCodes(record, list.People()), std::vector<std::string_view>(3, "G  "));
-    EXPECT_EQ(GetPeopleNames(record, list.People()), std::vector<std::string_view>(3, "Band"));
-    EXPECT_EQ(LocationOfPeople(record, 7, 3).bytNumberofPeople, 0);
-
-    Strength totals{.Mobility = 55, .Attack = 10, .Defense = 0};
-    SumStrength(record, list.People().first(2), totals);  // adds to what is there
-    EXPECT_EQ(totals.Mobility, 255);
-    EXPECT_EQ(totals.Attack, 12);
-    EXPECT_EQ(totals.Defense, 54);
-    EXPECT_THROW(SumStrength(record, list.People().first(1), totals), EightBitOverflow);
-    EXPECT_EQ(totals.Attack, 12);
-    EXPECT_THROW(EightBit(-1, "count"), EightBitOverflow);
-}
 
 TEST(RandomNumbers, AreTheSameEverywhere) {
     UniformGenerator generator;

@@ -77,14 +77,6 @@ TEST_F(GameWindow, ShowsWhatABoxCommentsOnAndTakesEscapeForNo) {
     EXPECT_EQ(Text("lblStatus"), "Select the character which died in the attack.");
 }
 
-TEST_F(GameWindow, SavesWhenItCloses) {
-    Open("Q@9,5 WA@17,2");
-    std::filesystem::remove(path);
-    window->close();
-    EXPECT_TRUE(std::filesystem::exists(path));
-    EXPECT_TRUE(window->ShownGame().blnEnded);
-}
-
 TEST_F(GameWindow, StaysOpenWhenItCanNotSaveAndThePersonWantsIt) {
     Open("Q@9,5 WA@17,2");
     std::filesystem::remove_all(folder.Path());
@@ -95,20 +87,6 @@ TEST_F(GameWindow, StaysOpenWhenItCanNotSaveAndThePersonWantsIt) {
     EXPECT_FALSE(window->ShownGame().blnEnded);
     ClickSquare(9, 5);
     EXPECT_EQ(Text("lblStatus"), "It is Red's turn.");
-}
-
-TEST_F(GameWindow, IsLeftForTheStartWindowWhenConfirmed) {
-    Open("Q@9,5 WA@17,2");
-    AnswerBoxes({Qt::Key_Escape});
-    Key(Qt::Key_N, Qt::ControlModifier);
-    EXPECT_TRUE(window->ShownGame().blnOpen);
-
-    AnswerBoxes({Qt::Key_Return});
-    Key(Qt::Key_O, Qt::ControlModifier);
-    EXPECT_FALSE(window->ShownGame().blnOpen);
-    EXPECT_FALSE(window->ShownGame().blnEnded);
-    EXPECT_TRUE(window->ShownGame().blnLeftByOpen);
-    EXPECT_TRUE(window->isHidden());
 }
 
 TEST_F(GameWindow, ShowsOneAboutWindow) {

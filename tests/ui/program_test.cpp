@@ -136,6 +136,7 @@ TEST_F(WholeProgram, BeginsWithTheStartWindowAndEndsWithAGame) {
     WriteFile(folder / "game.tgf", newGame);
     script.On<FrmGame>([](FrmGame& window) { window.close(); });
     EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+    EXPECT_GT(ReadFile(folder / "game.tgf").size(), newGame.size()) << "it was saved";
     EXPECT_TRUE(script.Done());
 }
 
