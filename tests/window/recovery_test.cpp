@@ -50,6 +50,7 @@ TEST_F(Recovery, GoesOnFromTheLastTurnOrNot) {
 
     Open({Answer::No});
     EXPECT_EQ(Column(), 9);
+    ASSERT_FALSE(played.dialogs.boxes.empty());
     const std::string asked = played.dialogs.boxes.front().Text;
     EXPECT_NE(asked.find("\nLast turn: "), asked.npos) << asked;
     EXPECT_NE(asked.find("\nLast save: "), asked.npos) << asked;
@@ -74,9 +75,11 @@ TEST_F(Recovery, OffersNothingThatIsNoGainOrNoGame) {
     Open({});
     EXPECT_EQ(Column(), 10) << "it was saved as it was kept";
 
+    ASSERT_EQ(Kept(), 1);
     const std::string kept = fs::directory_iterator(state / "qarn/recovery")->path().string();
     WriteFile(kept, "HM\r\nno game");
     Open({Answer::Yes});
+    ASSERT_FALSE(played.dialogs.boxes.empty());
     EXPECT_NE(played.dialogs.boxes.back().Text.find("can not be recovered"), std::string::npos);
     EXPECT_EQ(Column(), 10);
     EXPECT_TRUE(played.game.blnOpen);
@@ -111,7 +114,7 @@ TEST_F(Recovery, IsMarkedInTheStartWindowUntilTheGameIsDeleted) {
     const auto later = fs::last_write_time(played.path) + std::chrono::seconds(1);
     fs::last_write_time(played.folder / "other.tgf", later);
     RefreshFileList(window);
-    EXPECT_EQ(list.List, (std::vector<std::string>{"other.tgf", "game.tgf"}));
+    ASSERT_EQ(list.List, (std::vector<std::string>{"other.tgf", "game.tgf"}));
     EXPECT_TRUE(list.Told[1].ends_with(" Can be recovered.")) << list.Told[1];
     EXPECT_FALSE(list.Told[0].ends_with("recovered.")) << list.Told[0];
     list.ListIndex = 1;
