@@ -1,8 +1,10 @@
 // Plays the game that the pages show in the real window and takes their pictures of it. Needs a
-// display; run with QT_SCALE_FACTOR=2. The pictures are kept with the pages.
+// display, 3400 x 1920 or larger; run with QT_SCALE_FACTOR=2. The pictures are kept with the pages.
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -103,6 +105,10 @@ public:
         if (section == "Offer") return "Made";
         return aids_.contains(section) ? "True" : defaultValue;
     }
+    void Write(const std::string&, const std::string& section, const std::string&,
+               const std::string& value) override {
+        if (value == "True") aids_.insert(section);
+    }
 
 private:
     std::set<std::string> aids_;
@@ -141,6 +147,11 @@ public:
         LetWindowsSettle();
     }
 
+    void Choose(const QString& item) {
+        window_.findChild<QAction*>(item)->trigger();
+        LetWindowsSettle();
+    }
+
     /// The boxes that come up from now on are taken under these names, or not where one is empty.
     void TakeBoxes(std::deque<std::string> names) {
         boxes_ = std::move(names);
@@ -149,6 +160,13 @@ public:
 
     void Take(const std::string& name, const QRect& pixels) {
         Save(folder_, name, window_.centralWidget()->grab(pixels));
+    }
+    /// With room for all that stands in it.
+    void TakeDock(const std::string& name, const QString& dock) {
+        window_.resize(1600, window_.height());
+        window_.resizeDocks({window_.findChild<QDockWidget*>(dock)}, {530}, Qt::Horizontal);
+        LetWindowsSettle();
+        Save(folder_, name, window_.findChild<QWidget*>(dock)->grab());
     }
     void TakeWindow(const std::string& name, int width) {
         Save(folder_, name, window_.grab(), width);
@@ -252,6 +270,19 @@ void TakeAids(const fs::path& folder) {
     plain.Take("patterns", {440, 0, 576, 280});
 }
 
+void TakeDocks(const fs::path& folder) {
+    Photographer photographer(folder, {2, 5});
+    photographer.Choose("mnuJournal");
+    photographer.Choose("mnuRoster");
+    PlayToTheRiver(photographer, false);
+    photographer.TakeBoxes({"", "", ""});
+    photographer.Press("cmdAttack");
+    photographer.Click(12, 8);
+    photographer.Click(12, 9);
+    photographer.TakeDock("journal", "dckJournal");
+    photographer.TakeDock("roster", "dckRoster");
+}
+
 }  // namespace
 }  // namespace qarn
 
@@ -265,5 +296,6 @@ int main(int argc, char* argv[]) {
     qarn::TakeWonGame(argv[1]);
     qarn::TakeLostGame(argv[1]);
     qarn::TakeAids(argv[1]);
+    qarn::TakeDocks(argv[1]);
     return 0;
 }
