@@ -32,7 +32,7 @@ TEST(PlaceClearOf, IsTheNearestPlaceThatHidesNothing) {
         QPoint found;
     };
     for (const Row& row : {Row{middle, {}, {300, 250}}, Row{middle, {status}, {300, 250}},
-                           Row{middle, {status, square, beside}, {300, 360}},
+                           Row{middle, {status, square, beside}, {300, 150}},
                            Row{{300, 400, 400, 280}, {status, square}, {300, 380}},
                            Row{{0, 200, 1000, 150}, {status, square}, {0, 150}},
                            Row{{0, 200, 1000, 700}, {square}, {0, 200}}}) {
