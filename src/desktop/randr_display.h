@@ -5,7 +5,7 @@
 
 #include "shell/shell_ports.h"
 
-struct _XDisplay;
+struct _XDisplay;  // NOLINT(bugprone-reserved-identifier): Xlib has named it so
 
 namespace qarn {
 

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "core/file_mark.h"
 #include "core/file_store.h"
 #include "desktop/glib_owned.h"
 
@@ -43,12 +44,30 @@ std::string StoredKey(const std::string& key) { return key.empty() ? "default" :
 
 }  // namespace
 
+struct SettingsFile::Kept {
+    std::string application;
+    std::optional<FileMark> mark;  // from before it was read
+    GlibKeyFile file;
+};
+
+SettingsFile::SettingsFile() = default;
+SettingsFile::~SettingsFile() = default;
+
+// The start of a game asks for some twenty settings.
+const SettingsFile::Kept& SettingsFile::Load(const std::string& application) {
+    const std::optional<FileMark> mark = MarkOf(FileOf(application).string());
+    if (!kept_ || kept_->application != application || kept_->mark != mark) {
+        kept_.reset(new Kept{application, mark, LoadKeyFile(application)});
+    }
+    return *kept_;
+}
+
 std::string SettingsFile::Read(const std::string& application, const std::string& section,
                                const std::string& key, const std::string& defaultValue) {
     try {
-        const GlibKeyFile file = LoadKeyFile(application);
+        GKeyFile* file = Load(application).file.get();
         const GlibText value(
-            g_key_file_get_string(file.get(), section.c_str(), StoredKey(key).c_str(), nullptr));
+            g_key_file_get_string(file, section.c_str(), StoredKey(key).c_str(), nullptr));
         return value ? value.get() : defaultValue;
     } catch (const std::system_error& error) {
         TellOnce("The settings are passed over: " + Reason(error, FileOf(application)));
