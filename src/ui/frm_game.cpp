@@ -149,6 +149,7 @@ void FrmGame::ShowWidgets() {
         show();
         activateWindow();
         setAttribute(Qt::WA_KeyboardFocusChange);  // shows where the focus is from the start
+        QTimer::singleShot(0, this, [this] { docks_.Show(game_, journal_.Told()); });
     }
     // Where a control loses the focus, the next event mostly comes from the board.
     if (focused != nullptr && (!focused->isEnabled() || focused->isHidden())) board_->setFocus();

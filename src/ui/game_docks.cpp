@@ -22,14 +22,14 @@ void GameDocks::Show(const Game& game, const Journal& journal) {
         QObject::connect(roster_, &RosterDock::SquareWanted, &window_, wishes_.goTo);
         Add(roster_, "mnuRoster");
     }
-    if (journal_ != nullptr) {
-        if (game.view.journal) journal_->Show(journal, game);
-        SetVisible(*journal_, game.view.journal);
-    }
-    if (roster_ != nullptr) {
-        if (game.view.roster) roster_->Show(game.record);
-        SetVisible(*roster_, game.view.roster);
-    }
+    if (window_.isVisible()) Fill(game, journal);
+    if (journal_ != nullptr) SetVisible(*journal_, game.view.journal);
+    if (roster_ != nullptr) SetVisible(*roster_, game.view.roster);
+}
+
+void GameDocks::Fill(const Game& game, const Journal& journal) {
+    if (game.view.journal) journal_->Show(journal, game);
+    if (game.view.roster) roster_->Show(game.record);
 }
 
 // Where it stood last, or else to the right of the board.

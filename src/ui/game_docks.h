@@ -21,7 +21,8 @@ public:
     /// The docks of `window`, which then owns them.
     GameDocks(QMainWindow& window, Wishes wishes);
 
-    /// Shows the docks that the person has chosen, up to date.
+    /// Shows the docks that the person has chosen, up to date. While the window is still hidden
+    /// they stay empty, so that it comes up sooner.
     void Show(const Game& game, const Journal& journal);
 
     /// Where the docks stand, and how wide they are; empty when none has been shown.
@@ -30,6 +31,7 @@ public:
     void PutAt(const QByteArray& places);
 
 private:
+    void Fill(const Game& game, const Journal& journal);
     void Add(SideDock* dock, const char* item);
     void SetVisible(SideDock& dock, bool visible);
     bool GiveBoardRoom(int before, int least);
