@@ -6,10 +6,9 @@
 namespace qarn {
 namespace {
 
-constexpr double largestFont = 0.28;  // by the width of the square
-constexpr double margin = 0.05;       // by the width of the square
-constexpr double gap = 0.3;           // by the size of the font
-constexpr int smallestFont = 5;       // pixels
+constexpr double margin = 0.05;  // by the width of the square
+constexpr double gap = 0.3;      // by the size of the font
+constexpr int smallestFont = 5;  // pixels
 
 using Widths = std::vector<double>;
 using Row = Widths;

@@ -90,7 +90,7 @@ TEST(FileStore, RefusalsLeaveEverythingAsItWas) {
                                       {folder / "link to a pipe", EINVAL},
                                       {folder / "a", ELOOP},
                                       {folder / std::string(300, 'n'), ENAMETOOLONG}}) {
-        EXPECT_EQ(ErrorOf([&] { ReplaceFile(path, "new"); }), error) << path;
+        EXPECT_EQ(ErrorOf([&, &path = path] { ReplaceFile(path, "new"); }), error) << path;
     }
     for (const auto& [ofFile, ofFolder] : {std::pair{0444, 0777}, {0666, 0555}}) {
         fs::permissions(file, fs::perms(ofFile));

@@ -333,7 +333,7 @@ TEST_F(StartWindowTest, AnEventThatFailsLeavesTheWindowAsItWas) {
         {[] { Texts().at(1); }, "Internal error in cmdNew_Click."},
         {[] { throw 1; }, "Internal error in cmdNew_Click."}};
     for (const auto& [fail, told] : rows) {
-        RunEvent(window, "cmdNew_Click", [&](StartWindow& changed) {
+        RunEvent(window, "cmdNew_Click", [&fail = fail](StartWindow& changed) {
             cmdNew_Click(changed);
             changed.strGamePath = "/game.tgf";
             changed.Next = NextWindow::Game;

@@ -92,7 +92,7 @@ TEST_F(DialogsOnScreen, BoxesOfferTheirButtonsAndAnswer) {
         for (const auto& [key, answer] : {std::pair{Qt::Key_Return, row.onEnter},
                                           {Qt::Key_Escape, row.onEscape},
                                           {row.firstKey, row.onFirstKey}}) {
-            script.On<QMessageBox>([&](QMessageBox& box) {
+            script.On<QMessageBox>([&, key = key](QMessageBox& box) {
                 EXPECT_EQ(FactsOf(box), row.facts);
                 QTest::keyClick(&box, key);
             });
@@ -105,7 +105,7 @@ TEST_F(DialogsOnScreen, BoxesOfferTheirButtonsAndAnswer) {
 TEST_F(DialogsOnScreen, ThePromptAsksForALine) {
     const std::string text = "Enter the default filepath for QARN to use.";
     for (const auto& [key, answer] : {std::pair{Qt::Key_Return, "/gamesx"}, {Qt::Key_Escape, ""}}) {
-        script.On<QInputDialog>([&](QInputDialog& prompt) {
+        script.On<QInputDialog>([&, key = key](QInputDialog& prompt) {
             EXPECT_EQ(prompt.windowTitle(), "Default Filepath");
             EXPECT_EQ(prompt.findChild<QLabel*>()->text().toStdString(), text);
             auto* field = prompt.findChild<QLineEdit*>();

@@ -79,7 +79,7 @@ std::string StrengthTable(const fs::path& matches) {
           std::pair{"captain-scout", "Captain against Scout"},
           std::pair{"warlord-captain", "Warlord against Captain"}}) {
         rows += OfRecord(matches / (std::string(file) + ".json"),
-                         [&](const json& record) { return StrengthRow(name, record); });
+                         [&name = name](const json& record) { return StrengthRow(name, record); });
     }
     return Table("numbers", rows);
 }
