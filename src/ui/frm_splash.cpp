@@ -224,8 +224,11 @@ void FrmSplash::ShowScenario() {
     picture_.setPixmap(ScenarioPicture(scenario, pictureSquare, devicePixelRatioF()));
     sides_.setText(ToQt(ToldOfSide(scenario, 1) + '\n' + ToldOfSide(scenario, 2)));
     balance_.setText("Balance: " + ToQt(BalanceOfScenario(scenario)));
+    // With the height that it takes the window grows where it has no room for all of them.
     for (QLabel* label : {&lblScenarioBackground_, &sides_, &balance_}) {
-        label->setFixedWidth(columnCount * pictureSquare);
+        constexpr int width = columnCount * pictureSquare;
+        label->setFixedWidth(width);
+        label->setMinimumHeight(label->heightForWidth(width));
     }
 }
 

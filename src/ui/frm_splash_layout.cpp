@@ -105,10 +105,12 @@ QLayout* FrmSplash::LayLists() {
 }
 
 QLayout* FrmSplash::LayStory() {
+    lblScenarioBackground_.setObjectName("lblScenarioBackground");
     lblScenarioBackground_.setWordWrap(true);
     lblScenarioBackground_.setAlignment(Qt::AlignTop);
     balance_.setObjectName("balance");
     sides_.setObjectName("sides");
+    picture_.setObjectName("picture");
     for (QLabel* label : {&sides_, &balance_}) label->setWordWrap(true);
     picture_.setFixedHeight(rowCount * pictureSquare + 1);
     auto* part = new QVBoxLayout;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTest>
 #include <algorithm>
@@ -252,6 +253,18 @@ TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
     DoubleClickRow("fileLoad", 0);  // the one saved last
     EXPECT_EQ(window.Shown().Next, NextWindow::Game);
     EXPECT_EQ(window.Shown().strGamePath, folder / "d.tgf");
+}
+
+TEST_F(StartWindowOnScreen, TheLongestStoryHasRoomBelowThePicture) {
+    Enter("A");
+    DoubleClickRow("lstScenarios", 1);
+    Alt(Qt::Key_C);       // tells of the opponent, which takes room
+    window.resize(1, 1);  // as small as it can be
+    QApplication::processEvents();
+    const auto* story = static_cast<QLabel*>(Widget("lblScenarioBackground"));
+    EXPECT_GT(story->y(), Widget("picture")->geometry().bottom());
+    EXPECT_GE(story->height(), story->heightForWidth(story->width()));
+    EXPECT_GT(Widget("sides")->y(), story->geometry().bottom());
 }
 
 TEST_F(StartWindowOnScreen, EscapeAndTheCloseBoxEndTheProgram) {
