@@ -86,7 +86,7 @@ void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box
 }
 
 void NoteNoMove(Journal& journal, const GameRecord& record) {
-    const Said said{record.strPlayerName.at(record.bytTurn) + " found no move."};
+    const Said said{ToldOfNoMove(record.strPlayerName.at(record.bytTurn))};
     if (!journal.entries.empty() && journal.entries.back() == JournalEntry(said)) return;
     journal.entries.emplace_back(said);
 }

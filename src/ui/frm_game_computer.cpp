@@ -154,7 +154,7 @@ void FrmGame::ShowNoMove() {
         for (const char* name : {"mnuScout%1", "mnuCaptain%1", "mnuWarlord%1"}) {
             others << findChild<QAction*>(QString(name).arg(side));
         }
-        strip.Tell(ToQt(game_.record.strPlayerName.at(side)), others);
+        strip.Tell(game_.record.strPlayerName.at(side), others);
     } else if (strip.isAncestorOf(focusWidget())) {
         board_->setFocus();
     }

@@ -4,6 +4,8 @@
 
 #include "ui/design.h"
 #include "ui/note_look.h"
+#include "ui/text.h"
+#include "window/told_of_opponent.h"
 
 namespace qarn {
 
@@ -25,10 +27,10 @@ NoMoveStrip::NoMoveStrip(ScaledArea* area) : QFrame(area) {
     hide();
 }
 
-void NoMoveStrip::Tell(const QString& player, const QList<QAction*>& opponents) {
+void NoMoveStrip::Tell(const std::string& player, const QList<QAction*>& opponents) {
     cmdOther_.menu()->clear();
     cmdOther_.menu()->addActions(opponents);
-    text_.Tell(player + " found no move.\nMove for it, or:");
+    text_.Tell(ToQt(ToldOfNoMove(player)) + "\nMove for it, or:");
 }
 
 }  // namespace qarn

@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QList>
 #include <QPushButton>
+#include <string>
 
 #include "ui/scaled_area.h"
 #include "ui/status_line.h"
@@ -20,7 +21,7 @@ public:
     explicit NoMoveStrip(ScaledArea* area);
 
     /// Says of whom plays the side, and offers to choose one of these opponents for it.
-    void Tell(const QString& player, const QList<QAction*>& opponents);
+    void Tell(const std::string& player, const QList<QAction*>& opponents);
 
 signals:
     /// The turn is to be passed.

@@ -33,4 +33,6 @@ std::string ToldOfOpponent(const std::string& name, const MessageBox& box, Answe
     return text;
 }
 
+std::string ToldOfNoMove(const std::string& name) { return name + " found no move."; }
+
 }  // namespace qarn

@@ -10,4 +10,7 @@ namespace qarn {
 /// behind a question.
 std::string ToldOfOpponent(const std::string& name, const MessageBox& box, Answer answer);
 
+/// That the computer, by its player's name, has found no move.
+std::string ToldOfNoMove(const std::string& name);
+
 }  // namespace qarn
