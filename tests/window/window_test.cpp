@@ -35,12 +35,17 @@ TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
     EXPECT_EQ(played.game.controls.lblStatus.Caption, "It is Red's turn.");
     played.Open();
     EXPECT_EQ(played.game.record.house, (HouseRules{true, true}));
-    EXPECT_EQ(played.game.controls.lblStatus.Caption,
-              "It is Red's turn.\nHouse rules: own groups only, one turn for a burning.");
+    const std::string both =
+        "It is Red's turn.\nHouse rules: own groups only, one turn for a burning.";
+    EXPECT_EQ(played.game.controls.lblStatus.Caption, both);
     EXPECT_TRUE(played.Do("press cmdSquareDetails") && played.Do("menu mnuOneTurnForABurning") &&
                 played.Do("press cmdSquareDetails"));
-    EXPECT_EQ(played.game.controls.lblStatus.Caption,
-              "It is Red's turn.\nHouse rules: own groups only.");
+    const std::string one = "It is Red's turn.\nHouse rules: own groups only.";
+    EXPECT_EQ(played.game.controls.lblStatus.Caption, one);
+    for (const auto& told : {both, one}) {
+        EXPECT_TRUE(played.Do("menu mnuOneTurnForABurning"));
+        EXPECT_EQ(played.game.controls.lblStatus.Caption, told);
+    }
     played.settings.writeError = "No space left on device";
     EXPECT_TRUE(played.Do("menu mnuOwnGroupsOnly"));
     EXPECT_EQ(played.dialogs.boxes.back().Text,
