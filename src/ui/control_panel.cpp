@@ -20,7 +20,7 @@ constexpr double titleFont = 1.1;  // by the size of the other fonts
 // The button that has the least room for its caption, in pixels of the design. Its letters may move
 // together a little.
 constexpr auto widestCaption = "Square Information";
-constexpr double captionRoom = cmdSquareDetailsTwips.width() / twipsPerPixel - 6;
+constexpr int captionRoom = cmdSquareDetailsTwips.width() / twipsPerPixel - 6;
 constexpr double tightestSpacing = 0.92;
 
 void ShowButton(QPushButton* widget, const Button& button, bool usable = true) {

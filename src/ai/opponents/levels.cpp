@@ -23,8 +23,9 @@ std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed
     Search search(position, learnedWeights, thinking);
     const std::vector<RatedTurn> turns = search.RateTurns();
     if (chance.Next() >= errs) return PlanOf(position, turns.front().turn);
-    const auto half = static_cast<double>((turns.size() + 1) / 2);
-    return PlanOf(position, turns[static_cast<std::size_t>(chance.Next() * half)].turn);
+    const std::size_t half = (turns.size() + 1) / 2;
+    const auto drawn = static_cast<std::size_t>(chance.Next() * static_cast<double>(half));
+    return PlanOf(position, turns[drawn].turn);
 }
 
 std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t, Thinking& thinking) {
