@@ -80,17 +80,18 @@ void SelfPlay(benchmark::State& state) {
 
 // What an opponent takes to choose the first turn of either side.
 void Choices(benchmark::State& state, const Opponent& opponent) {
-    Thinking thinking;
+    double positions = 0;
     double choices = 0;
     for (auto _ : state) {
         for (const std::uint8_t side : {std::uint8_t{1}, std::uint8_t{2}}) {
             Position start = StartOf(7);
             start.bytTurn = side;
+            Thinking thinking;
             benchmark::DoNotOptimize(opponent.choose(start, 1, thinking));
+            positions += static_cast<double>(thinking.positions);
             ++choices;
         }
     }
-    const auto positions = static_cast<double>(thinking.positions);
     state.counters["choices"] = benchmark::Counter(choices, benchmark::Counter::kIsRate);
     state.counters["positions"] = benchmark::Counter(positions, benchmark::Counter::kIsRate);
 }
