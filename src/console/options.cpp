@@ -31,7 +31,7 @@ public:
     bool Empty() const { return rest_.empty(); }
 
     std::string Take() {
-        std::string argument = rest_.front();
+        const std::string argument = rest_.front();
         rest_ = rest_.subspan(1);
         return argument;
     }

@@ -142,8 +142,8 @@ private:
 
     // Nobody need stand on a landmark that is attacked.
     std::string WhatIsAttacked(const Fight& fight) const {
-        std::string place = std::string(game_.controls.lblTerrKey.at(fight.terrain).Caption) + " " +
-                            TextOf(fight.attack.to);
+        const std::string place = std::string(game_.controls.lblTerrKey.at(fight.terrain).Caption) +
+                                  " " + TextOf(fight.attack.to);
         if (fight.defenders.Empty()) return place;
         return NamesOf(fight.defenders) + " on " + place;
     }
