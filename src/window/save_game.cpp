@@ -47,12 +47,15 @@ bool AgreesToReplace(Game& game) {
 void Save(Game& game, bool (*mayReplaceChanged)(Game&)) {
     if (!IsKnownScenario(game.record)) return;
     const std::string text = GameText(game.record);
+    bool mayReplace = false;
     try {
-        const bool replaced = ReplaceFile(game.record.strGamePath, text, [&] {
-            return !IsChangedElsewhere(game) || mayReplaceChanged(game);
+        ReplaceFile(game.record.strGamePath, text, [&] {
+            return mayReplace = !IsChangedElsewhere(game) || mayReplaceChanged(game);
         });
-        if (!replaced) throw ChangedElsewhere();
+        if (!mayReplace) throw ChangedElsewhere();
     } catch (const std::system_error& error) {
+        // When only the folder could not be flushed, the new file is there already.
+        if (mayReplace) NoteGameFile(game);
         throw SaveError(error.code().message() + ".");
     }
     NoteGameFile(game);

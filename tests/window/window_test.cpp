@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "scenarios/catalogue.h"
+#include "support/failing_calls.h"
 #include "support/random_game.h"
 #include "support/sequence.h"
 #include "window/hint_mark.h"
@@ -150,6 +151,17 @@ TEST(SaveGame, AsksBeforeItReplacesWhatAnotherProgramHasWritten) {
     RunEvent(played.game, "Form_Unload", CloseWithoutBoxes);
     EXPECT_EQ(played.game.exitStatus, 1);
     EXPECT_EQ(ReadFile(played.folder / "other.tgf"), others);
+}
+
+TEST(SaveGame, TakesItsOwnFileForNobodyElses) {
+    PlayedGame played("Q@9,10 Z@1,1");
+    {
+        const FailingCalls failing(Fault{0, true, Fault::Fails, EIO, "flush folder"});
+        played.Do("menu mnuSave");
+    }
+    ASSERT_EQ(played.dialogs.boxes.size(), 1u) << "the flush failed";
+    played.Do("menu mnuSave");
+    EXPECT_EQ(played.dialogs.boxes.size(), 1u);
 }
 
 TEST(MenuCommands, ConvertFile) {
