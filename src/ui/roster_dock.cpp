@@ -9,7 +9,8 @@
 namespace qarn {
 namespace {
 
-enum Column { Code, Name, Place, Owner, Mobility, Attack, Defense, columnsOfRoster };
+// What a glance is for stands first, where a narrow list shows it.
+enum Column { Code, Mobility, Attack, Defense, Place, Name, Owner, columnsOfRoster };
 
 constexpr int sortRole = Qt::UserRole;
 constexpr int squareRole = Qt::UserRole + 1;
@@ -66,8 +67,8 @@ RosterDock::RosterDock() : SideDock("dckRoster", "Roster", new QTreeWidget) {
     list_->setUniformRowHeights(true);
     list_->setAlternatingRowColors(true);
     list_->setAllColumnsShowFocus(true);
-    list_->setHeaderLabels({"Code", "Name", "Place", "Side", "Mob.", "Att.", "Def."});
-    const char* const whole[] = {"Code", "Name", "Place", "Side", "Mobility", "Attack", "Defense"};
+    list_->setHeaderLabels({"Code", "Mob.", "Att.", "Def.", "Place", "Name", "Side"});
+    const char* const whole[] = {"Code", "Mobility", "Attack", "Defense", "Place", "Name", "Side"};
     for (int column = 0; column < columnsOfRoster; ++column) {
         list_->headerItem()->setToolTip(column, whole[column]);
     }

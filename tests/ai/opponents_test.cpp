@@ -181,6 +181,15 @@ TEST(Levels, TakeAWinThatIsThere) {
     }
 }
 
+// One who stands still in full squares and with a single beside them is hunted down.
+TEST(Levels, GatherAndHuntThoseWhoStandStill) {
+    const Chooser idle = [](const Position&, std::uint64_t, Thinking&) -> std::optional<Plan> {
+        return {};
+    };
+    const Position start = StartOf(ScenarioNumber("SB"));
+    EXPECT_EQ(PlayMatchGame(start, {nullptr, idle, ChooseCaptainTurn}, 1, 60).winner, 2);
+}
+
 // ---- Hints ----
 
 std::string HintIn(const std::string& position, Plan plan) {

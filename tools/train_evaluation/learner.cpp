@@ -32,7 +32,7 @@ Learner::Learner(std::uint64_t seed) {
     for (auto& row : weights_.toHidden) {
         for (float& weight : row) weight = static_cast<float>(chance.Next() - 0.5) / 4;
     }
-    weights_.past[balanceFeature] = 1;
+    weights_.past[balanceFeature] = aheadCounts;
     for (float& weight : weights_.fromHidden) weight = static_cast<float>(chance.Next() - 0.5) / 4;
 }
 

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ai/classic/classic_choice.h"
 #include "ai/opponents/search.h"
 #include "ai/starting_position.h"
 #include "core/random_numbers.h"
 #include "rules/questions/odds.h"
+#include "rules/questions/turn.h"
 
 namespace qarn {
 namespace {
@@ -16,29 +18,16 @@ constexpr int mostIdleTurns = 80;  // without a loss; then the game is held to b
 constexpr float lambda = 0.8F;
 constexpr float keepsATurn = 0.98F;  // of what is still to be won or lost: sooner is better
 constexpr double explores = 0.02;
-constexpr float temperature = 0.004F;
-constexpr int mostScattered = 60;  // turns
+constexpr float temperature = 0.008F;
+constexpr int mostScattered = 60;       // turns
+constexpr double againstClassic = 0.4;  // of the games: one who stands still teaches to gather
 
 struct Seen {
     Features features;
     std::uint8_t side;
-    float value;  // to side 1
-    float share;  // of side 1 in the strengths left
+    float value;     // to side 1
+    float standing;  // what the strengths left are worth to side 1
 };
-
-int StrengthOfSide(const Position& position, std::uint8_t side) {
-    int sum = 0;
-    for (const Group& one : position.People) {
-        if (OnBoard(one) && one.Side == side) sum += one.Attack + one.Defense;
-    }
-    return sum;
-}
-
-// The share of side 1.
-float ShareOfStrength(const Position& position) {
-    const auto first = static_cast<float>(StrengthOfSide(position, 1));
-    return first / (first + static_cast<float>(StrengthOfSide(position, 2)));
-}
 
 std::vector<Lesson> LessonsOf(const std::vector<Seen>& game, float result) {
     std::vector<Lesson> lessons(game.size());
@@ -47,7 +36,7 @@ std::vector<Lesson> LessonsOf(const std::vector<Seen>& game, float result) {
         const Seen& seen = game[k];
         lessons[k] = {seen.features, seen.side == 1 ? known : 1 - known};
         known = lambda * known + (1 - lambda) * seen.value;
-        known = seen.share + keepsATurn * (known - seen.share);
+        known = seen.standing + keepsATurn * (known - seen.standing);
     }
     return lessons;
 }
@@ -59,6 +48,7 @@ public:
         chance_.Seed(seed);
         position_.bytTurn = chance_.Next() < 0.5 ? 1 : 2;
         if (chance_.Next() < 0.5) Scatter();
+        if (chance_.Next() < againstClassic) classicSide_ = chance_.Next() < 0.5 ? 1 : 2;
     }
 
     std::vector<Lesson> Play() {
@@ -68,7 +58,8 @@ public:
             if (outcome.winner != 0) return LessonsOf(seen_, outcome.winner == 1 ? 1.0F : 0.0F);
             if (!outcome.lost.Empty()) idle = 0;
         }
-        return LessonsOf(seen_, ShareOfStrength(position_));
+        const Armies armies(position_, DistancesFor(position_));
+        return LessonsOf(seen_, WorthOfBalance(BalanceOf(armies, 1)));
     }
 
 private:
@@ -76,11 +67,12 @@ private:
 
     void See() {
         const Distances& distances = DistancesFor(position_);
-        const Features features =
-            FeaturesOf(Armies(position_, distances), position_.bytTurn, distances);
+        const Armies armies(position_, distances);
+        const std::uint8_t side = position_.bytTurn;
+        const Features features = FeaturesOf(armies, side, distances);
         const float value = Activate(features, weights_).value;
-        seen_.push_back({features, position_.bytTurn, position_.bytTurn == 1 ? value : 1 - value,
-                         ShareOfStrength(position_)});
+        seen_.push_back(
+            {features, side, side == 1 ? value : 1 - value, WorthOfBalance(BalanceOf(armies, 1))});
     }
 
     // Both sides march about at random.
@@ -115,6 +107,10 @@ private:
 
     Plan Choose() {
         Thinking thinking;
+        if (position_.bytTurn == classicSide_) {
+            const std::optional<Plan> plan = ChooseClassicMove(position_, 0, thinking);
+            return AllowedPart(position_, plan.value_or(Plan{}));
+        }
         Search search(position_, weights_, thinking);
         const std::vector<RatedTurn> turns = search.RateTurns();
         const std::size_t which = chance_.Next() < explores ? Below(turns.size()) : AnyGood(turns);
@@ -124,6 +120,7 @@ private:
     Position position_;
     const Weights& weights_;
     UniformGenerator chance_;
+    std::uint8_t classicSide_ = 0;  // 0: both learn
     std::vector<Seen> seen_;
 };
 

@@ -12,7 +12,7 @@ float Softsign(float x) { return x / (1 + std::abs(x)); }
 
 }  // namespace
 
-float ShareOf(float balance) { return (1 + Softsign(balance)) / 2; }
+float WorthOfBalance(float balance) { return (1 + Softsign(aheadCounts * balance)) / 2; }
 
 Activation Activate(const Features& features, const Weights& weights) {
     Activation activation{.hidden = weights.hiddenBias, .sum = weights.bias};

@@ -30,8 +30,12 @@ struct Activation {
 /// same position has the same value, to the last bit, on every machine.
 Activation Activate(const Features& features, const Weights& weights);
 
-/// The share in the strengths of both sides that a balance of strengths stands for.
-float ShareOf(float balance);
+/// How much more it counts to be ahead in strengths than by how much.
+inline constexpr float aheadCounts = 3;
+
+/// What a balance of strengths is worth, 0 to 1: for a small balance the share in the strengths of
+/// both sides, its distance from a half made `aheadCounts` times as large.
+float WorthOfBalance(float balance);
 
 /// How likely the side to move is to win a position, 0 to 1.
 float Evaluate(const Position& position, const Distances& distances, const Weights& weights);

@@ -43,8 +43,7 @@ enum Feature : std::size_t {
 inline constexpr std::size_t balanceFeature = 2 * featureCount;
 
 /// The features of the side to move first, then those of the other, each about 0 to 1; and the
-/// balance of their strengths, 0 when they are equal, which the S-curve of the evaluation turns
-/// into the share of the side to move.
+/// balance of their strengths, 0 when they are equal.
 using Features = std::array<float, 2 * featureCount + 1>;
 
 /// The balance of strengths, as the side sees it.

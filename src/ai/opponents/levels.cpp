@@ -6,7 +6,7 @@
 namespace qarn {
 namespace {
 
-constexpr double errs = 1.0 / 8;
+constexpr double errs = 1.0 / 4;
 constexpr SearchLimits captainsLimits{
     .stages = {{{.turns = 16, .plies = 3}}}, .replies = 4, .positions = 100'000};
 constexpr SearchLimits warlordsLimits{

@@ -4,7 +4,7 @@
 
 namespace qarn {
 
-/// Sees one turn ahead, and errs now and then as a beginner does: in one turn of eight it takes any
+/// Sees one turn ahead, and errs now and then as a beginner does: in one turn of four it takes any
 /// of the better half.
 std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed,
                                     Thinking& thinking);

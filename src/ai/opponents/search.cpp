@@ -24,6 +24,10 @@ constexpr float haste = 0.4F;
 // ways to win the same the sooner one is better.
 constexpr float hasteEachTurn = 0.05F;
 
+// How likely the opponent is held to be to let an answer pass. Without it a search gives up
+// whatever a watchful enemy could evade, and goes after nobody.
+constexpr float passes = 0.3F;
+
 constexpr Dice losing{.roll = dieSides};
 constexpr Dice winningAtACost{.roll = 1, .secondRoll = rollThatCosts};
 
@@ -62,7 +66,7 @@ float Search::StaticValue(const Node& node) {
     ++thinking_.positions;
     const Features features = FeaturesOf(node.armies, node.Side(), distances_);
     const float value = Activate(features, weights_).value;
-    return value + haste * (ShareOf(features[balanceFeature]) - value);
+    return value + haste * (WorthOfBalance(features[balanceFeature]) - value);
 }
 
 // What a node is worth to a side, which need not be the one to move in it. `valueOf` gives the
@@ -156,10 +160,21 @@ float Search::BestReply(const Node& node, Window window) {
 
 // What a node is worth to the side to move when both sides take so many turns more.
 float Search::Value(const Node& node, int plies, Window window) {
-    const float now = hasteEachTurn * ShareOf(BalanceOf(node.armies, node.Side()));
+    const float now = hasteEachTurn * WorthOfBalance(BalanceOf(node.armies, node.Side()));
     constexpr float then = 1 - hasteEachTurn;
     const Window later{(window.low - now) / then, (window.high - now) / then};
-    return now + then * (plies == 1 ? BestReply(node, later) : BestTurn(node, plies, later));
+    return now + then * (plies == 1 ? BestReply(node, later) : LikelyTurn(node, plies, later));
+}
+
+// The same when it may take its best turn or, as the opponent is held to do at times, pass.
+float Search::LikelyTurn(const Node& node, int plies, Window window) {
+    if (node.Side() == root_.Side()) return BestTurn(node, plies, window);
+    Turn pass;
+    const auto then = [&](const Node& after, Window w) { return Value(after, plies - 1, w); };
+    const float passed = passes * Expect(node, pass, {}, then);
+    constexpr float rest = 1 - passes;
+    const Window answered{(window.low - passed) / rest, (window.high - passed) / rest};
+    return passed + rest * BestTurn(node, plies, answered);
 }
 
 float Search::BestTurn(const Node& node, int plies, Window window) {

@@ -56,6 +56,7 @@ private:
     float StaticValue(const Node& node);
     std::vector<RatedTurn> Deepen(const std::vector<RatedTurn>& turns, int plies, std::size_t kept);
     float Value(const Node& node, int plies, Window window);
+    float LikelyTurn(const Node& node, int plies, Window window);
     float BestTurn(const Node& node, int plies, Window window);
     float BestReply(const Node& node, Window window);
     bool IsOver() const;
