@@ -72,6 +72,9 @@ RosterDock::RosterDock() : SideDock("dckRoster", "Roster", new QTreeWidget) {
     for (int column = 0; column < columnsOfRoster; ++column) {
         list_->headerItem()->setToolTip(column, whole[column]);
     }
+    for (const Column number : {Mobility, Attack, Defense}) {
+        list_->headerItem()->setTextAlignment(number, Qt::AlignRight | Qt::AlignVCenter);
+    }
     list_->header()->setStretchLastSection(false);
     list_->setSortingEnabled(true);
     list_->sortByColumn(Owner, Qt::AscendingOrder);
