@@ -33,7 +33,8 @@ struct SearchLimits {
 /// attackers' casualty is the one that serves them best. The result depends on the position, the
 /// weights and the limits alone, unless it is told to decide now. (Expectiminimax with the bounds
 /// of Ballard's Star1, "The *-minimax search procedure for trees containing chance nodes", 1983;
-/// the turns ordered and cut off by their value one ply ahead.)
+/// the turns ordered and cut off by their value one ply ahead. The opponent takes its best answer
+/// or, at times, passes: Donkers and others, "Probabilistic opponent-model search", 2001.)
 class Search {
 public:
     /// Counts the positions in `thinking`.
