@@ -16,7 +16,7 @@ struct Weights {
     float bias = 0;
 };
 
-/// The weights that were learned by self-play (see weights.h, which tells the command).
+/// The weights that were learned by practice (see weights.h, which tells the command).
 extern const Weights learnedWeights;
 
 /// What goes on in the network on the way to its answer.
