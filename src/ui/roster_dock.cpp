@@ -78,6 +78,8 @@ RosterDock::RosterDock() : SideDock("dckRoster", "Roster", new QTreeWidget) {
     list_->header()->setStretchLastSection(false);
     list_->setSortingEnabled(true);
     list_->sortByColumn(Owner, Qt::AscendingOrder);
+    connect(list_->header(), &QHeaderView::sortIndicatorChanged, list_,
+            &QTreeWidget::resizeColumnToContents);
     connect(list_, &QTreeWidget::itemClicked, this, &RosterDock::GoTo);
     connect(list_, &QTreeWidget::itemActivated, this, &RosterDock::GoTo);
 }
@@ -98,11 +100,15 @@ void RosterDock::Show(const GameRecord& record) {
         ShowPlace(item, people);
     }
     list_->setSortingEnabled(true);
-    if (first) {
-        for (int column = 0; column < columnsOfRoster; ++column) {
-            list_->resizeColumnToContents(column);
-        }
-    }
+    if (first) FitColumns();
+}
+
+// Only the sorted column has room for the mark of the order: a narrow list shows the places too.
+void RosterDock::FitColumns() {
+    list_->header()->setSortIndicatorShown(false);
+    for (int column = 0; column < columnsOfRoster; ++column) list_->resizeColumnToContents(column);
+    list_->header()->setSortIndicatorShown(true);
+    list_->resizeColumnToContents(list_->sortColumn());
 }
 
 void RosterDock::GoTo(const QTreeWidgetItem* item) {

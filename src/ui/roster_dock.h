@@ -23,6 +23,7 @@ signals:
     void SquareWanted(QPoint square);
 
 private:
+    void FitColumns();
     void GoTo(const QTreeWidgetItem* item);
 
     QTreeWidget* list_;

@@ -80,8 +80,8 @@ TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
     EXPECT_EQ(Column(6).find("Red Nobody Blue Red "), 0u);
     Roster()->sortByColumn(2, Qt::DescendingOrder);
     EXPECT_EQ(Column(2).find("8 8 7 7 6 5 "), 0u);
-    const int strengths = Roster()->columnViewportPosition(3) + Roster()->columnWidth(3);
-    EXPECT_LE(strengths, Roster()->viewport()->width());  // seen without scrolling
+    const int place = Roster()->columnViewportPosition(4) + Roster()->columnWidth(4);
+    EXPECT_LE(place, Roster()->viewport()->width());  // seen without scrolling
 
     ClickRow("LS");
     EXPECT_EQ(board->Cursor(), QPoint(12, 10));
