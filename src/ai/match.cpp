@@ -1,5 +1,9 @@
 #include "ai/match.h"
 
+#include <atomic>
+#include <future>
+#include <thread>
+
 #include "ai/starting_position.h"
 
 namespace qarn {
@@ -26,6 +30,20 @@ void PlayPair(const MatchPlan& plan, const Position& start, std::uint64_t seed, 
     tally.scores.Add((first.Score(1) + second.Score(2)) / 2);
     tally.judged.Add((first.JudgedScore(1) + second.JudgedScore(2)) / 2);
     tally.firstSide.Add((first.JudgedScore(1) + second.JudgedScore(1)) / 2);
+}
+
+// One pair in each scenario, on all cores.
+void PlayRound(const MatchPlan& plan, const std::vector<Position>& starts, std::uint64_t seed,
+               MatchResult& result) {
+    std::atomic<std::size_t> next = 0;
+    const auto play = [&] {
+        for (std::size_t k = next++; k < starts.size(); k = next++) {
+            PlayPair(plan, starts[k], seed, result.scenarios[k]);
+        }
+    };
+    std::vector<std::future<void>> workers(std::max(1U, std::thread::hardware_concurrency()));
+    for (std::future<void>& worker : workers) worker = std::async(std::launch::async, play);
+    for (std::future<void>& worker : workers) worker.get();
 }
 
 PairScores JudgedOfAll(const MatchResult& result) {
@@ -59,10 +77,7 @@ MatchResult PlayMatch(const MatchPlan& plan, const std::function<void(long)>& pr
     for (const int scenario : plan.scenarios) starts.push_back(StartOf(scenario));
     MatchResult result{.scenarios = std::vector<MatchTally>(starts.size()), .all = {}};
     for (long pair = 0; pair < plan.pairs; ++pair) {
-        const std::uint64_t seed = plan.seed + static_cast<std::uint64_t>(pair);
-        for (std::size_t k = 0; k < starts.size(); ++k) {
-            PlayPair(plan, starts[k], seed, result.scenarios[k]);
-        }
+        PlayRound(plan, starts, plan.seed + static_cast<std::uint64_t>(pair), result);
         progress(pair + 1);
         if (plan.stopsEarly && IsDecided(result)) break;
     }

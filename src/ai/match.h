@@ -44,7 +44,8 @@ struct MatchResult {
     MatchTally all;
 };
 
-/// Plays two games with each seed in each scenario, A on side 1 first and then on side 2. The
+/// Plays two games with each seed in each scenario, A on side 1 first and then on side 2, the
+/// scenarios on all cores at once, so that the choosers must not share what they change. The
 /// scenarios take turns, so that a match that stops early has played all of them alike; the
 /// sequential test looks at the judged scores of all. Calls `progress` with the number of pairs
 /// played in each scenario. The same plan gives the same result everywhere, the times aside.
