@@ -73,6 +73,9 @@ FrmGame::FrmGame(RandomNumbers& random, const DesktopPorts& desktop)
     RestoreDockPlaces(docks_, desktop.settings);
 }
 
+// Its widgets tell it that they lose the focus, while all that it does then is still there.
+FrmGame::~FrmGame() { hide(); }
+
 void FrmGame::Open(const std::string& strGamePath) {
     Run("Form_Load", [&](Game& game) {
         game.opponent = KeptOpponents(game.ports, strGamePath);

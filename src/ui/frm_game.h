@@ -33,6 +33,7 @@ class FrmGame : public QMainWindow {
 public:
     /// `random` and the ports of `desktop` outlive the window.
     FrmGame(RandomNumbers& random, const DesktopPorts& desktop);
+    ~FrmGame() override;
 
     /// Opens a game file and shows the window. The game has ended when it could not be opened.
     void Open(const std::string& strGamePath);
