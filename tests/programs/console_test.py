@@ -321,7 +321,11 @@ class ConsoleTest(unittest.TestCase):
         def limit():
             resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))
 
-        [refused] = self.play(NEW, preexec_fn=limit)
+        # Counts of lines, cut off as well, go elsewhere than those of all other runs.
+        elsewhere = tempfile.TemporaryDirectory()
+        self.addCleanup(elsewhere.cleanup)
+        counts = {"GCOV_PREFIX": elsewhere.name, "GCOV_ERROR_FILE": "/dev/null"}
+        [refused] = self.play(NEW, preexec_fn=limit, env={**os.environ, **counts})
         self.assertIn("File too large.", refused["boxes"][0]["text"])
         self.assertEqual(os.listdir(self.folder), [])
 
