@@ -80,6 +80,18 @@ TEST(MatchCommand, PrintsALineForEachScenarioAndForAll) {
     EXPECT_NE(progress.str().find("\rmatch: 50 % played"), std::string::npos) << progress.str();
 }
 
+TEST(MatchCommand, EndsEarlyWithAVerdict) {
+    const auto verdict = [](const std::string& players) {
+        const std::string text =
+            Output("--match " + players + " --scenario ER --games 60 --sprt --json", nullptr);
+        const nlohmann::json object = nlohmann::json::parse(text);
+        EXPECT_LT(object["all"]["games"], 120);
+        return object["sprt"]["verdict"];
+    };
+    EXPECT_EQ(verdict("scout random"), "scout is better");
+    EXPECT_EQ(verdict("random scout"), "random is not better");
+}
+
 TEST(MatchCommand, PrintsOneJsonObject) {
     const std::string text = Output("--match classic random --games 2 --turns 7 --json", nullptr);
     const nlohmann::json object = nlohmann::json::parse(text);

@@ -39,6 +39,9 @@ TEST_F(Docks, JournalGrowsWithTheGame) {
     ClickSquare(12, 10);
     Button("cmdDoneSel")->click();
     ClickSquare(11, 10);
+    MenuItem("mnuTakeBack")->trigger();
+    EXPECT_EQ(JournalText(), "Turn 1: Red");
+    ClickSquare(11, 10);
     random.QueueRoll(1);
     random.QueueRoll(1);
     AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});

@@ -35,6 +35,9 @@ TEST_F(GameWindow, TellsScreenReadersEverySquare) {
     EXPECT_EQ(accessible->childAt(square->rect().center().x(), square->rect().center().y()),
               square);
     EXPECT_EQ(accessible->focusChild(), square);
+    EXPECT_EQ(square->parent(), accessible);
+    EXPECT_EQ(square->role(), QAccessible::PushButton);
+    EXPECT_TRUE(square->state().focused && !accessible->child(0)->state().focused);
     Key(Qt::Key_Right);
     EXPECT_EQ(accessible->focusChild()->text(QAccessible::Name), "(10, 5) Mountain");
 
