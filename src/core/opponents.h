@@ -20,10 +20,11 @@ inline constexpr std::array opponentChoices{
                    "its questions."},
     OpponentChoice{"scout", "&Scout",
                    "Sees one turn ahead, and errs now and then as a beginner does."},
-    OpponentChoice{"captain", "Ca&ptain",
-                   "Sees your best answers to its better turns, and its next turn after them."},
+    OpponentChoice{
+        "captain", "Ca&ptain",
+        "Sees your best answers to its better turns, and reckons that you miss half of them."},
     OpponentChoice{"warlord", "&Warlord",
-                   "Looks at more turns than Captain, and two turns further, and takes its time."},
+                   "Looks at more turns than Captain, and a turn further, and takes its time."},
 };
 
 inline constexpr std::string_view classicOpponent = opponentChoices.front().Name;

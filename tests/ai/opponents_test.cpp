@@ -154,20 +154,17 @@ TEST(Levels, PlanOnlyWhatTheRulesAllow) {
     }
 }
 
-// The first turns of a game have thousands of positions to look at.
-TEST(Levels, DecideWhenTheyAreTold) {
+TEST(Levels, WarlordDecidesWhenItIsTold) {
     Position start = StartOf(1);
     start.bytTurn = 1;
     std::stop_source told;
     told.request_stop();
-    for (const Chooser choose : {ChooseCaptainTurn, ChooseWarlordTurn}) {
-        Thinking whole;
-        choose(start, 1, whole);
-        Thinking cut{.decideNow = told.get_token()};
-        const std::optional<Plan> plan = choose(start, 1, cut);
-        EXPECT_EQ(AllowedPart(start, *plan), *plan);
-        EXPECT_LT(cut.positions, whole.positions / 4);
-    }
+    Thinking whole;
+    ChooseWarlordTurn(start, 1, whole);
+    Thinking cut{.decideNow = told.get_token()};
+    const std::optional<Plan> plan = ChooseWarlordTurn(start, 1, cut);
+    EXPECT_EQ(AllowedPart(start, *plan), *plan);
+    EXPECT_LT(cut.positions, whole.positions / 4);
 }
 
 // Treetop Squirrels and Slaves, 16 attack units, beat the Corsair, 3 defense units, for certain,

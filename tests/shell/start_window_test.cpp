@@ -137,7 +137,8 @@ TEST_F(StartWindowTest, TheWizardAsksWhoPlaysForTheComputer) {
     controls.cboOpponent.ListIndex = 2;
     cboOpponent_Click(window);
     EXPECT_EQ(controls.lblOpponent.Caption,
-              "Sees your best answers to its better turns, and its next turn after them.");
+              "Sees your best answers to its better turns, and reckons that you miss half of "
+              "them.");
     tick(false);
     EXPECT_FALSE(controls.cboOpponent.Visible || controls.lblOpponent.Visible);
     tick(true);

@@ -7,12 +7,9 @@ namespace qarn {
 namespace {
 
 constexpr double errs = 1.0 / 4;
-constexpr SearchLimits captainsLimits{
-    .stages = {{{.turns = 16, .plies = 3}}}, .replies = 4, .positions = 100'000};
+constexpr SearchLimits captainsLimits{.plies = 2, .turns = 8, .passes = 0.5F, .positions = 100'000};
 constexpr SearchLimits warlordsLimits{
-    .stages = {{{.turns = 30, .plies = 3}, {.turns = 5, .plies = 5}}},
-    .replies = 5,
-    .positions = 400'000};
+    .plies = 3, .turns = 30, .replies = 6, .passes = 0.1F, .positions = 400'000};
 
 }  // namespace
 
@@ -30,12 +27,12 @@ std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed
 
 std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t, Thinking& thinking) {
     Search search(position, learnedWeights, thinking);
-    return PlanOf(position, search.Best(captainsLimits).turn);
+    return PlanOf(position, search.Best(captainsLimits));
 }
 
 std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t, Thinking& thinking) {
     Search search(position, learnedWeights, thinking);
-    return PlanOf(position, search.Best(warlordsLimits).turn);
+    return PlanOf(position, search.Best(warlordsLimits));
 }
 
 }  // namespace qarn

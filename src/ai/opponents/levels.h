@@ -9,11 +9,12 @@ namespace qarn {
 std::optional<Plan> ChooseScoutTurn(const Position& position, std::uint64_t seed,
                                     Thinking& thinking);
 
-/// Sees the opponent's best answers to its better turns, and its own next turn.
+/// Sees the opponent's best answers to its better turns, and reckons that it misses half of them.
 std::optional<Plan> ChooseCaptainTurn(const Position& position, std::uint64_t seed,
                                       Thinking& thinking);
 
-/// Sees the same for more turns and answers, and for the best two turns more.
+/// Sees the best answers to more turns, and its own next turn after them; reckons that the opponent
+/// misses few.
 std::optional<Plan> ChooseWarlordTurn(const Position& position, std::uint64_t seed,
                                       Thinking& thinking);
 

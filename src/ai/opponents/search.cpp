@@ -24,10 +24,6 @@ constexpr float haste = 0.4F;
 // ways to win the same the sooner one is better.
 constexpr float hasteEachTurn = 0.05F;
 
-// How likely the opponent is held to be to let an answer pass. Without it a search gives up
-// whatever a watchful enemy could evade, and goes after nobody.
-constexpr float passes = 0.3F;
-
 constexpr Dice losing{.roll = dieSides};
 constexpr Dice winningAtACost{.roll = 1, .secondRoll = rollThatCosts};
 
@@ -160,24 +156,28 @@ float Search::BestReply(const Node& node, Window window) {
 
 // What a node is worth to the side to move when both sides take so many turns more.
 float Search::Value(const Node& node, int plies, Window window) {
+    if (plies == 0) return StaticValue(node);
     const float now = hasteEachTurn * WorthOfBalance(BalanceOf(node.armies, node.Side()));
     constexpr float then = 1 - hasteEachTurn;
     const Window later{(window.low - now) / then, (window.high - now) / then};
-    return now + then * (plies == 1 ? BestReply(node, later) : LikelyTurn(node, plies, later));
+    return now + then * LikelyTurn(node, plies, later);
 }
 
-// The same when it may take its best turn or, as the opponent is held to do at times, pass.
+// The same when it may take its best turn or, as the opponent is held to do at times, pass. A
+// search that never hopes for that gives up whatever a watchful enemy could evade, and goes after
+// nobody.
 float Search::LikelyTurn(const Node& node, int plies, Window window) {
     if (node.Side() == root_.Side()) return BestTurn(node, plies, window);
     Turn pass;
     const auto then = [&](const Node& after, Window w) { return Value(after, plies - 1, w); };
-    const float passed = passes * Expect(node, pass, {}, then);
-    constexpr float rest = 1 - passes;
+    const float passed = limits_.passes * Expect(node, pass, {}, then);
+    const float rest = 1 - limits_.passes;
     const Window answered{(window.low - passed) / rest, (window.high - passed) / rest};
     return passed + rest * BestTurn(node, plies, answered);
 }
 
 float Search::BestTurn(const Node& node, int plies, Window window) {
+    if (plies == 1) return BestReply(node, window);
     std::vector<RatedTurn> turns = RateTurns(node);
     turns.resize(std::min(turns.size(), limits_.replies));
     float best = 0;
@@ -195,34 +195,22 @@ bool Search::IsOver() const {
     return thinking_.positions >= limits_.positions || thinking_.decideNow.stop_requested();
 }
 
-// The turns by their value so many plies ahead, the best first; exact for the best `kept`. One
-// whose search was cut short is left out.
-std::vector<RatedTurn> Search::Deepen(const std::vector<RatedTurn>& turns, int plies,
-                                      std::size_t kept) {
-    std::vector<RatedTurn> rated;
-    for (RatedTurn one : turns) {
-        const float low = rated.size() < kept ? 0 : rated[kept - 1].value;
-        one.value = Expect(root_, one.turn, {low, 1}, [&](const Node& after, Window within) {
-            return Value(after, plies - 1, within);
-        });
-        if (IsOver()) break;
-        rated.insert(std::upper_bound(rated.begin(), rated.end(), one, IsBetter), one);
-    }
-    return rated;
-}
-
-RatedTurn Search::Best(const SearchLimits& limits) {
+Turn Search::Best(const SearchLimits& limits) {
     limits_ = limits;
     std::vector<RatedTurn> turns = RateTurns();
-    for (std::size_t k = 0; k < limits.stages.size() && !IsOver(); ++k) {
-        const Stage& stage = limits.stages[k];
-        if (stage.turns == 0) break;
-        const std::size_t next = k + 1 < limits.stages.size() ? limits.stages[k + 1].turns : 0;
-        turns.resize(std::min(turns.size(), stage.turns));
-        const auto rated = Deepen(turns, stage.plies, std::max<std::size_t>(1, next));
-        if (!rated.empty()) turns = rated;
+    turns.resize(std::min(turns.size(), limits.turns));
+    Turn best = turns.front().turn;
+    float most = 0;
+    for (RatedTurn& one : turns) {
+        const float value = Expect(root_, one.turn, {most, 1}, [&](const Node& after, Window w) {
+            return Value(after, limits.plies - 1, w);
+        });
+        if (IsOver()) break;  // this one was cut short
+        if (value <= most) continue;
+        most = value;
+        best = one.turn;
     }
-    return turns.front();
+    return best;
 }
 
 }  // namespace qarn

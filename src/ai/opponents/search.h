@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -16,17 +15,13 @@ struct RatedTurn {
     float value = 0;
 };
 
-/// A stage of a search: the best turns of the stage before are looked at again, deeper.
-struct Stage {
-    std::size_t turns = 0;  ///< so many of them
-    int plies = 2;          ///< so many turns ahead of both sides, the first included; at least 2
-};
-
 /// How far and how wide a search looks.
 struct SearchLimits {
-    std::array<Stage, 3> stages{};  ///< those with no turns are left out
-    std::size_t replies = 8;        ///< at the plies between, the best so many turns count
-    std::uint64_t positions = 0;    ///< when so many have been evaluated, the search ends
+    int plies = 2;                ///< turns of both sides, the first included; at least 2
+    std::size_t turns = 1;        ///< so many, the best one ply ahead, are looked at; at least 1
+    std::size_t replies = 1;      ///< so many at the plies between; at least 1
+    float passes = 0;             ///< how likely the opponent is held to be to pass, 0 to below 1
+    std::uint64_t positions = 0;  ///< when so many have been evaluated, the search ends
 };
 
 /// Looks for the best turn by expectation: the dice are chance nodes with their exact odds, and the
@@ -44,7 +39,7 @@ public:
     std::vector<RatedTurn> RateTurns() { return RateTurns(root_); }
 
     /// The best turn that is found within the limits.
-    RatedTurn Best(const SearchLimits& limits);
+    Turn Best(const SearchLimits& limits);
 
 private:
     /// The values between which a search is exact; at or beyond them it gives a bound.
@@ -55,7 +50,6 @@ private:
 
     std::vector<RatedTurn> RateTurns(const Node& node);
     float StaticValue(const Node& node);
-    std::vector<RatedTurn> Deepen(const std::vector<RatedTurn>& turns, int plies, std::size_t kept);
     float Value(const Node& node, int plies, Window window);
     float LikelyTurn(const Node& node, int plies, Window window);
     float BestTurn(const Node& node, int plies, Window window);
