@@ -6,6 +6,17 @@
 namespace qarn {
 namespace {
 
+// Its widgets tell it that they lose the focus.
+TEST_F(GameWindow, IsStillWholeWhenTheFocusLeavesIt) {
+    Open("Q@9,5 WA@17,2");
+    QWidget* const shown = window.get();
+    bool whole = false;
+    QObject::connect(qApp, &QApplication::focusChanged, shown,
+                     [&] { whole = dynamic_cast<FrmGame*>(shown) != nullptr; });
+    window.reset();
+    EXPECT_TRUE(whole);
+}
+
 TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
     Open("Q@9,5 WS@9,5 WA@17,2");
     EXPECT_EQ(Focus(), "board");
