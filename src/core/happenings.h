@@ -83,6 +83,7 @@ struct TurnCame {
 /// The game is over.
 struct Ended {
     std::uint8_t winner = 0;  ///< 1 or 2; 0: drawn
+    bool resigned = false;    ///< the other side has given up
 
     friend bool operator==(const Ended&, const Ended&) = default;
 };

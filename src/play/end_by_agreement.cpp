@@ -27,7 +27,7 @@ void mnuResign_Click(Game& game) {
                     " then wins, and the game's file is deleted.")) {
         return;
     }
-    EndGameWonBy(game, winner);
+    EndWonGame(game, {.winner = winner, .resigned = true});
 }
 
 void mnuOfferDraw_Click(Game& game) {

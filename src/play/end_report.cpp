@@ -23,6 +23,13 @@ std::string NamesOfLost(const GameRecord& record, std::uint8_t side) {
     return lost.empty() ? "nobody" : Enumerate(GetPeopleNames(record, lost));
 }
 
+std::string OutcomeOf(const GameRecord& record, const Ended& end) {
+    if (end.winner == 0) return "The game is a draw.";
+    const std::string won = record.strPlayerName.at(end.winner) + " has won.";
+    if (!end.resigned) return won;
+    return record.strPlayerName.at(OtherSide(end.winner)) + " has resigned. " + won;
+}
+
 std::string LuckTold(const Journal& journal, const Game& game) {
     std::string told;
     for (const std::string& sentence : TellLuck(journal, game)) {
@@ -38,9 +45,7 @@ bool IsOver(const Game& game) { return game.blnEnded && EndOf(game) != nullptr; 
 EndReport ReportOfEnd(const Game& game, const Journal& journal) {
     const int turns = TurnsOf(journal);
     const GameRecord& record = game.record;
-    const std::uint8_t winner = EndOf(game)->winner;
-    return {.outcome =
-                winner == 0 ? "The game is a draw." : record.strPlayerName.at(winner) + " has won.",
+    return {.outcome = OutcomeOf(record, *EndOf(game)),
             .turns = std::to_string(turns) + (turns == 1 ? " turn" : " turns"),
             .lost = {"", NamesOfLost(record, 1), NamesOfLost(record, 2)},
             .luck = LuckTold(journal, game)};

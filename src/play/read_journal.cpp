@@ -125,6 +125,11 @@ Returned ReadReturn(Reader& reader) {
     return {people, reader.SquareAt()};
 }
 
+Ended ReadEnd(Reader& reader) {
+    const std::uint8_t winner = reader.Number(0, 2);
+    return {winner, reader.NextWord() == "resigned"};
+}
+
 RulesChosen ReadRules(Reader& reader) {
     RulesChosen rules;
     while (const auto name = reader.NextWord()) {
@@ -143,7 +148,7 @@ JournalEntry ReadEntry(Reader& reader) {
     if (what == "lost") return ReadLost(reader);
     if (what == "burned") return ReadBurned(reader);
     if (what == "return") return ReadReturn(reader);
-    if (what == "end") return Ended{reader.Number(0, 2)};
+    if (what == "end") return ReadEnd(reader);
     if (what == "rules") return ReadRules(reader);
     if (what == "said") return Said{reader.Rest()};
     Reader::Refuse();

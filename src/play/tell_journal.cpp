@@ -62,9 +62,10 @@ public:
 
     // Steps of the same people one after the other are one way.
     void operator()(const Moved& step) {
-        const bool goesOn = step.people == way_.people && step.path[0] == way_.path.back() &&
+        const bool goesOn = !way_.path.empty() && step.people == way_.people &&
+                            step.path[0] == way_.path.back() &&
                             way_.path.size() + step.path.size() <= longestPath;
-        if (way_.path.empty() || !goesOn) {
+        if (!goesOn) {
             FinishMove();
             way_ = step;
         } else {
@@ -98,7 +99,9 @@ public:
     }
 
     void operator()(const Ended& end) {
-        Say(end.winner == 0 ? "The game is a draw." : PlayerOf(end.winner) + " won the game.");
+        if (end.winner == 0) return Say("The game is a draw.");
+        if (end.resigned) Say(PlayerOf(OtherSide(end.winner)) + " resigned.");
+        Say(PlayerOf(end.winner) + " won the game.");
     }
 
     void operator()(const RulesChosen& rules) {

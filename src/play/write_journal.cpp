@@ -52,7 +52,9 @@ public:
     void operator()(const Returned& back) {
         out_ << "return " << back.people << ' ' << back.at << '\n';
     }
-    void operator()(const Ended& end) { out_ << "end " << int{end.winner} << '\n'; }
+    void operator()(const Ended& end) {
+        out_ << "end " << int{end.winner} << (end.resigned ? " resigned" : "") << '\n';
+    }
     void operator()(const RulesChosen& rules) {
         out_ << "rules";
         for (const HouseRule& rule : AllHouseRules()) {

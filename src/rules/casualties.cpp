@@ -108,11 +108,14 @@ void CountPeople(Game& game) {
     if (record.bytPeopleLeft[1] == 0 || record.bytPeopleLeft[2] == 0) EndGame(game);
 }
 
-void EndGame(Game& game) { EndGameWonBy(game, game.record.bytPeopleLeft[1] > 0 ? 1 : 2); }
+void EndGame(Game& game) {
+    const std::uint8_t winner = game.record.bytPeopleLeft[1] > 0 ? 1 : 2;
+    EndWonGame(game, {.winner = winner});
+}
 
-void EndGameWonBy(Game& game, std::uint8_t winner) {
-    game.happenings.emplace_back(Ended{winner});
-    TellThePerson(game, std::string(game.record.strVictoryText.at(winner)));
+void EndWonGame(Game& game, Ended end) {
+    game.happenings.emplace_back(end);
+    TellThePerson(game, std::string(game.record.strVictoryText.at(end.winner)));
     DeleteFileAndEnd(game);
 }
 

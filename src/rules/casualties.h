@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "core/happenings.h"
 #include "core/people_set.h"
 
 namespace qarn {
@@ -26,8 +27,8 @@ void CountPeople(Game& game);
 /// program (throws ProgramEnd).
 void EndGame(Game& game);
 
-/// The same for a side that has won, whoever is left.
-void EndGameWonBy(Game& game, std::uint8_t winner);
+/// The same for a game that a side has won, whoever is left.
+void EndWonGame(Game& game, Ended end);
 
 /// Tells that the game is a draw.
 void TellDraw(Game& game);

@@ -127,6 +127,7 @@ void FrmGame::CloseWithoutBoxes() {
 
 void FrmGame::BringUpToDate() {
     if (!game_.blnOpen) {
+        docks_.Show(game_, journal_.Told());  // with the event that ended it
         End();
         return;
     }

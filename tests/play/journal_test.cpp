@@ -48,6 +48,8 @@ TEST(Journal, TellsWhatElseCanHappen) {
         {"J@5,1 Z@1,10", "press cmdMove; click 5 1; press cmdDoneSel; click 6 1; press cmdMove",
          "Turn 1: Red\n  Sentinel went from (5, 1) to (6, 1).\n  Sentinel had to go back to (5, "
          "1).\n"},
+        {"Q@9,10 Z@1,1", "answer yes; menu mnuResign",
+         "Turn 1: Red\n  Red resigned.\n  Blue won the game.\n"},
         {"Q@9,10 Z@1,1", "menu mnuOwnGroupsOnly; menu mnuOneTurnForABurning; menu mnuOwnGroupsOnly",
          "Turn 1: Red\n  House rules: own groups only.\n  House rules: own groups only, one turn "
          "for a burning.\n  House rules: one turn for a burning.\n"},
@@ -81,6 +83,14 @@ TEST(Journal, TellsTheLuckOfBoth) {
               "Red won 0 of 1 attack, as many as expected.\nRolls of Red, 1 to 5: 0, 0, 0, 0, 1.\n"
               "Blue won 0 of 1 attack, as many as expected.\nRolls of Blue, 1 to 5: 1, 0, 0, 0, "
               "0.\nIn all the die was with nobody.\n");
+}
+
+// As a damaged file can tell it.
+TEST(Journal, TellsAWayThatNobodyWent) {
+    JournalGame played("Q@9,10 Z@1,1");
+    const Journal journal = ReadJournal("turn 1 person\nmove 1 - 1,1 1,1\n");
+    ASSERT_EQ(journal.entries.size(), 2u);
+    EXPECT_EQ(TellJournal(journal, played.game).back(), "   went from (1, 1) to (1, 1).");
 }
 
 TEST(Journal, ReadsNoLineThatNobodyCanHaveWritten) {

@@ -74,6 +74,18 @@ TEST_F(Docks, JournalIsSavedBesideTheGame) {
     EXPECT_TRUE(ReadFile(folder / "game.txt").ends_with("\n\nTurn 1: Red\n"));
 }
 
+TEST_F(Docks, JournalTellsTheEventThatEndsTheGame) {
+    Open("WS@9,10 TS@9,10 ZA3@10,10");
+    MenuItem("mnuJournal")->trigger();
+    Button("cmdAttack")->click();
+    ClickSquare(9, 10);
+    random.QueueRoll(1);
+    random.QueueRoll(1);
+    AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
+    ClickSquare(10, 10);
+    EXPECT_NE(JournalText().find("\nRed won the game.\n"), std::string::npos) << JournalText();
+}
+
 TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
     Open("BT@9,9 LS@12,10 SK@2,10 ZA1@10,10");
     MenuItem("mnuRoster")->trigger();

@@ -103,7 +103,9 @@ void Resign(WindowScript& script, const std::string& caption, const char* next) 
         const auto text = [&](const char* name) {
             return window.findChild<QLabel*>(name)->text().toStdString();
         };
-        EXPECT_TRUE(text("lblOutcome") == "Red has won." || text("lblOutcome") == "Blue has won.");
+        const std::string outcome = text("lblOutcome");
+        EXPECT_TRUE(outcome == "Red has resigned. Blue has won." ||
+                    outcome == "Blue has resigned. Red has won.");
         EXPECT_EQ(text("lblTurns"), "1 turn");
         EXPECT_EQ(text("lblLost1"), "nobody");
         QTest::mouseClick(window.findChild<QWidget*>(next), Qt::LeftButton);
