@@ -1,5 +1,8 @@
 #include "play/ticked_told.h"
 
+#include <utility>
+#include <vector>
+
 #include "core/eight_bit.h"
 #include "core/game.h"
 #include "core/position.h"
@@ -26,7 +29,15 @@ std::string Told(const GameRecord& record, PeopleSet ticked) {
     const Strength sum = StrengthOf(PositionOf(record), ticked);
     std::string told = std::to_string(sum.Mobility) + " mobility, " + std::to_string(sum.Attack) +
                        " attack, " + std::to_string(sum.Defense) + " defense";
-    for (const std::uint8_t i : ticked) told += '\n' + LineOf(record.People[i]);
+    std::vector<std::pair<std::string, int>> lines;
+    for (const std::uint8_t i : ticked) {
+        const std::string line = LineOf(record.People[i]);
+        if (lines.empty() || lines.back().first != line) lines.emplace_back(line, 0);
+        ++lines.back().second;
+    }
+    for (const auto& [line, count] : lines) {
+        told += '\n' + line + (count > 1 ? "\u00D7" + std::to_string(count) : "");
+    }
     return told;
 }
 

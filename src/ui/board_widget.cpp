@@ -61,6 +61,16 @@ void BoardWidget::BringUpToDate() {
     ShowHint();
     ShowReach();
     ShowLastMove();
+    HideOldTip();
+}
+
+// What it says may hold no longer.
+void BoardWidget::HideOldTip() {
+    if (shown_.tipped == nowhere) return;
+    const std::string now = TipOfSquare(game_, shown_.tipped.x(), shown_.tipped.y());
+    if (QToolTip::isVisible() && QToolTip::text() == ToQt(now)) return;
+    if (QToolTip::isVisible()) QToolTip::hideText();
+    shown_.tipped = nowhere;
 }
 
 void BoardWidget::ShowSquare(QPoint square) {
@@ -248,6 +258,7 @@ bool BoardWidget::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const QPoint square = SquareAt(help->pos());
+    shown_.tipped = square;
     QToolTip::showText(help->globalPos(), ToQt(TipOfSquare(game_, square.x(), square.y())), this,
                        PlaceOfSquare(square));
     return true;

@@ -74,6 +74,7 @@ private:
     void ShowHint();
     void ShowReach();
     void ShowLastMove();
+    void HideOldTip();
     void LookAt(QPoint square);
     void LookAt(const Look& look);
     void MoveMark(QPoint& mark, QPoint square);

@@ -59,6 +59,7 @@ struct ShownBoard {
     QPoint cursor{columnCount / 2, rowCount / 2};
     bool focused = false;  ///< the cursor is to be seen
     QPoint hovered;
+    QPoint tipped;  ///< whose tooltip was shown last
 };
 
 }  // namespace qarn

@@ -41,6 +41,11 @@ TEST(SquareText, TellsWhatTheTickedComeToWhileSidesAreShown) {
     EXPECT_EQ(ToldOfTicked(played.game), "3 mobility, 5 attack, 5 defense\nHero: 3, 5, 5");
     played.Do("press cmdDoneSel");
     EXPECT_EQ(ToldOfTicked(played.game), "");
+
+    PlayedGame fleet("Q@9,5 BT@9,5 BT@9,5 BT@9,5 Z@17,2");
+    for (const char* command : {"menu mnuSides", "press cmdMove", "click 9 5"}) fleet.Do(command);
+    EXPECT_EQ(ToldOfTicked(fleet.game),
+              "3 mobility, 5 attack, 5 defense\nHero: 3, 5, 5\nBoat\u00D73");
 }
 
 TEST(SquareText, TellsWhatAStepWouldCostWhileReachIsShown) {

@@ -32,7 +32,10 @@ TEST_F(GameWindow, ShowsThePointerAndTheCursorOnTheBoard) {
     QHelpEvent rests(QEvent::ToolTip, board->PlaceOfSquare({17, 5}).center(), QPoint());
     QApplication::sendEvent(board, &rests);
     EXPECT_EQ(QToolTip::text(), "(17, 5) Stream\nHero: mobility 3, attack 5, defense 5");
-    QToolTip::hideText();
+    board->BringUpToDate();
+    EXPECT_NE(QToolTip::text(), "");
+    MenuItem("mnuSides")->trigger();  // it would tell more now
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(GameWindow, WalksWithTheArrowKeysUpToTheEdges) {
