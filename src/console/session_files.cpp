@@ -10,6 +10,7 @@
 #include "shell/file_commands.h"
 #include "shell/kept_journal.h"
 #include "shell/kept_opponents.h"
+#include "shell/kept_recovery.h"
 #include "window/load_game.h"
 #include "window/save_game.h"
 
@@ -54,6 +55,7 @@ void Session::New(const Words& words) {
             ReplaceFile(path, text);
             KeepOpponents(game_.ports, path, {"", classicOpponent, classicOpponent});
             ForgetJournal(game_.ports, path);
+            ForgetRecovery(game_.ports, path);
         } catch (const std::system_error& error) {
             throw SaveError("The new game can not be written. " + error.code().message() + ".\n" +
                             path);

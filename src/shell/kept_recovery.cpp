@@ -5,6 +5,7 @@
 
 #include "core/file_store.h"
 #include "core/fingerprint.h"
+#include "core/game_file.h"
 #include "core/ports.h"
 #include "shell/true_path.h"
 
@@ -20,9 +21,31 @@ fs::path FileOf(const Ports& ports, const std::string& strGamePath) {
 
 fs::path Aside(fs::path file) { return file.replace_extension(".declined.tgf"); }
 
-bool IsSomethingElse(const fs::path& file, const std::string& strGamePath) {
+// The scenario and the players of a game file; nothing of a damaged one.
+std::string GameIn(const std::string& file) {
     try {
-        return ReadWholeFile(file.string()) != ReadWholeFile(strGamePath);
+        GameFileReader reader(file);
+        std::string game(FirstItem(reader.ReadLine("scenario")));
+        for (int side = 1; side <= 2; ++side) {
+            game += '\n' + ParsePlayerLine(reader.ReadLine("player")).strPlayerName;
+        }
+        return game;
+    } catch (const GameFileError&) {
+        return "";
+    }
+}
+
+// Another game may have been begun in the file meanwhile.
+bool IsAnotherGame(const std::string& file, const std::string& strGamePath) {
+    const std::string kept = GameIn(file);
+    const std::string saved = GameIn(strGamePath);
+    return !kept.empty() && !saved.empty() && kept != saved;
+}
+
+bool IsToRecover(const std::string& file, const std::string& strGamePath) {
+    try {
+        return ReadWholeFile(file) != ReadWholeFile(strGamePath) &&
+               !IsAnotherGame(file, strGamePath);
     } catch (const std::system_error&) {
         return false;
     }
@@ -45,7 +68,7 @@ std::optional<std::string> FindRecovery(const Ports& ports, const std::string& s
     if (ports.folders.userState.empty()) return std::nullopt;
     const fs::path file = FileOf(ports, strGamePath);
     for (const fs::path& kept : {file, Aside(file)}) {
-        if (IsSomethingElse(kept, strGamePath)) return kept.string();
+        if (IsToRecover(kept.string(), strGamePath)) return kept.string();
     }
     return std::nullopt;
 }

@@ -1,5 +1,7 @@
 #include "window/recovery.h"
 
+#include <utility>
+
 #include "core/file_mark.h"
 #include "core/game.h"
 #include "core/game_file.h"
@@ -24,6 +26,15 @@ void KeepGame(const Game& game) {
     }
 }
 
+// Another program can have saved a game that was left to be recovered.
+bool IsOlder(const std::string& kept, const std::string& saved) {
+    const auto time = [](const std::string& path) {
+        const std::optional<FileMark> mark = MarkOf(path);
+        return mark ? std::pair(mark->seconds, mark->nanoseconds) : std::pair<long, long>();
+    };
+    return time(kept) < time(saved);
+}
+
 }  // namespace
 
 void FollowRecovery(const Game& game) {
@@ -40,11 +51,16 @@ std::optional<std::string> AsksToRecover(Game& game) {
     const std::string& path = game.record.strGamePath;
     const std::optional<std::string> kept = FindRecovery(game.ports, path);
     if (!kept) return std::nullopt;
+    const bool older = IsOlder(*kept, path);
     const std::string text =
-        "The program came to its end before this game was saved.\nLast turn: " + TimeOf(*kept) +
-        "\nLast save: " + TimeOf(path) + "\n" + path + "\nDo you want to go on from the last turn?";
-    const Answer answer =
-        game.ports.dialogs.Show({.Title = "Recovery", .Text = text, .Offered = Buttons::YesNo});
+        (older ? "The program once came to its end before this game was saved. It has been saved "
+                 "since.\nThat turn: "
+               : "The program came to its end before this game was saved.\nLast turn: ") +
+        TimeOf(*kept) + "\nLast save: " + TimeOf(path) + "\n" + path +
+        (older ? "\nDo you want to go back to that turn?"
+               : "\nDo you want to go on from the last turn?");
+    const Answer answer = game.ports.dialogs.Show(
+        {.Title = "Recovery", .Text = text, .Offered = Buttons::YesNo, .DeclinedByDefault = older});
     if (answer == Answer::Yes) return kept;
     SetRecoveryAside(game.ports, path);
     return std::nullopt;

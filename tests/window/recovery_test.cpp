@@ -88,6 +88,26 @@ TEST_F(Recovery, OffersNothingThatIsNoGainOrNoGame) {
     EXPECT_EQ(Kept(), 0) << "the sitting goes on under another name";
 }
 
+TEST_F(Recovery, LosesNoGameThatWasSavedSince) {
+    PlayATurn();
+    played.random.QueueRoll(1);
+    WriteFile(played.path, saved + "\r\n");
+    const auto later = fs::last_write_time(played.path) + std::chrono::seconds(1);
+    fs::last_write_time(played.path, later);
+    Open({Answer::No});
+    ASSERT_FALSE(played.dialogs.boxes.empty());
+    EXPECT_TRUE(played.dialogs.boxes.front().DeclinedByDefault);
+    EXPECT_NE(played.dialogs.boxes.front().Text.find("It has been saved since."),
+              std::string::npos);
+
+    PlayATurn();
+    std::string another = saved;
+    another.replace(another.find("Blue"), 4, "Cat ");
+    WriteFile(played.path, another);
+    Open({});
+    EXPECT_EQ(played.game.record.strPlayerName[2], "Cat");
+}
+
 TEST_F(Recovery, IsForgottenAtTheEndAndNoBoxWhenItCannotBeKept) {
     WriteFile(state / "qarn", "in the way");
     PlayATurn();
