@@ -38,8 +38,10 @@ int Run(const qarn::Options& options) {
     std::istream in(&input);
     const Commands commands{in, [&] { return IsAskedToEnd() || input.HasHungUp(); }};
     DesktopPorts ports = desktop.Ports();
-    ports.folders.userState.clear();  // no program expects to be asked about an earlier sitting
-    if (options.json) return RunForProgram(commands, std::cout, std::cerr, ports, options.file);
+    if (options.json) {
+        ports.folders.userState.clear();  // no program expects to be asked about an earlier sitting
+        return RunForProgram(commands, std::cout, std::cerr, ports, options.file);
+    }
     return RunForPerson(commands, std::cout, ports, options.file, isatty(STDOUT_FILENO) != 0);
 }
 
@@ -47,10 +49,14 @@ int Run(const qarn::Options& options) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    qarn::FillClosedStreams();
     qarn::TellFullQuotas();
     try {
         const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
-        return Run(qarn::ParseOptions(arguments.subspan(1)));
+        const int status = Run(qarn::ParseOptions(arguments.subspan(1)));
+        if (std::cout.flush()) return status;
+        std::cerr << "The output can not be written.\n";
+        return 1;
     } catch (const qarn::Refusal& refusal) {
         std::cerr << qarn::Printable(refusal.what()) << '\n' << usage;
         return 2;

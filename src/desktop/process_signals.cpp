@@ -39,6 +39,14 @@ void Drain() {
 
 }  // namespace
 
+void FillClosedStreams() {
+    int lowest = 0;
+    do {
+        lowest = open("/dev/null", O_RDWR);
+    } while (lowest >= 0 && lowest <= STDERR_FILENO);
+    if (lowest >= 0) close(lowest);
+}
+
 void TellFullQuotas() { signal(SIGXFSZ, SIG_IGN); }
 
 int NoteEndSignals() {

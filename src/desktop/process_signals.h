@@ -2,6 +2,10 @@
 
 namespace qarn {
 
+/// Opens /dev/null in the place of standard streams that are closed, so that no file or connection
+/// that is opened later is taken for one of them.
+void FillClosedStreams();
+
 /// Has a file that would grow past what this process may write be an error like any other, EFBIG,
 /// and not the end of the program.
 void TellFullQuotas();

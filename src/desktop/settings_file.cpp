@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <sstream>
 #include <stdexcept>
 #include <utility>
 
@@ -25,12 +26,29 @@ std::string Reason(const std::system_error& error, const fs::path& path) {
     return error.code().message() + ".\n" + path.string();
 }
 
-// A file that is not there yet, or cannot be understood, counts as one without settings. Throws
+bool CanBeRead(std::string_view line) {
+    const std::size_t first = line.find_first_not_of(" \t\r");
+    if (first == line.npos || line[first] == '#') return true;
+    if (line[first] == '[') return line.find(']') != line.npos;
+    return line[first] != '=' && line.find('=') != line.npos;
+}
+
+// A line that cannot be read would take with it all that follow.
+std::string WithoutDamagedLines(const std::string& text) {
+    std::istringstream lines(text);
+    std::string readable;
+    for (std::string line; std::getline(lines, line);) {
+        if (CanBeRead(line)) readable += line + '\n';
+    }
+    return readable;
+}
+
+// A file that is not there yet counts as one without settings. Throws
 // std::system_error for one that is there and cannot be read.
 GlibKeyFile LoadKeyFile(const std::string& application) {
     GlibKeyFile file(g_key_file_new());
     try {
-        const std::string text = ReadWholeFile(FileOf(application).string());
+        const std::string text = WithoutDamagedLines(ReadWholeFile(FileOf(application).string()));
         g_key_file_load_from_data(file.get(), text.c_str(), text.size(), G_KEY_FILE_KEEP_COMMENTS,
                                   nullptr);
     } catch (const std::system_error& error) {

@@ -22,6 +22,7 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    qarn::FillClosedStreams();
     qarn::TellFullQuotas();
     qarn::HelpReader reader;
     const QtMessageHandler usual = qInstallMessageHandler(TellNoDisplay);

@@ -25,6 +25,7 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    qarn::FillClosedStreams();
     qarn::TellFullQuotas();
     // The font configuration takes long to read. Qt needs it for the first window only, so it is
     // read while Qt connects to the display.

@@ -28,10 +28,13 @@ TEST(SettingsFile, KeepsValuesAcrossRuns) {
     EXPECT_EQ(later.Read("QARN", "Filepath", "", ""), "of nobody");
     EXPECT_EQ(later.Read("Other", "Filepath", "1", "none"), "none");
 
-    WriteFile(file, "this is not\x01 a settings file");
+    WriteFile(file, "[House]\na=1\nthis is not\x01 a setting\n=2\n[Offer\n# mine\nb=3\n");
     EXPECT_EQ(store.Read("QARN", "Summary", "1", "True"), "True");
     store.Write("QARN", "Summary", "1", "False");
     EXPECT_EQ(store.Read("QARN", "Summary", "1", "True"), "False");
+    EXPECT_EQ(store.Read("QARN", "House", "a", ""), "1");
+    EXPECT_EQ(store.Read("QARN", "House", "b", ""), "3") << "a damaged line stands before it";
+    EXPECT_NE(ReadFile(file).find("# mine"), std::string::npos);
 
     std::filesystem::remove_all(config);
     WriteFile(config, "in the way");

@@ -317,6 +317,30 @@ class ConsoleTest(unittest.TestCase):
             program.send_signal(signal.SIGHUP)
             self.assertIn(b'"ok"', program.communicate(b"state\n", 60)[0], "as under nohup")
 
+    def test_a_sitting_of_a_person_that_was_killed_can_be_recovered(self):
+        environment = {**os.environ, "XDG_STATE_HOME": self.path("state")}
+        with subprocess.Popen([PROGRAM], cwd=self.folder, env=environment, text=True,
+                              stdin=subprocess.PIPE, stdout=subprocess.PIPE) as program:
+            program.stdin.write(f"random 0\n{NEW}\nmenu mnuPassTurn\nyes\n")
+            program.stdin.flush()
+            while "It is Blue's turn." not in program.stdout.readline():
+                pass
+            program.kill()
+        run = self.run_program("yes\nclose\nyes\n", "g.tgf", env=environment)
+        self.assertIn(b"Do you want to go on from the last turn?", run.stdout)
+        self.assertEqual(self.read("g.tgf").splitlines()[3].strip(), "2", "Blue is to move")
+        self.assertEqual(os.listdir(self.path("state/qarn/recovery")), [])
+
+    def test_streams_that_are_closed_or_full(self):
+        for stream in (0, 1, 2):
+            run = self.run_program("", "--json", preexec_fn=lambda: os.close(stream))
+            self.assertEqual(run.returncode, 0, stream)
+        for arguments in (["--json"], ["--selfplay", "1"]):
+            with open("/dev/full", "wb") as full:
+                run = subprocess.run([PROGRAM, *arguments], input=b"state\n", stdout=full,
+                                     stderr=subprocess.PIPE, timeout=60)
+            self.assertEqual((run.returncode, run.stderr), (1, b"The output can not be written.\n"))
+
     def test_a_full_quota_is_a_message(self):
         def limit():
             resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))

@@ -107,7 +107,7 @@ class Play(unittest.TestCase):
             self.assertEqual(status, 0)
             self.assertIn("Hollowmere 1.tgf (Player 1 vs. Player 2)", output)
             self.assertEqual(calls, ["qarn "] if display else [])
-        self.assertEqual(os.listdir(self.games), ["Hollowmere 1.tgf"])
+        self.assertEqual([*self.games.glob("*.tgf")], [self.games / "Hollowmere 1.tgf"])
 
     def test_goes_on_with_the_newest_game_in_the_terminal(self):
         self.is_built()
@@ -120,7 +120,7 @@ class Play(unittest.TestCase):
         (self.games / "damaged.tgf").write_text("HM\r\n")
         self.assertIn('the "newest" $1.TGF (Player 1', self.play()[1])
         self.assertIn("older.tgf (Player 1", self.play(str(self.games / "older.tgf"))[1])
-        self.assertEqual(len(os.listdir(self.games)), 5)
+        self.assertEqual(len([*self.games.glob("*.*")]), 5)
 
     def test_says_what_a_game_in_the_terminal_lacks(self):
         self.is_built()
