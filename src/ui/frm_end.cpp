@@ -1,5 +1,6 @@
 #include "ui/frm_end.h"
 
+#include <QFile>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -8,6 +9,8 @@
 #include "core/failure_text.h"
 #include "core/game.h"
 #include "play/end_report.h"
+#include "play/game_journal.h"
+#include "ui/journal_file.h"
 #include "ui/text.h"
 #include "ui/window_icon.h"
 #include "window/play_again.h"
@@ -47,8 +50,9 @@ void AddFact(QGridLayout* grid, int row, const std::string& what, const std::str
 
 }  // namespace
 
-FrmEnd::FrmEnd(QWidget* gameWindow, const Game& game, const EndReport& report)
-    : QDialog(gameWindow), game_(game) {
+FrmEnd::FrmEnd(QWidget* gameWindow, const Game& game, const GameJournal& journal)
+    : QDialog(gameWindow), game_(game), journal_(journal) {
+    const EndReport report = ReportOfEnd(game, journal.Told());
     setWindowTitle("End of the Game");
     setWindowIcon(WindowIcon());
 
@@ -68,6 +72,8 @@ FrmEnd::FrmEnd(QWidget* gameWindow, const Game& game, const EndReport& report)
     AddButton(buttons, "cmdExchange", "Sides E&xchanged", "The same, each on the other side",
               &FrmEnd::ExchangeSides);
     AddButton(buttons, "cmdStart", "&Start Window", "Another game", &FrmEnd::GoToStartWindow);
+    AddButton(buttons, "cmdSaveJournal", "Save &Journal...", "What came about, as a text file",
+              &FrmEnd::SaveJournal);
     AddButton(buttons, "cmdExit", "&Exit", "Ends the program", &FrmEnd::Exit);
 
     auto* all = new QVBoxLayout(this);
@@ -85,6 +91,16 @@ void FrmEnd::AddButton(QHBoxLayout* row, const char* name, const char* caption, 
     button->setToolTip(tip);
     connect(button, &QPushButton::clicked, this, [this, choose] { (this->*choose)(); });
     row->addWidget(button);
+}
+
+void FrmEnd::SaveJournal() {
+    const QString path = AskForJournalFile(this, game_.record.strGamePath);
+    if (path.isEmpty()) return;
+    try {
+        journal_.Export(QFile::encodeName(path).toStdString(), game_);
+    } catch (...) {
+        game_.ports.dialogs.Tell(FailureText(std::current_exception(), "SaveJournal"));
+    }
 }
 
 void FrmEnd::WriteAndPlay(bool exchanged) {

@@ -46,7 +46,7 @@ public:
     const Game& ShownGame() const { return game_; }
 
     /// Its journal.
-    const Journal& ShownJournal() const { return journal_.Told(); }
+    const GameJournal& ShownJournal() const { return journal_; }
 
 protected:
     bool event(QEvent* event) override;

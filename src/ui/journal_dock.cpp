@@ -1,8 +1,6 @@
 #include "ui/journal_dock.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -11,6 +9,7 @@
 
 #include "core/game.h"
 #include "play/tell_journal.h"
+#include "ui/journal_file.h"
 #include "ui/text.h"
 
 namespace qarn {
@@ -84,14 +83,9 @@ void JournalDock::FollowTurns() {
     followedTo_ = text_->verticalScrollBar()->value();
 }
 
-// Beside the game, by its name, unless the person says otherwise.
 void JournalDock::AskForFile() {
-    const QFileInfo game(QFile::decodeName(gamePath_.c_str()));
-    QFileDialog dialog(window(), "Save Journal", game.path(), "Text Files (*.txt)");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("txt");
-    dialog.selectFile(game.completeBaseName() + ".txt");
-    if (dialog.exec() == QDialog::Accepted) emit SaveWanted(dialog.selectedFiles().constFirst());
+    const QString path = AskForJournalFile(window(), gamePath_);
+    if (!path.isEmpty()) emit SaveWanted(path);
 }
 
 std::vector<JournalDock::Line> JournalDock::LinesOf(const Journal& journal, const Game& game) {

@@ -68,8 +68,7 @@ private:
     }
 
     void AskWhatNext(FrmGame& window) {
-        FrmEnd end(&window, window.ShownGame(),
-                   ReportOfEnd(window.ShownGame(), window.ShownJournal()));
+        FrmEnd end(&window, window.ShownGame(), window.ShownJournal());
         end.exec();
         next_ = end.Next();
         blnOpen_ = false;

@@ -84,7 +84,7 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     EXPECT_FALSE(Timer()->isActive());
     EXPECT_EQ(Text("noMoveText"), "Red found no move.\nMove for it, or:");
     EXPECT_FALSE(Find("noMoveStrip")->geometry().intersects(Find("lblStatus")->geometry()));
-    const Journal& journal = window->ShownJournal();
+    const Journal& journal = window->ShownJournal().Told();
     EXPECT_EQ(journal.entries.back(), JournalEntry(Said{"Red found no move."}));
     QTest::mouseClick(Button("cmdPassItsTurn"), Qt::LeftButton);
     EXPECT_EQ(ShownGame().record.bytTurn, 2);

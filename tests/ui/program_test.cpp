@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
@@ -88,6 +90,15 @@ TEST_F(WholeProgram, GoesFromGamesToTheStartWindowAndBack) {
     EXPECT_EQ(QGuiApplication::desktopFileName(), "qarn");
 }
 
+void SaveJournal(FrmEnd& window) {
+    WindowScript script;
+    script.On<QFileDialog>([](QFileDialog& dialog) {
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    window.findChild<QAbstractButton*>("cmdSaveJournal")->click();
+    EXPECT_TRUE(script.Done());
+}
+
 // Whoever is to move resigns, and chooses what comes next.
 void Resign(WindowScript& script, const std::string& caption, const char* next) {
     script.On<FrmGame>([=](FrmGame& window) {
@@ -108,6 +119,8 @@ void Resign(WindowScript& script, const std::string& caption, const char* next) 
                     outcome == "Blue has resigned. Red has won.");
         EXPECT_EQ(text("lblTurns"), "1 turn");
         EXPECT_EQ(text("lblLost1"), "nobody");
+        EXPECT_EQ(window.focusWidget()->objectName(), "cmdAgain");
+        if (std::string(next) == "cmdExit") SaveJournal(window);
         QTest::mouseClick(window.findChild<QWidget*>(next), Qt::LeftButton);
     });
 }
@@ -125,6 +138,7 @@ TEST_F(WholeProgram, AsksAtTheEndWhatComesNext) {
     WriteFile(folder / "game.tgf", newGame);
     Resign(script, game + "(Red vs. Blue)", "cmdExit");
     EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
+    EXPECT_NE(ReadFile(folder / "game.txt").find(" resigned.\n"), std::string::npos);
     EXPECT_TRUE(script.Done());
 }
 
