@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <string_view>
 
 #include "core/controls.h"
@@ -13,6 +14,8 @@
 #include "core/view_choices.h"
 
 namespace qarn {
+
+class OpenFile;
 
 /// What an event that fails puts back.
 struct GameState {
@@ -48,6 +51,10 @@ struct Game {
     std::function<void()> afterSave = [] {};
 
     SeenFile seenFile = {};  ///< the game's file, as this program has read or written it last
+
+    /// While this program keeps the game for a recovery. No other one has the lock meanwhile; null:
+    /// another one has it, or nothing can be kept.
+    std::shared_ptr<const OpenFile> keeping = nullptr;
 
     bool blnOpen = false;        ///< a game stands in the window
     bool blnEnded = false;       ///< the program has ended, or would have

@@ -46,7 +46,7 @@ void KeepForRecovery(const Journal& journal, const Game& game) {
     if (game.ports.folders.userState.empty()) return;
     if (game.blnEnded || !game.blnOpen) {
         ForgetJournal(game.ports, PathOfRecovery(game));
-    } else if (Brought<TurnCame>(game.happenings)) {
+    } else if (game.keeping && Brought<TurnCame>(game.happenings)) {
         KeepFor(PathOfRecovery(game), journal, game);
     }
 }

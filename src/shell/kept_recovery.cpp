@@ -1,11 +1,14 @@
 #include "shell/kept_recovery.h"
 
+#include <fcntl.h>
+
 #include <filesystem>
 #include <system_error>
 
 #include "core/file_store.h"
 #include "core/fingerprint.h"
 #include "core/game_file.h"
+#include "core/open_file.h"
 #include "core/ports.h"
 #include "shell/true_path.h"
 
@@ -17,6 +20,11 @@ namespace fs = std::filesystem;
 fs::path FileOf(const Ports& ports, const std::string& strGamePath) {
     return fs::path(ports.folders.userState) / "recovery" /
            (Fingerprint(TruePath(strGamePath)) + ".tgf");
+}
+
+// Elsewhere than what is kept, and left when the game is closed: another program may wait for it.
+fs::path LockOf(const Ports& ports, const std::string& strGamePath) {
+    return fs::path(ports.folders.userState) / "played" / Fingerprint(TruePath(strGamePath));
 }
 
 fs::path Aside(fs::path file) { return file.replace_extension(".declined.tgf"); }
@@ -52,6 +60,19 @@ bool IsToRecover(const std::string& file, const std::string& strGamePath) {
 }
 
 }  // namespace
+
+std::shared_ptr<const OpenFile> TakeRecovery(const Ports& ports, const std::string& strGamePath) {
+    if (ports.folders.userState.empty()) return nullptr;
+    const fs::path path = LockOf(ports, strGamePath);
+    constexpr int flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK;
+    try {
+        fs::create_directories(path.parent_path());
+        auto lock = std::make_shared<const OpenFile>(path.string(), flags, S_IRUSR | S_IWUSR);
+        return lock->Lock(false) ? lock : nullptr;
+    } catch (const std::system_error&) {
+        return nullptr;
+    }
+}
 
 void KeepRecovery(const Ports& ports, const std::string& strGamePath, const std::string& text) {
     if (ports.folders.userState.empty()) return;

@@ -1,11 +1,17 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace qarn {
 
+class OpenFile;
 struct Ports;
+
+/// Takes what is kept of a game for this program, until what it gives goes. Null when another
+/// program has it, which plays the game, or nothing can be kept.
+std::shared_ptr<const OpenFile> TakeRecovery(const Ports& ports, const std::string& strGamePath);
 
 /// Keeps a game, in the text of its file, as it stands at a change of turn: in the person's state
 /// folder, for the case that the program does not come to save it. What cannot be kept is not;

@@ -206,6 +206,7 @@ void Form_Load(Game& game, const std::string& strGamePath) {
     game.record.strGamePath = strGamePath;
     game.record.strGameName = path.filename();
     const bool again = game.blnOpen;
+    BeginRecovery(game);
     LoadGameOrEnd(game, again ? std::nullopt : AsksToRecover(game));
     DrawBoard(game);
     game.blnOpen = true;

@@ -12,13 +12,13 @@
 #include "shell/file_commands.h"
 #include "shell/item_details.h"
 #include "shell/kept_opponents.h"
-#include "shell/kept_recovery.h"
 #include "shell/user_settings.h"
 #include "window/board_clicks.h"
 #include "window/hint_mark.h"
 #include "window/house_rules.h"
 #include "window/load_game.h"
 #include "window/opponents_turn.h"
+#include "window/recovery.h"
 #include "window/save_game.h"
 #include "window/speed.h"
 #include "window/view_choices.h"
@@ -214,7 +214,8 @@ void mnuSaveAs_Click(Game& game) {
         return;
     }
     KeepOpponents(game.ports, path, KeptOpponents(game.ports, oldPath));
-    ForgetRecovery(game.ports, oldPath);
+    ForgetRecovery(game, oldPath);
+    BeginRecovery(game);
     ComposeCaption(game);
     AppendPlayersToCaption(game);
 }

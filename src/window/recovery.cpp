@@ -37,17 +37,29 @@ bool IsOlder(const std::string& kept, const std::string& saved) {
 
 }  // namespace
 
-void FollowRecovery(const Game& game) {
+void BeginRecovery(Game& game) {
+    game.keeping.reset();
+    game.keeping = TakeRecovery(game.ports, game.record.strGamePath);
+}
+
+void FollowRecovery(Game& game) {
     const bool loads = !game.beforeEvent.blnOpen;
-    if (loads) return;
-    if (Brought<Ended>(game.happenings)) {
-        ForgetRecovery(game.ports, game.record.strGamePath);
-    } else if (Brought<TurnCame>(game.happenings) && IsKnownScenario(game.record)) {
-        KeepGame(game);
+    if (!loads && game.keeping) {
+        if (Brought<Ended>(game.happenings)) {
+            ForgetRecovery(game, game.record.strGamePath);
+        } else if (Brought<TurnCame>(game.happenings) && IsKnownScenario(game.record)) {
+            KeepGame(game);
+        }
     }
+    if (!game.blnOpen) game.keeping.reset();
+}
+
+void ForgetRecovery(const Game& game, const std::string& strGamePath) {
+    if (game.keeping) ForgetRecovery(game.ports, strGamePath);
 }
 
 std::optional<std::string> AsksToRecover(Game& game) {
+    if (!game.keeping) return std::nullopt;
     const std::string& path = game.record.strGamePath;
     const std::optional<std::string> kept = FindRecovery(game.ports, path);
     if (!kept) return std::nullopt;

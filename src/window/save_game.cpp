@@ -10,8 +10,8 @@
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "shell/about.h"
-#include "shell/kept_recovery.h"
 #include "window/load_game.h"
+#include "window/recovery.h"
 
 namespace qarn {
 namespace {
@@ -65,7 +65,7 @@ void Save(Game& game, bool (*mayReplaceChanged)(Game&)) {
 bool SavesOrLeavesWithoutSaving(Game& game) {
     try {
         SaveGame(game);
-        ForgetRecovery(game.ports, game.record.strGamePath);
+        ForgetRecovery(game, game.record.strGamePath);
         return true;
     } catch (const SaveError& error) {
         const Answer answer = game.ports.dialogs.Show(
@@ -141,7 +141,7 @@ void CloseWithoutBoxes(Game& game) {
     constexpr int notSaved = 1;
     try {
         Save(game, [](Game&) { return false; });
-        ForgetRecovery(game.ports, game.record.strGamePath);
+        ForgetRecovery(game, game.record.strGamePath);
     } catch (const std::exception&) {
         throw ProgramEnd{notSaved};
     }

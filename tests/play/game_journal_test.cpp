@@ -50,6 +50,7 @@ TEST(GameJournal, GoesOnWhereTheGameWasSaved) {
 TEST(GameJournal, GoesWithWhatACrashLeaves) {
     JournalGame played(position);
     played.game.ports.folders.userState = played.folder / "state";
+    played.OpenAgain();
     played.DoAll(move);
     const Journal told = played.journal.Told();
     played.dialogs.queued = {Answer::No, Answer::Yes};

@@ -108,11 +108,34 @@ TEST_F(Recovery, LosesNoGameThatWasSavedSince) {
     EXPECT_EQ(played.game.record.strPlayerName[2], "Cat");
 }
 
+TEST_F(Recovery, IsLeftToTheProgramThatPlaysTheGame) {
+    PlayATurn();
+    PlayedGame other;
+    other.path = played.path;
+    other.game.ports.folders.userState = played.game.ports.folders.userState;
+    other.Open();
+    EXPECT_TRUE(other.dialogs.boxes.empty()) << "nobody came to an end";
+    other.Do("press cmdMove");
+    other.Do("close");
+    EXPECT_EQ(Kept(), 1);
+    Open({Answer::Yes});
+    EXPECT_EQ(Column(), 10);
+    played.Do("close");
+    EXPECT_EQ(Kept(), 0);
+    other.Open();
+    EXPECT_TRUE(other.game.keeping) << "it was left with the game";
+    played.Open();
+    EXPECT_FALSE(played.game.keeping);
+    other.Do("saveas other.tgf");
+    played.Open();
+    EXPECT_TRUE(played.game.keeping);
+}
+
 TEST_F(Recovery, IsForgottenAtTheEndAndNoBoxWhenItCannotBeKept) {
-    WriteFile(state / "qarn", "in the way");
+    WriteFile(state / "qarn/recovery", "in the way");
     PlayATurn();
     EXPECT_TRUE(played.dialogs.boxes.empty());
-    fs::remove(state / "qarn");
+    fs::remove(state / "qarn/recovery");
     played.Load("Q@9,10 J@1,1 Z@18,1");
     PlayATurn();
     EXPECT_EQ(Kept(), 1);
