@@ -5,14 +5,24 @@
 #include <iterator>
 #include <sstream>
 
+#include "help/sent_help.h"
+
 namespace qarn {
 namespace {
 
 namespace fs = std::filesystem;
 
+// A pipe or a device need not come to an end.
 std::string ReadBytes(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) throw HelpFileError("Its file " + path.filename().string() + " can not be read.");
+    std::error_code none;
+    std::ifstream stream;
+    if (fs::is_regular_file(path, none)) stream.open(path, std::ios::binary);
+    if (!stream.is_open()) {
+        throw HelpFileError("Its file " + path.filename().string() + " can not be read.");
+    }
+    if (fs::file_size(path, none) > mostBytesOfHelpFile) {
+        throw HelpFileError("Its file " + path.filename().string() + " is too large.");
+    }
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
@@ -33,11 +43,15 @@ HelpContents ReadPageFolder(const std::string& path) {
     HelpContents contents;
     contents.startPage = OptionOf(project, "Default topic");
     contents.contentsName = OptionOf(project, "Contents file");
+    std::size_t bytes = 0;
     try {
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(path)) {
             if (!entry.is_regular_file()) continue;
             const std::string name = fs::relative(entry.path(), path).generic_string();
-            contents.files[name] = ReadBytes(entry.path());
+            bytes += (contents.files[name] = ReadBytes(entry.path())).size();
+            if (bytes > mostBytesOfHelp || contents.files.size() > mostHelpFiles) {
+                throw HelpFileError("It holds too much.");
+            }
         }
     } catch (const fs::filesystem_error& error) {
         throw HelpFileError(error.code().message() + ".");

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -312,6 +313,31 @@ TEST(PageFolder, WithoutWhatItNeedsIsRefusedWithTheReason) {
     EXPECT_EQ(ErrorOfFolder(path), "");
     std::filesystem::create_symlink("nowhere", folder / "page.htm");
     EXPECT_EQ(ErrorOfFolder(path), "");
+}
+
+TEST(PageFolder, ThatWouldTakeForEverIsRefused) {
+    const TempFolder folder;
+    const std::string path = folder.Path().string();
+    WriteFile(folder / "help.hhp", "Default topic=Start.htm\n");
+    std::string tags;
+    for (int tag = 0; tag < 4999; ++tag) tags += "<br>";
+    WriteFile(folder / "start.htm", tags);
+    EXPECT_EQ(ErrorOfFolder(path), "");
+    WriteFile(folder / "start.htm", tags + "<P></p>");
+    EXPECT_EQ(ErrorOfFolder(path), "");
+    WriteFile(folder / "start.htm", tags + "</p><p></div><div>");
+    EXPECT_EQ(ErrorOfFolder(path), "Its page start.htm has too many open tags.");
+    WriteFile(folder / "start.htm", "");
+    std::filesystem::resize_file(folder / "start.htm", (16 << 20) + 1);
+    EXPECT_EQ(ErrorOfFolder(path), "Its file start.htm is too large.");
+    for (const char* name : {"1.png", "2.png", "3.png", "4.png", "start.htm"}) {
+        WriteFile(folder / name, "");
+        std::filesystem::resize_file(folder / name, 14 << 20);
+    }
+    EXPECT_EQ(ErrorOfFolder(path), "It holds too much.");
+    std::filesystem::remove(folder / "help.hhp");
+    ASSERT_EQ(mkfifo((folder / "help.hhp").c_str(), 0600), 0);
+    EXPECT_EQ(ErrorOfFolder(path), "Its file help.hhp can not be read.");
 }
 
 // ---- Contents ----
