@@ -72,7 +72,7 @@ void GameJournal::Follow(const Game& game, const TurnHistory& history) {
     if (history.TookBack()) Cut(sizes_.at(events));
     if (history.TookBack() || rules != game.beforeEvent.record.house) NoteRules(journal_, rules);
     AddEvent(journal_, game);
-    if (HasFoundNoMove(game)) NoteNoMove(journal_, game.record);
+    if (HasFoundNoMove(game)) NoteNoMove(journal_);
     if (events > sizes_.size()) sizes_.push_back(size_);
     sizes_.resize(events);
     size_ = journal_.entries.size();

@@ -85,10 +85,15 @@ void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box
     journal.entries.emplace_back(Said{ToldOfOpponent(name, box, answer)});
 }
 
-void NoteNoMove(Journal& journal, const GameRecord& record) {
-    const Said said{ToldOfNoMove(record.strPlayerName.at(record.bytTurn))};
-    if (!journal.entries.empty() && journal.entries.back() == JournalEntry(said)) return;
-    journal.entries.emplace_back(said);
+const Said& NoMoveFound() {
+    static const Said said{
+        ToldOfNoMove(PlainCaption(FindOpponentChoice(classicOpponent)->Caption))};
+    return said;
+}
+
+void NoteNoMove(Journal& journal) {
+    const JournalEntry told = NoMoveFound();
+    if (journal.entries.empty() || journal.entries.back() != told) journal.entries.push_back(told);
 }
 
 int TurnsOf(const Journal& journal) {

@@ -13,7 +13,6 @@
 namespace qarn {
 
 struct Game;
-struct GameRecord;
 
 /// A turn began.
 struct TurnBegun {
@@ -64,8 +63,11 @@ void NoteRules(Journal& journal, const HouseRules& rules);
 /// Adds what an opponent, by its name, has been asked and has answered.
 void NoteSaid(Journal& journal, std::string_view opponent, const MessageBox& box, Answer answer);
 
-/// Adds, unless it was told last, that the computer found no move for its side.
-void NoteNoMove(Journal& journal, const GameRecord& record);
+/// What is told where Classic, which alone finds none, has found no move.
+const Said& NoMoveFound();
+
+/// Adds that, unless it was told last.
+void NoteNoMove(Journal& journal);
 
 /// How many turns of both sides it tells of.
 int TurnsOf(const Journal& journal);

@@ -113,8 +113,11 @@ public:
         Say("House rules: " + (text.empty() ? "none" : text) + ".");
     }
 
-    // All of a turn stands together behind what came of it.
-    void operator()(const Said& said) { said_ += (said_.empty() ? "" : " ") + said.text; }
+    // What an opponent was asked stands together behind what came of it.
+    void operator()(const Said& said) {
+        if (said == NoMoveFound()) return Say(said.text);
+        said_ += (said_.empty() ? "" : " ") + said.text;
+    }
 
 private:
     void Say(const std::string& sentence) { turns_.back().sentences.push_back(sentence); }

@@ -93,6 +93,19 @@ TEST(Journal, TellsAWayThatNobodyWent) {
     EXPECT_EQ(TellJournal(journal, played.game).back(), "   went from (1, 1) to (1, 1).");
 }
 
+TEST(Journal, TellsThatNoMoveWasFoundBeforeWhatAnotherOpponentDid) {
+    JournalGame played("Q@9,10 Z@1,1");
+    Journal journal = ReadJournal("turn 1 scout\n");
+    NoteNoMove(journal);
+    NoteNoMove(journal);
+    NoteSaid(journal, "scout", {.Title = "", .Text = "You have 3 units."}, Answer::OK);
+    journal.entries.emplace_back(Moved{1, {1}, {{9, 10}, {10, 10}}});
+    EXPECT_EQ(TellJournal(journal, played.game),
+              (std::vector<std::string>{"Turn 1: Red, played by Scout", "  Classic found no move.",
+                                        "  Hero went from (9, 10) to (10, 10).",
+                                        "  Told meanwhile: Scout has 3 units."}));
+}
+
 TEST(Journal, ReadsNoLineThatNobodyCanHaveWritten) {
     const std::string good = "turn 1 person\n";
     for (const char* line :

@@ -85,7 +85,7 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     EXPECT_EQ(Text("noMoveText"), "Red found no move.\nMove for it, or:");
     EXPECT_FALSE(Find("noMoveStrip")->geometry().intersects(Find("lblStatus")->geometry()));
     const Journal& journal = window->ShownJournal().Told();
-    EXPECT_EQ(journal.entries.back(), JournalEntry(Said{"Red found no move."}));
+    EXPECT_EQ(journal.entries.back(), JournalEntry(Said{"Classic found no move."}));
     QTest::mouseClick(Button("cmdPassItsTurn"), Qt::LeftButton);
     EXPECT_EQ(ShownGame().record.bytTurn, 2);
     EXPECT_FALSE(Find("noMoveStrip")->isVisible());
