@@ -63,10 +63,10 @@ std::string PlaceOf(const Muster& muster) {
 
 std::string ToldOfSide(int scenario, std::uint8_t side) {
     const Muster muster = MusterOf(DataOfScenario(scenario), side);
-    return std::string(side == 1 ? "Goodbeasts: " : "Badbeasts: ") + std::to_string(muster.groups) +
-           " groups, the strongest " + std::string(muster.strongest->Name) + "; " +
-           std::to_string(muster.attack) + " attack, " + std::to_string(muster.defense) +
-           " defense, " + PlaceOf(muster) + ".";
+    return std::string(side == 1 ? "Goodbeasts (circles): " : "Badbeasts (squares): ") +
+           std::to_string(muster.groups) + " groups, the strongest " +
+           std::string(muster.strongest->Name) + "; " + std::to_string(muster.attack) +
+           " attack, " + std::to_string(muster.defense) + " defense, " + PlaceOf(muster) + ".";
 }
 
 }  // namespace qarn

@@ -30,11 +30,12 @@ TEST(Catalogue, BindsNumberCodeAndTitles) {
 }
 
 TEST(Catalogue, TellsWhatASideIs) {
-    EXPECT_EQ(
-        ToldOfSide(1, 1),
-        "Goodbeasts: 10 groups, the strongest Brook Otters; 41 attack, 40 defense, in the north.");
+    EXPECT_EQ(ToldOfSide(1, 1),
+              "Goodbeasts (circles): 10 groups, the strongest Brook Otters; 41 attack, 40 defense, "
+              "in the north.");
     EXPECT_EQ(ToldOfSide(1, 2),
-              "Badbeasts: 10 groups, the strongest Toll-Lord Maddern; 42 attack, 42 defense, in "
+              "Badbeasts (squares): 10 groups, the strongest Toll-Lord Maddern; 42 attack, 42 "
+              "defense, in "
               "the east.");
     EXPECT_EQ(ToldOfSide(3, 1).substr(ToldOfSide(3, 1).rfind(", ")), ", all over the board.");
     EXPECT_THROW(ToldOfSide(0, 1), std::out_of_range);
