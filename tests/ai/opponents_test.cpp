@@ -178,13 +178,15 @@ TEST(Levels, TakeAWinThatIsThere) {
     }
 }
 
-// One who stands still in full squares and with a single beside them is hunted down.
+// Those who stand still are hunted down, though the best have to gather first, and no strike that
+// is open waits for ever.
 TEST(Levels, GatherAndHuntThoseWhoStandStill) {
     const Chooser idle = [](const Position&, std::uint64_t, Thinking&) -> std::optional<Plan> {
         return {};
     };
-    const Position start = StartOf(ScenarioNumber("SB"));
-    EXPECT_EQ(PlayMatchGame(start, {nullptr, idle, ChooseCaptainTurn}, 1, 60).winner, 2);
+    const Position start = StartOf(ScenarioNumber("WR"));
+    EXPECT_EQ(PlayMatchGame(start, {nullptr, ChooseCaptainTurn, idle}, 1, 100).winner, 1);
+    EXPECT_EQ(PlayMatchGame(start, {nullptr, idle, ChooseCaptainTurn}, 1, 100).winner, 2);
 }
 
 // ---- Hints ----

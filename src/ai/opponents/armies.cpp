@@ -66,6 +66,12 @@ int TurnsTo(const Stack& stack, Square square, int mobility, const Distances& di
     return std::min(direct, std::min(stack.fetching + sailing, neverThere));
 }
 
+int Army::Strength() const {
+    int sum = 0;
+    for (const Stack& stack : *this) sum += stack.strength;
+    return sum;
+}
+
 Armies::Armies(const Position& position, const Distances& distances) {
     for (std::uint8_t i = 1; i <= peopleCount; ++i) {
         const Group& one = position.People[i];

@@ -45,6 +45,8 @@ public:
     const Stack* begin() const { return stacks_.data(); }
     const Stack* end() const { return begin() + count_; }
     std::size_t Count() const { return count_; }
+    /// Attack and defense of all characters.
+    int Strength() const;
     /// The team that could gather on the square of stack k.
     const Team& TeamOf(std::size_t k) const { return teams_[k]; }
 

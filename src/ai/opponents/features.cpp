@@ -32,16 +32,6 @@ int WinsOf(int attack, int defense) {
     return std::clamp(ThresholdOf(attack, defense) - 1, 0, dieSides);
 }
 
-float WorthOf(const Stack& own, const Stack& enemy) {
-    const int threshold = ThresholdOf(own.attack, enemy.defense);
-    const int wins = std::clamp(threshold - 1, 0, dieSides);
-    const int loses = std::clamp(dieSides - threshold, 0, dieSides);
-    constexpr auto fifth = 1.0F / dieSides;
-    const float lost = static_cast<float>(loses) + static_cast<float>(wins) * fifth;
-    return fifth *
-           (static_cast<float>(wins * enemy.strength) - lost * static_cast<float>(own.weakest));
-}
-
 // One side's features.
 class SideView {
 public:
@@ -125,7 +115,7 @@ private:
                 const Team& team = own_.TeamOf(k++);
                 if (const int wins = WinsOf(stack.attack, enemy.defense); wins > 0) {
                     const int turns = Turns(stack, enemy.square, stack.mobility);
-                    const float worth = WorthOf(stack, enemy);
+                    const float worth = WorthOfStrike(stack.attack, stack.weakest, enemy);
                     if (turns <= 1) now = std::max(now, worth);
                     if (turns <= 2) next = std::max(next, worth);
                     if (turns <= 4) later = std::max(later, worth);
@@ -168,18 +158,21 @@ private:
     float* features_;
 };
 
-int StrengthOf(const Army& army) {
-    int sum = 0;
-    for (const Stack& stack : army) sum += stack.strength;
-    return sum;
-}
-
 }  // namespace
+
+float WorthOfStrike(int attack, int weakest, const Stack& enemy) {
+    const int threshold = ThresholdOf(attack, enemy.defense);
+    const int wins = std::clamp(threshold - 1, 0, dieSides);
+    const int loses = std::clamp(dieSides - threshold, 0, dieSides);
+    constexpr auto fifth = 1.0F / dieSides;
+    const float lost = static_cast<float>(loses) + static_cast<float>(wins) * fifth;
+    return fifth * (static_cast<float>(wins * enemy.strength) - lost * static_cast<float>(weakest));
+}
 
 // With own and enemy strengths a and b the share is a / (a + b).
 float BalanceOf(const Armies& armies, std::uint8_t side) {
-    const auto a = static_cast<float>(StrengthOf(armies.OfSide(side)));
-    const auto b = static_cast<float>(StrengthOf(armies.OfSide(OtherSide(side))));
+    const auto a = static_cast<float>(armies.OfSide(side).Strength());
+    const auto b = static_cast<float>(armies.OfSide(OtherSide(side)).Strength());
     return (a - b) / (a + b - std::abs(a - b) + 1);
 }
 

@@ -46,6 +46,10 @@ inline constexpr std::size_t balanceFeature = 2 * featureCount;
 /// balance of their strengths, 0 when they are equal.
 using Features = std::array<float, 2 * featureCount + 1>;
 
+/// What an attack of so many units on a stack is worth: the strength that falls by expectation,
+/// less what it costs attackers of whom the weakest has this strength.
+float WorthOfStrike(int attack, int weakest, const Stack& enemy);
+
 /// The balance of strengths, as the side sees it.
 float BalanceOf(const Armies& armies, std::uint8_t side);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ai/opponents/campaigns.h"
 #include "rules/questions/odds.h"
 #include "rules/questions/start.h"
 
@@ -23,6 +24,12 @@ constexpr float haste = 0.4F;
 // For the same reason each turn counts a little by the strengths that it leaves, so that of two
 // ways to win the same the sooner one is better.
 constexpr float hasteEachTurn = 0.05F;
+
+// Turns whose values differ by less are as good as each other. Among them counts, by this weight,
+// what the side could gather and march for: a search of a few turns sees no use in either, and a
+// side that stands well would shuffle for ever.
+constexpr float asGood = 0.003F;
+constexpr float campaignCounts = 0.3F;
 
 constexpr Dice losing{.roll = dieSides};
 constexpr Dice winningAtACost{.roll = 1, .secondRoll = rollThatCosts};
@@ -195,22 +202,36 @@ bool Search::IsOver() const {
     return thinking_.positions >= limits_.positions || thinking_.decideNow.stop_requested();
 }
 
+// How much a turn brings on. A fight is what a campaign is for, and counts as the one before it.
+float Search::Pressing(const Turn& turn) const {
+    Node after = root_;
+    const std::optional<Attacked> attack = Play(after, turn, {}, distances_);
+    const Node& seen = attack && attack->roll ? root_ : after;
+    return campaignCounts * CampaignOf(seen.armies, root_.Side(), distances_);
+}
+
 Turn Search::Best(const SearchLimits& limits) {
     limits_ = limits;
     std::vector<RatedTurn> turns = RateTurns();
+    for (RatedTurn& one : turns) one.value += Pressing(one.turn);
+    std::stable_sort(turns.begin(), turns.end(), IsBetter);
     turns.resize(std::min(turns.size(), limits.turns));
-    Turn best = turns.front().turn;
+
+    std::vector<RatedTurn> searched;
     float most = 0;
     for (RatedTurn& one : turns) {
-        const float value = Expect(root_, one.turn, {most, 1}, [&](const Node& after, Window w) {
-            return Value(after, limits.plies - 1, w);
+        const Window window{std::max(0.0F, most - asGood), 1};
+        one.value = Expect(root_, one.turn, window, [&](const Node& after, Window within) {
+            return Value(after, limits.plies - 1, within);
         });
         if (IsOver()) break;  // this one was cut short
-        if (value <= most) continue;
-        most = value;
-        best = one.turn;
+        most = std::max(most, one.value);
+        searched.push_back(one);
     }
-    return best;
+    if (searched.empty()) return turns.front().turn;
+    std::erase_if(searched, [&](const RatedTurn& one) { return one.value <= most - asGood; });
+    for (RatedTurn& one : searched) one.value += Pressing(one.turn);
+    return std::min_element(searched.begin(), searched.end(), IsBetter)->turn;
 }
 
 }  // namespace qarn

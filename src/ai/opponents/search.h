@@ -38,7 +38,8 @@ public:
     /// All turns of the side to move, the best first, each by its value one ply ahead.
     std::vector<RatedTurn> RateTurns() { return RateTurns(root_); }
 
-    /// The best turn that is found within the limits.
+    /// The best turn that is found within the limits; of those that are as good, the one that
+    /// brings on the best strike.
     Turn Best(const SearchLimits& limits);
 
 private:
@@ -55,6 +56,7 @@ private:
     float BestTurn(const Node& node, int plies, Window window);
     float BestReply(const Node& node, Window window);
     bool IsOver() const;
+    float Pressing(const Turn& turn) const;
     std::uint8_t ChooseCasualty(const Node& node, Turn turn, Dice dice);
     template <typename ValueOf>
     float WorthTo(std::uint8_t side, const Node& node, Window window, const ValueOf& valueOf);
