@@ -64,13 +64,15 @@ void BoardWidget::BringUpToDate() {
     HideOldTip();
 }
 
-// What it says may hold no longer.
+// What it says may hold no longer. Another widget's may have come up meanwhile.
 void BoardWidget::HideOldTip() {
-    if (shown_.tipped == nowhere) return;
-    const std::string now = TipOfSquare(game_, shown_.tipped.x(), shown_.tipped.y());
-    if (QToolTip::isVisible() && QToolTip::text() == ToQt(now)) return;
-    if (QToolTip::isVisible()) QToolTip::hideText();
-    shown_.tipped = nowhere;
+    if (shown_.tip.isEmpty() || shown_.tip == TipOf(shown_.tipped)) return;
+    if (QToolTip::text() == shown_.tip) QToolTip::hideText();
+    shown_.tip.clear();
+}
+
+QString BoardWidget::TipOf(QPoint square) const {
+    return ToQt(TipOfSquare(game_, square.x(), square.y()));
 }
 
 void BoardWidget::ShowSquare(QPoint square) {
@@ -259,8 +261,8 @@ bool BoardWidget::event(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const QPoint square = SquareAt(help->pos());
     shown_.tipped = square;
-    QToolTip::showText(help->globalPos(), ToQt(TipOfSquare(game_, square.x(), square.y())), this,
-                       PlaceOfSquare(square));
+    shown_.tip = TipOf(square);
+    QToolTip::showText(help->globalPos(), shown_.tip, this, PlaceOfSquare(square));
     return true;
 }
 

@@ -75,6 +75,7 @@ private:
     void ShowReach();
     void ShowLastMove();
     void HideOldTip();
+    QString TipOf(QPoint square) const;
     void LookAt(QPoint square);
     void LookAt(const Look& look);
     void MoveMark(QPoint& mark, QPoint square);

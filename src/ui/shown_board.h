@@ -60,6 +60,7 @@ struct ShownBoard {
     bool focused = false;  ///< the cursor is to be seen
     QPoint hovered;
     QPoint tipped;  ///< whose tooltip was shown last
+    QString tip;    ///< what it said; empty: it is not to be seen any more
 };
 
 }  // namespace qarn
