@@ -35,8 +35,7 @@ TEST(Catalogue, TellsWhatASideIs) {
               "in the north.");
     EXPECT_EQ(ToldOfSide(1, 2),
               "Badbeasts (squares): 10 groups, the strongest Toll-Lord Maddern; 42 attack, 42 "
-              "defense, in "
-              "the east.");
+              "defense, in the east.");
     EXPECT_EQ(ToldOfSide(3, 1).substr(ToldOfSide(3, 1).rfind(", ")), ", all over the board.");
     EXPECT_THROW(ToldOfSide(0, 1), std::out_of_range);
 }
