@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 
+#include <exception>
 #include <filesystem>
 #include <system_error>
 
@@ -63,13 +64,13 @@ bool IsToRecover(const std::string& file, const std::string& strGamePath) {
 
 std::shared_ptr<const OpenFile> TakeRecovery(const Ports& ports, const std::string& strGamePath) {
     if (ports.folders.userState.empty()) return nullptr;
-    const fs::path path = LockOf(ports, strGamePath);
     constexpr int flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK;
     try {
+        const fs::path path = LockOf(ports, strGamePath);
         fs::create_directories(path.parent_path());
         auto lock = std::make_shared<const OpenFile>(path.string(), flags, S_IRUSR | S_IWUSR);
         return lock->Lock(false) ? lock : nullptr;
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) {
         return nullptr;
     }
 }

@@ -42,6 +42,11 @@ void BeginRecovery(Game& game) {
     game.keeping = TakeRecovery(game.ports, game.record.strGamePath);
 }
 
+void ReturnToRecovery(Game& game) {
+    BeginRecovery(game);
+    if (!game.blnOpen) game.keeping.reset();
+}
+
 void FollowRecovery(Game& game) {
     const bool loads = !game.beforeEvent.blnOpen;
     if (!loads && game.keeping) {

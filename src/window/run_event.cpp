@@ -19,6 +19,7 @@ void RollBack(Game& game) {
     game.controls = game.beforeEvent.controls;
     game.blnOpen = game.beforeEvent.blnOpen;
     game.happenings.clear();
+    ReturnToRecovery(game);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include "shell/start_window.h"
 #include "support/played_game.h"
+#include "window/load_game.h"
+#include "window/run_event.h"
 
 namespace qarn {
 namespace {
@@ -129,6 +131,22 @@ TEST_F(Recovery, IsLeftToTheProgramThatPlaysTheGame) {
     other.Do("saveas other.tgf");
     played.Open();
     EXPECT_TRUE(played.game.keeping);
+}
+
+TEST_F(Recovery, StaysWithTheGameThatAFaultBringsBack) {
+    const std::string another = played.folder / "another.tgf";
+    WriteFile(another, saved);
+    RunEvent(played.game, "Form_Load", [&](Game& game) {
+        Form_Load(game, another);
+        throw 7;
+    });
+    PlayedGame other;
+    other.game.ports.folders.userState = played.game.ports.folders.userState;
+    for (const std::string& path : {played.path, another}) {
+        other.path = path;
+        other.Open();
+        EXPECT_EQ(other.game.keeping != nullptr, path == another) << path;
+    }
 }
 
 TEST_F(Recovery, IsForgottenAtTheEndAndNoBoxWhenItCannotBeKept) {
