@@ -256,9 +256,15 @@ void FrmGame::Choose(const MenuCommand& command) {
 // By the time the window becomes active it has its frame.
 void FrmGame::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) docks_.TakeSpareRoom();
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || fitsScreen_) return;
     fitsScreen_ = true;
     FitOnScreen(*this);
+}
+
+void FrmGame::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    docks_.TakeSpareRoom();
 }
 
 // What the focused widget has no use for.

@@ -3,10 +3,26 @@
 #include <QLayout>
 #include <QScreen>
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "core/game.h"
 
 namespace qarn {
+namespace {
+
+// All columns of the roster need that much more than what a text is easy to read in.
+constexpr double widest = 1.5;
+
+// By what is spare; below 0, down to what can still be read easily.
+int Widened(const QDockWidget& dock, int spare) {
+    const int readable = dock.sizeHint().width();
+    const int least = std::min(dock.width(), readable);
+    const int most = std::max(dock.width(), qRound(readable * widest));
+    return std::clamp(dock.width() + spare, least, most);
+}
+
+}  // namespace
 
 GameDocks::GameDocks(QMainWindow& window, Wishes wishes)
     : window_(window), wishes_(std::move(wishes)) {}
@@ -55,6 +71,7 @@ void GameDocks::SetVisible(SideDock& dock, bool visible) {
         window_.layout()->activate();  // what a dock was short of it takes first
     } while (GiveBoardRoom(boardRoom, least));
     widened_ = window_.width() - least;
+    TakeSpareRoom();
 }
 
 // The board stays as large as it was where the screen has room for it, and the window becomes no
@@ -70,6 +87,41 @@ bool GameDocks::GiveBoardRoom(int before, int least) {
     const int beyond = window_.frameGeometry().right() - screen.right();
     if (beyond > 0) window_.move(window_.x() - beyond, window_.y());
     return true;
+}
+
+void GameDocks::TakeSpareRoom() {
+    const bool large = window_.isMaximized() || window_.isFullScreen();
+    const bool was = std::exchange(large_, large);
+    const QList<QDockWidget*> docks = DocksBeside();
+    if (docks.isEmpty() || (!large && !was)) return;
+    const int spare = SpareRoomBeside(docks);
+    QList<int> widths;
+    for (const QDockWidget* dock : docks) {
+        if (!was) usualWidth_[dock] = dock->width();
+        widths.append(large ? Widened(*dock, spare)
+                            : usualWidth_.value(dock, dock->sizeHint().width()));
+    }
+    window_.resizeDocks(docks, widths, Qt::Horizontal);
+    window_.layout()->activate();  // it would wait for the next change of the layout
+}
+
+QList<QDockWidget*> GameDocks::DocksBeside() const {
+    QList<QDockWidget*> docks;
+    for (SideDock* dock : {static_cast<SideDock*>(journal_), static_cast<SideDock*>(roster_)}) {
+        if (dock != nullptr && !dock->isHidden() && !dock->isFloating()) docks.append(dock);
+    }
+    return docks;
+}
+
+// How many pixels of the width beside the board are used by nobody, on each side where docks are;
+// below 0, how many more the board would use.
+int GameDocks::SpareRoomBeside(const QList<QDockWidget*>& docks) const {
+    std::set<Qt::DockWidgetArea> sides;
+    for (QDockWidget* dock : docks) sides.insert(window_.dockWidgetArea(dock));
+    const QSize room = window_.centralWidget()->size();
+    const QSize shape = window_.centralWidget()->sizeHint();
+    const int used = room.height() * shape.width() / shape.height();
+    return (room.width() - used) / static_cast<int>(sides.size());
 }
 
 QByteArray GameDocks::Places() const {

@@ -143,5 +143,22 @@ TEST_F(Docks, TakeNoRoomFromTheBoardThatTheScreenHas) {
     EXPECT_EQ(board->size(), boardSize);
 }
 
+TEST_F(Docks, TakeWhatTheBoardLeavesEmptyOfALargeWindow) {
+    Open("Q@9,5 WA@17,2");
+    MenuItem("mnuRoster")->trigger();
+    const QWidget* area = window->centralWidget();
+    const int boardsWidth = area->width();
+    const int readable = Find("dckRoster")->sizeHint().width();
+    window->setScreen(QGuiApplication::screens().constLast());
+    MenuItem("mnuFullScreen")->trigger();
+    QCoreApplication::processEvents();
+    const QSize shape = area->sizeHint();
+    EXPECT_EQ(area->width(), area->height() * shape.width() / shape.height());
+    EXPECT_GT(Find("dckRoster")->width(), readable + 20);
+    MenuItem("mnuFullScreen")->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(area->width(), boardsWidth);
+}
+
 }  // namespace
 }  // namespace qarn
