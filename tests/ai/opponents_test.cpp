@@ -5,9 +5,11 @@
 #include "ai/choosers.h"
 #include "ai/hint.h"
 #include "ai/match_game.h"
+#include "ai/opponents/campaigns.h"
 #include "ai/opponents/features.h"
 #include "ai/opponents/levels.h"
 #include "ai/opponents/node.h"
+#include "ai/opponents/search.h"
 #include "ai/starting_position.h"
 #include "core/opponents.h"
 #include "core/random_numbers.h"
@@ -176,6 +178,35 @@ TEST(Levels, TakeAWinThatIsThere) {
         Position after = PositionOf(played.game.record);
         EXPECT_EQ(PlayTurn(after, *plan, {}).winner, 1) << name;
     }
+}
+
+// Of turns that are as good, one who presses takes that which brings the best strike on. Captain
+// does only while its side is the stronger one, Warlord always.
+TEST(Search, BringsOnTheBestStrikeWhereItPresses) {
+    SearchLimits limits{.plies = 2, .turns = 8, .passes = 0.5F, .positions = 100'000};
+    const auto campaignAfter = [&](const Position& position, bool always) {
+        limits.pressesAlways = always;
+        Thinking thinking;
+        const Distances& distances = DistancesFor(position);
+        Node node(position, distances);
+        Play(node, Search(position, learnedWeights, thinking).Best(limits), {}, distances);
+        return CampaignOf(node.armies, position.bytTurn, distances);
+    };
+    int broughtOn = 0;
+    Position position = StartOf(12);
+    position.bytTurn = 1;
+    for (std::uint64_t turn = 0; turn < 40; ++turn) {
+        const Armies armies(position, DistancesFor(position));
+        const float always = campaignAfter(position, true);
+        const float whileStronger = campaignAfter(position, false);
+        EXPECT_GE(always, whileStronger) << turn;
+        const bool stronger = BalanceOf(armies, position.bytTurn) > 0;
+        EXPECT_TRUE(always == whileStronger || !stronger) << turn;
+        broughtOn += always > whileStronger ? 1 : 0;
+        Thinking thinking;
+        PlayTurn(position, *ChooseCaptainTurn(position, turn, thinking), {.roll = dieSides});
+    }
+    EXPECT_GT(broughtOn, 0);
 }
 
 // Those who stand still are hunted down, though the best have to gather first, and no strike that

@@ -7,7 +7,8 @@ namespace qarn {
 namespace {
 
 constexpr double errs = 1.0 / 4;
-constexpr SearchLimits captainsLimits{.plies = 2, .turns = 8, .passes = 0.5F, .positions = 100'000};
+constexpr SearchLimits captainsLimits{
+    .plies = 2, .turns = 8, .passes = 0.5F, .pressesAlways = false, .positions = 100'000};
 constexpr SearchLimits warlordsLimits{
     .plies = 3, .turns = 30, .replies = 6, .passes = 0.1F, .positions = 400'000};
 

@@ -204,6 +204,7 @@ bool Search::IsOver() const {
 
 // How much a turn brings on. A fight is what a campaign is for, and counts as the one before it.
 float Search::Pressing(const Turn& turn) const {
+    if (!limits_.pressesAlways && BalanceOf(root_.armies, root_.Side()) <= 0) return 0;
     Node after = root_;
     const std::optional<Attacked> attack = Play(after, turn, {}, distances_);
     const Node& seen = attack && attack->roll ? root_ : after;

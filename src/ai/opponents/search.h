@@ -21,6 +21,7 @@ struct SearchLimits {
     std::size_t turns = 1;        ///< so many, the best one ply ahead, are looked at; at least 1
     std::size_t replies = 1;      ///< so many at the plies between; at least 1
     float passes = 0;             ///< how likely the opponent is held to be to pass, 0 to below 1
+    bool pressesAlways = true;    ///< else only while its strengths left are more than the enemy's
     std::uint64_t positions = 0;  ///< when so many have been evaluated, the search ends
 };
 
@@ -38,8 +39,8 @@ public:
     /// All turns of the side to move, the best first, each by its value one ply ahead.
     std::vector<RatedTurn> RateTurns() { return RateTurns(root_); }
 
-    /// The best turn that is found within the limits; of those that are as good, the one that
-    /// brings on the best strike.
+    /// The best turn that is found within the limits; of those that are as good, where the side
+    /// presses, the one that brings on the best strike.
     Turn Best(const SearchLimits& limits);
 
 private:
