@@ -319,13 +319,18 @@ class ConsoleTest(unittest.TestCase):
 
     def test_a_sitting_of_a_person_that_was_killed_can_be_recovered(self):
         environment = {**os.environ, "XDG_STATE_HOME": self.path("state")}
-        with subprocess.Popen([PROGRAM], cwd=self.folder, env=environment, text=True,
-                              stdin=subprocess.PIPE, stdout=subprocess.PIPE) as program:
-            program.stdin.write(f"random 0\n{NEW}\nmenu mnuPassTurn\nyes\n")
-            program.stdin.flush()
-            while "It is Blue's turn." not in program.stdout.readline():
-                pass
-            program.kill()
+
+        def sit_and_be_killed():
+            with subprocess.Popen([PROGRAM], cwd=self.folder, env=environment, text=True,
+                                  stdin=subprocess.PIPE, stdout=subprocess.PIPE) as program:
+                program.stdin.write(f"random 0\n{NEW}\nmenu mnuPassTurn\nyes\n")
+                program.stdin.flush()
+                while "It is Blue's turn." not in program.stdout.readline():
+                    pass
+                program.kill()
+
+        sit_and_be_killed()
+        sit_and_be_killed()  # its new game forgets the one that was to be recovered
         run = self.run_program("yes\nclose\nyes\n", "g.tgf", env=environment)
         self.assertIn(b"Do you want to go on from the last turn?", run.stdout)
         self.assertEqual(self.read("g.tgf").splitlines()[3].strip(), "2", "Blue is to move")
