@@ -4,7 +4,7 @@
 #include "console/words.h"
 #include "shell/user_settings.h"
 #include "support/console_game.h"
-#include "support/played_game.h"
+#include "support/saved_game.h"
 
 namespace qarn {
 namespace {
@@ -34,25 +34,21 @@ std::string Told(const Json& attack) {
 
 TEST(Reach, OfTheGroupInMoveAndOfAStack) {
     struct Row {
-        const char *position, *commands, *reached;
+        std::string position, commands, reached;
     };
-    const char* corner = "Q@1,10 HF@1,10 BT@1,10 Z@3,10";
+    const std::string nobody = "No group is in move.";
+    const std::string move = "press cmdMove; click 16 10; press cmdDoneSel; ";
     const Row rows[] = {
-        {corner, "reach", "No group is in move."},
-        {corner, "press cmdMove; reach", "No group is in move."},
-        {corner, "press cmdMove; click 1 10; reach", "No group is in move."},
-        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; press cmdDoneSel; reach",
+        {"Q@16,10 Z@1,1", "reach", nobody},
+        {"Q@16,10 Z@1,1", "press cmdMove; reach", nobody},
+        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; reach", nobody},
+        {"Q@16,10 Z@1,1", move + "reach",
          "15,10=1 16,9=1 17,10=1 14,10=2 15,9=2 17,9=2 18,10=2 13,10=3 17,8=3 18,9=3 "},
-        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; press cmdDoneSel; click 17 10; reach",
+        {"Q@16,10 Z@1,1", move + "click 17 10; reach",
          "16,10=1 17,9=1 18,10=1 15,10=2 16,9=2 17,8=2 18,9=2 "},
-        {"Q@16,10 Z@1,1",
-         "press cmdMove; click 16 10; press cmdDoneSel; click 17 10; click 18 10; click 17 10; "
-         "reach",
-         ""},
-        {"Q@16,10 HF@17,10 Z@1,1",
-         "press cmdMove; click 16 10; press cmdDoneSel; click 17 10; reach", ""},  // joined
-        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; press cmdDoneSel; press cmdMove; reach",
-         "No group is in move."},
+        {"Q@16,10 Z@1,1", move + "click 17 10; click 18 10; click 17 10; reach", ""},
+        {"Q@16,10 HF@17,10 Z@1,1", move + "click 17 10; reach", ""},  // joined
+        {"Q@16,10 Z@1,1", move + "press cmdMove; reach", nobody},
         {"Q@16,10 Z@1,1", "reach 15 10", "There is no one on that square."},
         {"Q@16,10 BT@15,10 Z@1,1", "reach 15 10", "The cart and/or boat can not go on its own."},
         {"Q@16,10 Z@1,1", "reach 15", "A square has a column and a row."},
@@ -74,18 +70,17 @@ TEST(OddsCommand, TellsBothWaysOfAttacking) {
     struct Row {
         const char *position, *squares, *byCommand, *direct;
     };
+    const char *even = "10:4 0.4 0.2 0.4 0.2", *lost = "4:11 0.0 0.0 1.0 0.0",
+               *burns = "15:6 1.0 0.0 0.0 0.0 burns";
     const Row rows[] = {
-        {"LS@15,10 SK@15,10 ZA1@16,10", "15 10 16 10", "10:4 0.4 0.2 0.4 0.2",
-         "10:4 0.4 0.2 0.4 0.2"},
-        {"LS@15,10 SK@15,10 ZA1@16,10", "16 10 15 10", "4:11 0.0 0.0 1.0 0.0",
-         "4:11 0.0 0.0 1.0 0.0"},  // the side that is not to move
+        {"LS@15,10 SK@15,10 ZA1@16,10", "15 10 16 10", even, even},
+        {"LS@15,10 SK@15,10 ZA1@16,10", "16 10 15 10", lost, lost},  // who is not to move
         {"LS@13,7 SK@13,7 ZA1@14,7", "13 7 14 7", "none", "10:6 0.2 0.2 0.6 0.2"},
         {"LS@15,10 WS@15,10 ZA1@17,10", "15 10 17 10", "none", "none"},
         {"LS@15,10 BT@16,10", "15 10 16 10", "none", "none"},
         {"LS@15,10 HF@16,10", "15 10 16 10", "7:2 0.2 0.2 0.6 0.2", "none"},   // of one's own side
         {"LS@5,1 WS@5,1 ZA1@6,1", "5 1 6 1", "15:4 0.8 0.2 0.0 0.2", "none"},  // over water
-        {"LS@14,4 WS@14,4 WA@15,4", "14 4 15 4", "15:6 1.0 0.0 0.0 0.0 burns",
-         "15:6 1.0 0.0 0.0 0.0 burns"},
+        {"LS@14,4 WS@14,4 WA@15,4", "14 4 15 4", burns, burns},
         {"BT@15,10 ZA1@16,10", "15 10 16 10", "none", "none"},
         {"LS@15,10 ZA1@16,10", "14 10 16 10", "none", "none"},
     };
@@ -118,7 +113,7 @@ TEST(Hints, TellAndShowTheWinThatIsThere) {
     EXPECT_TRUE(objects[7]["hint"].is_null());
     WriteFile(game.path, SavedGame("WS@12,10 TS@12,10 Q@9,10 Z@15,10"));
     const std::string sentence = hint["sentence"];
-    EXPECT_NE(game.ForPerson("hint").find("\n" + sentence + "\n"), std::string::npos);
+    EXPECT_TRUE(Has(game.ForPerson("hint"), "\n" + sentence + "\n"));
 }
 
 TEST(Answers, ForAPerson) {
@@ -130,10 +125,9 @@ TEST(Answers, ForAPerson) {
           "\nBy stepping in, 10 against 5: wins 20 %, ties 20 %, loses 60 %; after a win one in "
           "five costs a character.\n",
           "\nBy the Attack command, 3 against 12: wins 0 %, ties 0 %, loses 100 %.\n",
-          "> The cart and/or boat can not go on its own.\n"}) {
-        EXPECT_NE(text.find(part), text.npos) << part << "\n" << text;
+          "> The cart and/or boat can not go on its own.\n", "\nFor 2 mobility units:"}) {
+        EXPECT_TRUE(Has(text, part));
     }
-    EXPECT_NE(text.find("\nFor 2 mobility units:"), text.npos) << text;
 }
 
 TEST(JournalCommand, GoesOnWithAGameThatCouldNotBeLeft) {
@@ -156,15 +150,44 @@ TEST(JournalCommand, TellsTheOpponentsTurnAndWhatItSaid) {
     std::string lines;
     for (const Json& line : objects[3]["journal"]) lines += line.get<std::string>() + "\n";
     EXPECT_EQ(lines.find("House rules: own groups only.\nTurn 1: Red, played by Captain\n"), 0u);
-    EXPECT_NE(lines.find("\n  Told meanwhile: Captain will have to initiate a direct attack to "
-                         "proceed.  Does Captain want to attack? Yes. Captain will win if"),
-              lines.npos)
-        << lines;
+    EXPECT_TRUE(Has(lines,
+                    "\n  Told meanwhile: Captain will have to initiate a direct attack to "
+                    "proceed.  Does Captain want to attack? Yes. Captain will win if"));
     EXPECT_FALSE(objects[4].contains("journal"));
-    const std::string told = game.ForPerson("journal");
-    EXPECT_NE(told.find("House rules: own groups only.\nTurn 1: Red, played by Classic\n"),
-              told.npos)
-        << told;
+    EXPECT_TRUE(Has(game.ForPerson("journal"),
+                    "House rules: own groups only.\nTurn 1: Red, played by Classic\n"));
+}
+
+// ---- The Play menu by commands ----
+
+TEST(PlayMenu, TakesBackByCommands) {
+    ConsoleGame game(SavedGame("LS@9,10 SK@9,10 ZA1@10,10 Z@1,1"));
+    const auto objects = game.ForProgram(
+        "state; press cmdMove; click 9 10; untick 1; undo; press cmdDoneSel; click 9 9; cancel; "
+        "undo; cancel");
+    const auto same = [&](std::size_t a, std::size_t b) {
+        for (const char* key : {"record", "squares", "chkItems", "buttons", "menus", "lblStatus"}) {
+            EXPECT_EQ(objects[a][key], objects[b][key]) << a << " " << b << " " << key;
+        }
+    };
+    same(4, 2);
+    EXPECT_NE(objects[6]["record"], objects[5]["record"]);
+    same(7, 0);
+    EXPECT_EQ(objects[8]["error"], "mnuTakeBack can not be chosen now.");
+    EXPECT_EQ(objects[9]["error"], "mnuCancelMove can not be chosen now.");
+}
+
+TEST(PlayMenu, AsksByQueuedAnswers) {
+    ConsoleGame game(SavedGame("Q@9,10 WA@15,4"));
+    const auto objects =
+        game.ForProgram("pass; answer yes; pass; resign; answer no yes; draw; draw; state");
+    EXPECT_EQ(objects[0]["boxes"][0]["answer"], "no");
+    EXPECT_EQ(objects[0]["record"]["bytTurn"], 1);
+    EXPECT_EQ(objects[2]["record"]["bytTurn"], 2);
+    EXPECT_EQ(objects[2]["happenings"], (Json{{{"what", "turn"}, {"side", 2}}}));
+    EXPECT_FALSE(objects[3]["ended"] || objects[5]["ended"]);
+    EXPECT_EQ(objects[6]["happenings"], (Json{{{"what", "end"}, {"winner", 0}}}));
+    EXPECT_TRUE(objects[6]["ended"]);
 }
 
 }  // namespace

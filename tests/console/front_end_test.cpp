@@ -5,47 +5,42 @@
 #include "console/session.h"
 #include "core/player_error.h"
 #include "support/console_game.h"
-#include "support/played_game.h"
+#include "support/saved_game.h"
 
 namespace qarn {
 namespace {
 
-std::string Named(std::string game, const std::string& red, const std::string& blue) {
-    for (const auto& [name, other] : {std::pair{std::string("Red"), red}, {"Blue", blue}}) {
-        const std::size_t at = game.find("\n" + name) + 1;
-        game.replace(
-            at, std::max(name.size(), other.size()),
-            other + std::string(name.size() > other.size() ? name.size() - other.size() : 0, ' '));
-    }
-    return game;
+std::string Named(const std::string& position, std::string red, std::string blue) {
+    red.resize(54, ' ');
+    blue.resize(54, ' ');
+    return SavedGame(position).replace(4, red.size(), red).replace(4 + 61, blue.size(), blue);
 }
 
 TEST(Terminal, ShowsAmpersandsInNamesAndNoneInCaptions) {
-    ConsoleGame rockers(Named(SavedGame("turn1 WS@3,7 Z@1,1"), "Rock & Roll", "R&B"));
+    ConsoleGame rockers(Named("turn1 WS@3,7 Z@1,1", "Rock & Roll", "R&B"));
     const std::string text = rockers.ForPerson(
         "press cmdMove; click 3 7; press cmdDoneSel; click 2 7; click 2 6; click 2 7; click 2 6; "
-        "press "
-        "cmdMove");
+        "press cmdMove");
     for (const char* part : {" - game.tgf (Rock & Roll vs. R&B)\n", "\nIt is Rock & Roll's turn.\n",
                              "\nYou have 0 mobility units left.\nClick Done Moving\n",
                              "cmdMove (Done Moving)", "\nIt is R&B's turn.\n"}) {
-        EXPECT_NE(text.find(part), text.npos) << part << text;
+        EXPECT_TRUE(Has(text, part));
     }
-    ConsoleGame bob(Named(SavedGame("turn2 Q@3,7 Z@1,1"), "&", "&Bob"));
-    EXPECT_NE(bob.ForPerson("").find("(& vs. &Bob)"), std::string::npos);
-    EXPECT_NE(bob.ForPerson("").find("\nIt is &Bob's turn.\n"), std::string::npos);
+    ConsoleGame bob(Named("turn2 Q@3,7 Z@1,1", "&", "&Bob"));
+    EXPECT_TRUE(Has(bob.ForPerson(""), "(& vs. &Bob)"));
+    EXPECT_TRUE(Has(bob.ForPerson(""), "\nIt is &Bob's turn.\n"));
 }
 
 // A name that comes with a file commands no terminal.
 TEST(Terminal, ShowsControlCharactersAsEscapes) {
-    ConsoleGame game(
-        Named(SavedGame("turn1 WS@3,7 Z@1,1"), "\x1b[2J\a\x7f\x81\xe9", "B\xf6\x9bse"));
+    ConsoleGame game(Named("turn1 WS@3,7 Z@1,1", "\x1b[2J\a\x7f\x81\xe9", "B\xf6\x9bse"));
     const std::string text = game.ForPerson("journal; open \xe9\x1b[31m\x9b; menu New; no");
-    EXPECT_NE(text.find("(\\x1b[2J\\x07\\x7f\\x81é vs. Bö›se)"), text.npos) << text;
-    EXPECT_NE(text.find("\nIt is \\x1b[2J\\x07\\x7f\\x81é's turn.\n"), text.npos);
-    EXPECT_NE(text.find("\\x1b[31m\\x9b"), text.npos);
+    for (const char* part : {"(\\x1b[2J\\x07\\x7f\\x81é vs. Bö›se)",
+                             "\nIt is \\x1b[2J\\x07\\x7f\\x81é's turn.\n", "\\x1b[31m\\x9b"}) {
+        EXPECT_TRUE(Has(text, part));
+    }
     EXPECT_EQ(text.find_first_of("\x1b\a\x7f"), text.npos);
-    EXPECT_EQ(text.find("\xc2\x81"), text.npos);
+    EXPECT_FALSE(Has(text, "\xc2\x81"));
 }
 
 TEST(Terminal, TellsSidesByColourAndByTheCaseOfAMark) {
@@ -56,8 +51,8 @@ TEST(Terminal, TellsSidesByColourAndByTheCaseOfAMark) {
     };
     EXPECT_EQ(secondLine(game.ForPerson("state")), "            +HF +ZA2");
     EXPECT_EQ(secondLine(game.ForPerson("menu mnuSides")), "X   x       YHF yZA2");
-    EXPECT_NE(game.ForPerson("state", true).find("\x1b[38;2;255;255;255;48;2;40;16;16mZ  \x1b[0m"),
-              std::string::npos);
+    EXPECT_TRUE(
+        Has(game.ForPerson("state", true), "\x1b[38;2;255;255;255;48;2;40;16;16mZ  \x1b[0m"));
 }
 
 TEST(Terminal, HelpNamesEveryCommand) {
@@ -65,30 +60,25 @@ TEST(Terminal, HelpNamesEveryCommand) {
     std::vector<std::string> names{"help", "quit"};
     for (const Session::Command& command : Session::Commands()) names.emplace_back(command.name);
     for (const std::string& name : names) {
-        const bool named =
-            help.find("  " + name + " ") != help.npos || help.find(" " + name + " I") != help.npos;
-        EXPECT_TRUE(named) << name;
+        EXPECT_TRUE(Has(help, "  " + name + " ") || Has(help, " " + name + " I")) << name;
     }
 }
 
 // Fails when a key is to be created, and from then on when one is read, as a load does.
-class FailingFileTypes : public FakeFileTypes {
-public:
-    explicit FailingFileTypes(void (*fail)()) : fail_(fail) {}
+struct FailingFileTypes : FakeFileTypes {
+    explicit FailingFileTypes(void (*failure)()) : fail(failure) {}
 
-    bool CreateKey(const std::string&) override {
-        failing_ = true;
-        fail_();
+    bool CreateKey(const std::string& key) override {
+        keys.push_back(key);
+        fail();
         return false;
     }
     std::optional<std::string> DefaultValue(const std::string&) override {
-        if (failing_) fail_();
+        if (!keys.empty()) fail();
         return std::nullopt;
     }
 
-private:
-    void (*fail_)();
-    bool failing_ = false;
+    void (*fail)();
 };
 
 TEST(FrontEnds, SurviveWhateverACommandThrows) {
@@ -126,9 +116,9 @@ TEST(FrontEnds, SurviveWhateverACommandThrows) {
         game.fileTypes = &failingAgain;
         WriteFile(game.path, SavedGame("Q@9,10 Z@1,1"));
         const std::string text = game.ForPerson(commands);
-        EXPECT_NE(text.find("--- " + row.ofMenu + "\n"), text.npos) << text;
-        EXPECT_NE(text.find("--- " + row.ofOpen + "\n"), text.npos) << text;
-        EXPECT_EQ(text.find("vector"), text.npos);
+        EXPECT_TRUE(Has(text, "--- " + row.ofMenu + "\n"));
+        EXPECT_TRUE(Has(text, "--- " + row.ofOpen + "\n"));
+        EXPECT_FALSE(Has(text, "vector"));
         EXPECT_TRUE(text.ends_with("starting your move from.\n> ")) << text;
         EXPECT_EQ(game.status, 0);
     }

@@ -41,11 +41,6 @@ void GiveUpRoot() {
     if (geteuid() == 0 && setresuid(nobody, nobody, nobody) != 0) _exit(255);
 }
 
-std::size_t EntriesIn(const fs::path& folder) {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-}
-
 TEST(FileStore, ReplacesAndKeepsLinksAndPermissions) {
     TempFolder folder;
     fs::create_directory(folder.Path() / "sub");
@@ -66,7 +61,7 @@ TEST(FileStore, ReplacesAndKeepsLinksAndPermissions) {
     ReplaceFile(folder / "dangling", "there");
     EXPECT_EQ(ReadFile(folder / "sub/not there yet"), "there");
     EXPECT_TRUE(fs::is_symlink(folder / "dangling"));
-    EXPECT_EQ(EntriesIn(folder.Path() / "sub"), 2u);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "sub"), {}), 2);
 
     DeleteFile(file);
     EXPECT_FALSE(fs::exists(file));
@@ -109,7 +104,7 @@ TEST(FileStore, RefusalsLeaveEverythingAsItWas) {
     };
     EXPECT_EQ(ErrorInChild(fillTheDisk), EFBIG);
     EXPECT_EQ(ReadFile(file), "old");
-    EXPECT_EQ(EntriesIn(folder.Path()), 6u);
+    EXPECT_EQ(folder.Entries(), 6);
     EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
@@ -134,23 +129,23 @@ TEST(FileStore, RemovesAbandonedSavesOnly) {
     fs::create_symlink(".qarn-save-notes", folder / ".qarn-save-2123456789abcdef");
     ASSERT_EQ(mkfifo((folder / ".qarn-save-3123456789abcdef").c_str(), 0600), 0);
 
-    std::size_t entriesMeanwhile = 0;
+    std::ptrdiff_t entriesMeanwhile = 0;
     const auto otherProgramsCome = [&] {
         EXPECT_EQ(ErrorInChild([&] { RemoveAbandonedSaves(folder.Path()); }), 0);
         EXPECT_EQ(ErrorInChild([&] { ReplaceFile(folder / "other", "saved"); }), 0);
-        entriesMeanwhile = EntriesIn(folder.Path());
+        entriesMeanwhile = folder.Entries();
         return true;
     };
     EXPECT_TRUE(ReplaceFile(folder / "game", "new", otherProgramsCome));
-    EXPECT_EQ(entriesMeanwhile, 6u) << "the four that are no saves, the other's, and ours";
+    EXPECT_EQ(entriesMeanwhile, 6) << "the four that are no saves, the other's, and ours";
     EXPECT_EQ(ReadFile(folder / "game"), "new");
-    EXPECT_EQ(EntriesIn(folder.Path()), 6u);
+    EXPECT_EQ(folder.Entries(), 6);
 
     EXPECT_FALSE(ReplaceFile(folder / "game", "newer", [] { return false; }));
     const auto fail = []() -> bool { throw std::system_error(EIO, std::generic_category()); };
     EXPECT_EQ(ErrorOf([&] { ReplaceFile(folder / "game", "newer", fail); }), EIO);
     EXPECT_EQ(ReadFile(folder / "game"), "new");
-    EXPECT_EQ(EntriesIn(folder.Path()), 6u);
+    EXPECT_EQ(folder.Entries(), 6);
 }
 
 // The only entry of the folder that is new since `known`.
@@ -183,7 +178,7 @@ TEST(FileStore, TemporaryNamesAreNobodysToKnow) {
         known.insert(created);
         return false;
     });
-    EXPECT_EQ(EntriesIn(folder.Path()), 2u) << "somebody's is still there";
+    EXPECT_EQ(folder.Entries(), 2) << "somebody's is still there";
 }
 
 }  // namespace

@@ -66,12 +66,10 @@ TEST(GameFile, NewGame) {
         NewGameText("CF", {Player{"Red", false}, Player{longest + "Zoë€", true}}),
         "CF\r\nRed" + std::string(51, ' ') + "False\r\n" + longest + "Zo\xEB\x80True\r\n 0 \r\n");
 
-    const auto reason = [](const std::string& name) -> std::string {
-        try {
-            return NewGameText("CF", {Player{"Red", false}, Player{name, false}});
-        } catch (const SaveError& error) {
-            return error.what();
-        }
+    const auto reason = [](const std::string& name) {
+        return ErrorOf<SaveError>([&] {
+            NewGameText("CF", {Player{"Red", false}, Player{name, false}});
+        });
     };
     EXPECT_EQ(reason(longest + "Zoë€!"),
               "The name \"" + longest + "Zoë€!\" is longer than 54 characters.");

@@ -12,8 +12,6 @@
 namespace qarn {
 namespace {
 
-namespace fs = std::filesystem;
-
 class SaveFaults : public testing::Test {
 protected:
     SaveFaults() { WriteFile(file, "old"); }
@@ -29,10 +27,6 @@ protected:
         }
         calls = failing.Calls();
         return error;
-    }
-
-    std::ptrdiff_t Entries() const {
-        return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
     }
 
     TempFolder folder;
@@ -71,7 +65,7 @@ TEST_F(SaveFaults, EveryCallFails) {
             const std::string found = ReadFile(file);
             EXPECT_TRUE(found == "the new one" || (found == "old" && met == error)) << found;
             EXPECT_TRUE(met == 0 || met == error) << met;
-            EXPECT_EQ(Entries(), 1);
+            EXPECT_EQ(folder.Entries(), 1);
             const bool interruptedOnce =
                 error == EINTR && !fault.andAllAfter && call != "rename" && call != "permit";
             if (interruptedOnce) {
@@ -114,9 +108,9 @@ TEST_F(SaveFaults, KilledBeforeEveryCall) {
         ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
         const std::string found = ReadFile(file);
         EXPECT_TRUE(found == "old" || found == "the new one") << calls[call] << ": " << found;
-        mostEntries = std::max(mostEntries, Entries());
+        mostEntries = std::max(mostEntries, folder.Entries());
         EXPECT_EQ(Save({}), 0);
-        EXPECT_EQ(Entries(), 1) << calls[call];
+        EXPECT_EQ(folder.Entries(), 1) << calls[call];
     }
     EXPECT_EQ(mostEntries, 2) << "killed in the middle of a save";
 }

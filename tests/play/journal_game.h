@@ -1,8 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <sstream>
 #include <string>
 
 #include "play/game_journal.h"
@@ -26,10 +23,9 @@ public:
         journal.Open(game);
     }
 
-    /// Commands of PlayedGame, separated by "; ".
+    /// Follows what is done.
     void DoAll(const std::string& commands) {
-        std::istringstream parts(commands);
-        for (std::string command; std::getline(parts >> std::ws, command, ';');) {
+        for (const std::string& command : Parts(commands)) {
             EXPECT_TRUE(Do(command)) << command;
             const bool event = !command.starts_with("roll") && !command.starts_with("answer");
             if (event) journal.Follow(game, history);

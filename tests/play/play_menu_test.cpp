@@ -4,7 +4,7 @@
 
 #include "play/end_report.h"
 #include "play/journal_game.h"
-#include "support/played_game.h"
+#include "scenarios/setup.h"
 
 namespace qarn {
 namespace {
@@ -23,10 +23,8 @@ TEST(PassTurn, DoesAsMovingNowhereDoes) {
                     asked.game.controls.cmdMove.Caption == "&Move");
         asked.dialogs.queued = {Answer::Yes};
         EXPECT_TRUE(asked.Do("menu mnuPassTurn"));
-        for (const std::string command : {"press cmdMove", "press cmdDoneSel", "press cmdMove"}) {
-            if (command == "press cmdDoneSel") moved.Do(std::string("click ") + square);
-            EXPECT_TRUE(moved.Do(command));
-        }
+        moved.DoAll(std::string("press cmdMove; click ") + square +
+                    "; press cmdDoneSel; press cmdMove");
         moved.game.record.strGamePath = asked.game.record.strGamePath;
         EXPECT_EQ(asked.game.record, moved.game.record) << position;
         EXPECT_EQ(asked.game.controls, moved.game.controls) << position;
@@ -58,47 +56,28 @@ TEST(PlayMenu, OffersWhatThePersonCanDo) {
 }
 
 TEST(PlayMenu, EndsTheGameOnlyWhereSomebodyAgrees) {
-    const char* weak = "Q@9,10 WA@15,4 Z@15,4 ZA1@14,3 ZA2@14,5";
-    const char* strong = "WS@9,10 TS@9,10 LS@9,9 Q@8,9 WA@15,4";
+    const std::string weak = "Q@9,10 WA@15,4 Z@15,4 ZA1@14,3 ZA2@14,5";
+    const std::string strong = "WS@9,10 TS@9,10 LS@9,9 Q@8,9 WA@15,4";
+    const std::string draw = "The game is a draw.", declines = "Blue declines the draw.";
+    const auto& victory = DataOfScenario(7).VictoryText;
     struct Row {
         std::string position;
-        const char *opponent, *item;
-        std::deque<Answer> answers;
-        std::string last;  // box
+        const char *opponent, *commands;
+        std::string_view last;  // box
         bool ends;
     };
-    const auto victory = [](int side) {
-        PlayedGame any("Q@9,10 WA@15,4");
-        return std::string(any.game.record.strVictoryText.at(static_cast<std::size_t>(side)));
-    };
     const Row rows[] = {
-        {weak, "", "mnuResign", {Answer::Yes}, victory(2), true},
-        {std::string("turn2 ") + weak, "", "mnuResign", {Answer::Yes}, victory(1), true},
-        {weak, "", "mnuOfferDraw", {Answer::Yes}, "The game is a draw.", true},
-        {std::string("computer2 ") + strong,
-         "classic",
-         "mnuOfferDraw",
-         {Answer::Yes},
-         "Blue declines the draw.",
-         false},
-        {std::string("computer2 ") + strong,
-         "scout",
-         "mnuOfferDraw",
-         {Answer::Yes},
-         "The game is a draw.",
-         true},
-        {std::string("computer2 ") + weak,
-         "scout",
-         "mnuOfferDraw",
-         {Answer::Yes},
-         "Blue declines the draw.",
-         false},
-        {std::string("computer2 ") + strong, "scout", "mnuOfferDraw", {Answer::No}, "", false}};
+        {weak, "", "answer yes; menu mnuResign", victory[1], true},
+        {"turn2 " + weak, "", "answer yes; menu mnuResign", victory[0], true},
+        {weak, "", "answer yes; menu mnuOfferDraw", draw, true},
+        {"computer2 " + strong, "classic", "answer yes; menu mnuOfferDraw", declines, false},
+        {"computer2 " + strong, "scout", "answer yes; menu mnuOfferDraw", draw, true},
+        {"computer2 " + weak, "scout", "answer yes; menu mnuOfferDraw", declines, false},
+        {"computer2 " + strong, "scout", "answer no; menu mnuOfferDraw", "", false}};
     for (const Row& row : rows) {
         PlayedGame played(row.position);
         if (*row.opponent != '\0') played.game.opponent[2] = row.opponent;
-        played.dialogs.queued = row.answers;
-        EXPECT_TRUE(played.Do(std::string("menu ") + row.item));
+        played.DoAll(row.commands);
         EXPECT_TRUE(played.dialogs.boxes.front().DeclinedByDefault);
         EXPECT_EQ(played.dialogs.boxes.back().Text.substr(0, row.last.size()), row.last);
         EXPECT_EQ(played.game.blnEnded, row.ends) << row.position;
@@ -109,10 +88,10 @@ TEST(PlayMenu, EndsTheGameOnlyWhereSomebodyAgrees) {
 // Red loses a fight, Blue passes, and Red wins the next one.
 TEST(EndReport, TellsWhoWonAndWhoWasLost) {
     JournalGame played("LS@9,10 SK@9,10 WS@11,10 TS@11,10 ZA1@10,10");
-    for (const char* command :
-         {"press cmdAttack", "click 9 10", "roll 5", "click 10 10", "tick 2", "press cmdDoneSel",
-          "answer yes", "menu mnuPassTurn", "press cmdMove", "click 11 10", "press cmdDoneSel",
-          "answer yes", "roll 1"}) {
+    for (const std::string& command :
+         Parts("press cmdAttack; click 9 10; roll 5; click 10 10; tick 2; press cmdDoneSel; "
+               "answer yes; menu mnuPassTurn; press cmdMove; click 11 10; press cmdDoneSel; "
+               "answer yes; roll 1")) {
         played.DoAll(command);
         EXPECT_FALSE(IsOver(played.game)) << command;
     }

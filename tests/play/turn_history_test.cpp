@@ -104,8 +104,7 @@ TEST(TurnHistory, EndsWithADieABoxOrTheTurn) {
     };
     for (const Row& row : rows) {
         PlayedGame played("LS@9,10 SK@9,10 J@8,5 ZA1@10,10 Z@1,1");
-        std::istringstream commands(row.commands);
-        for (std::string one; std::getline(commands >> std::ws, one, ';');) played.Do(one);
+        played.DoAll(row.commands);
         EXPECT_EQ(played.history.Events(), row.events) << row.commands;
         EXPECT_EQ(played.Do("menu mnuCancelMove"), row.cancels) << row.commands;
         EXPECT_EQ(played.history.Events() == 0, !played.Do("menu mnuTakeBack"));
@@ -114,11 +113,9 @@ TEST(TurnHistory, EndsWithADieABoxOrTheTurn) {
 
 TEST(TurnHistory, LeavesWhatIsNoPartOfTheTurn) {
     PlayedGame played("Q@9,10 WA@15,4");
-    for (const char* command :
-         {"press cmdAttack", "press cmdAttack", "saveas other.tgf", "menu mnuSummary",
-          "menu mnuOwnGroupsOnly", "press cmdSeeTerDet(1)", "press cmdSquareDetails"}) {
-        EXPECT_TRUE(played.Do(command)) << command;
-    }
+    played.DoAll(
+        "press cmdAttack; press cmdAttack; saveas other.tgf; menu mnuSummary; "
+        "menu mnuOwnGroupsOnly; press cmdSeeTerDet(1); press cmdSquareDetails");
     const Controls& controls = played.game.controls;
     EXPECT_FALSE(played.Do("menu mnuTakeBack")) << "what is looked at comes first";
     EXPECT_TRUE(played.Do("press cmdSquareDetails") && played.Do("menu mnuTakeBack"));

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 
 #include "core/player_error.h"
 #include "scenarios/setup.h"
@@ -58,10 +57,10 @@ protected:
 
     std::string Shown() const {
         const StartControls& c = controls;
-        const std::map<StartControl, std::string> buttons{{StartControl::None, "none"},
-                                                          {StartControl::cmdNew, "new"},
-                                                          {StartControl::cmdLoad, "load"},
-                                                          {StartControl::cmdExit, "exit"}};
+        const std::string button = c.DefaultButton == StartControl::cmdNew    ? "new"
+                                   : c.DefaultButton == StartControl::cmdLoad ? "load"
+                                   : c.DefaultButton == StartControl::cmdExit ? "exit"
+                                                                              : "none";
         return c.lblInstructions.Caption + " | " +
                Seen(c.txtNewFilePath,
                     "'" + c.txtNewFilePath.Text + (c.txtNewFilePath.Locked ? "' locked" : "'")) +
@@ -73,7 +72,7 @@ protected:
                Seen(c.cmdLoad, c.cmdLoad.Caption) + Seen(c.cmdDelete, c.cmdDelete.Caption) +
                Seen(c.txtLocation, "folder") + Seen(c.cmdBrowse, c.cmdBrowse.Caption) +
                Seen(c.cmdBackGround, c.cmdBackGround.Caption) +
-               Seen(c.txtBackGround, "background") + "| " + buttons.at(c.DefaultButton);
+               Seen(c.txtBackGround, "background") + "| " + button;
     }
 
     PlayedGame world;
@@ -190,11 +189,10 @@ TEST_F(StartWindowTest, ANewGameThatCanNotBeWrittenStaysAtItsStep) {
     EXPECT_EQ(Shown(), before);
     fs::create_directory(folder / "later");
     TypeAndPressNew("\xCE\xB1");
-    EXPECT_NE(dialogs.boxes.back().Text.find("can not be stored in a game file."),
-              std::string::npos);
+    EXPECT_TRUE(Has(dialogs.boxes.back().Text, "can not be stored in a game file."));
     EXPECT_EQ(window.Next, NextWindow::Same);
     TypeAndPressNew("Blue");
-    EXPECT_NE(ReadFile(folder / "later/Game.tgf").find("True"), std::string::npos);
+    EXPECT_TRUE(Has(ReadFile(folder / "later/Game.tgf"), "True"));
 }
 
 TEST_F(StartWindowTest, AGameThatIsReplacedGoesToTheWastebasket) {
@@ -203,11 +201,11 @@ TEST_F(StartWindowTest, AGameThatIsReplacedGoesToTheWastebasket) {
     wastebasket.refusal = "There is none.";
     dialogs.queued = {Answer::No, Answer::Yes};
     Press(cmdNew_Click);
-    const std::string question = (folder / "Game.tgf") + "\nDo you want to replace it for good?";
+    const std::string why =
+        "A game of this name exists already and can not be moved to the wastebasket. There is "
+        "none.\n";
     EXPECT_EQ(dialogs.boxes.back().Text,
-              "A game of this name exists already and can not be moved "
-              "to the wastebasket. There is none.\n" +
-                  question);
+              why + (folder / "Game.tgf") + "\nDo you want to replace it for good?");
     EXPECT_TRUE(dialogs.boxes.back().DeclinedByDefault);
     EXPECT_EQ(ReadFile(folder / "Game.tgf"), "old");
     EXPECT_EQ(window.Next, NextWindow::Same);
@@ -218,7 +216,7 @@ TEST_F(StartWindowTest, AGameThatIsReplacedGoesToTheWastebasket) {
     wastebasket.refusal.clear();
     Press(cmdNew_Click);
     EXPECT_EQ(wastebasket.thrownAway, Texts{made});
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1);
+    EXPECT_EQ(folder.Entries(), 1);
 
     fs::create_directory(folder / "elsewhere");  // a link stays one, and no game is lost behind it
     fs::rename(folder / "Game.tgf", folder / "elsewhere/Game.tgf");
@@ -289,13 +287,13 @@ TEST_F(StartWindowTest, TellsOfEachGameWhatItIsTheOneSavedLastFirst) {
     RefreshFileList(window);
     EXPECT_EQ(controls.fileLoad.List, (Texts{"c.tgf", "b.tgf", "a.tgf"}));
     const Texts& told = controls.fileLoad.Told;
-    EXPECT_NE(told[0].find("side 2"), std::string::npos) << told[0];
+    EXPECT_TRUE(Has(told[0], "side 2"));
     EXPECT_TRUE(told[1].starts_with("Stonemantle: Zo\u00EB and Robot. Not begun yet. ")) << told[1];
     EXPECT_TRUE(told[2].starts_with("Hollowmere: Zo\u00EB and Robot. Robot to move. 2")) << told[2];
-    EXPECT_NE(told[2].find(" May 2026, "), std::string::npos) << told[2];
+    EXPECT_TRUE(Has(told[2], " May 2026, "));
 
-    for (const auto& [typed, replaces] : std::map<std::string, bool>{
-             {" a ", true}, {"b.tgf", true}, {"a.TGF", false}, {"ab", false}, {"", false}}) {
+    for (const auto& [typed, replaces] :
+         {std::pair{" a ", true}, {"b.tgf", true}, {"a.TGF", false}, {"ab", false}, {"", false}}) {
         Type(typed);
         EXPECT_EQ(controls.lblReplaces.Visible, replaces) << typed;
     }
@@ -317,8 +315,8 @@ TEST_F(StartWindowTest, TheProgramBackgroundComesAndGoes) {
               "Read about how this program began. | ('Game') (&New) (&Load) (&Delete Game) "
               "Leave Background &Information background | new");
     const std::string& text = controls.txtBackGround.Text;
-    EXPECT_NE(text.find("\nCurrently, this program simulates The Saltbrook, "), text.npos);
-    EXPECT_NE(text.find(", and Ambermoor.  In the near future, the program will "), text.npos);
+    EXPECT_TRUE(Has(text, "\nCurrently, this program simulates The Saltbrook, "));
+    EXPECT_TRUE(Has(text, ", and Ambermoor.  In the near future, the program will "));
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3);
     cmdBackGround_Click(window);
     EXPECT_EQ(Shown(),
@@ -329,10 +327,11 @@ TEST_F(StartWindowTest, TheProgramBackgroundComesAndGoes) {
 TEST_F(StartWindowTest, AnEventThatFailsLeavesTheWindowAsItWas) {
     Type("Game");
     const std::string before = Shown();
-    const std::vector<std::pair<std::function<void()>, std::string>> rows{
+    const std::string internal = "Internal error in cmdNew_Click.";
+    const std::pair<void (*)(), std::string> rows[] = {
         {[] { throw PlayerError("The disk is full."); }, "The disk is full."},
-        {[] { Texts().at(1); }, "Internal error in cmdNew_Click."},
-        {[] { throw 1; }, "Internal error in cmdNew_Click."}};
+        {[] { Texts().at(1); }, internal},
+        {[] { throw 1; }, internal}};
     for (const auto& [fail, told] : rows) {
         RunEvent(window, "cmdNew_Click", [&fail = fail](StartWindow& changed) {
             cmdNew_Click(changed);
@@ -342,8 +341,7 @@ TEST_F(StartWindowTest, AnEventThatFailsLeavesTheWindowAsItWas) {
         });
         EXPECT_EQ(dialogs.boxes.back().Text, told);
         EXPECT_EQ(Shown(), before);
-        EXPECT_EQ(window.state.bytWizardStep, 0);
-        EXPECT_EQ(window.strGamePath, "");
+        EXPECT_TRUE(window.state.bytWizardStep == 0 && window.strGamePath.empty());
         EXPECT_EQ(window.Next, NextWindow::Same);
     }
 }

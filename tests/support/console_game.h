@@ -8,6 +8,7 @@
 #include "console/front_end.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"
+#include "support/text.h"
 
 namespace qarn {
 
@@ -18,7 +19,7 @@ struct ConsoleGame {
     /// The objects that the commands give.
     std::vector<nlohmann::json> ForProgram(const std::string& commands) {
         std::vector<nlohmann::json> objects;
-        std::istringstream in(Lines(commands));
+        std::istringstream in(Replaced(commands, "; ", "\n"));
         std::stringstream out;
         status = RunForProgram({in}, out, errors, {settings, *fileTypes, {}}, path);
         for (std::string line; std::getline(out, line);) {
@@ -29,18 +30,10 @@ struct ConsoleGame {
 
     /// What a person reads in a terminal.
     std::string ForPerson(const std::string& commands, bool colors = false) {
-        std::istringstream in(Lines(commands));
+        std::istringstream in(Replaced(commands, "; ", "\n"));
         std::ostringstream out;
         status = RunForPerson({in}, out, {settings, *fileTypes, {}}, path, colors);
         return out.str();
-    }
-
-    static std::string Lines(std::string commands) {
-        for (std::size_t at = commands.find("; "); at != commands.npos;
-             at = commands.find("; ", at)) {
-            commands.replace(at, 2, "\n");
-        }
-        return commands;
     }
 
     TempFolder folder;

@@ -139,12 +139,4 @@ std::string Changes(const std::string& sign, const std::vector<Fact>& before,
     return text.empty() ? text : sign + text + "\n";
 }
 
-std::string Replaced(std::string text, const std::string& what, const std::string& with) {
-    for (std::size_t at = text.find(what); at != text.npos; at = text.find(what, at)) {
-        text.replace(at, what.size(), with);
-        at += with.size();
-    }
-    return text;
-}
-
 }  // namespace qarn

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "support/text.h"
 
 namespace qarn {
 
@@ -21,8 +22,5 @@ std::vector<Fact> FactsOf(const Game& game);
 /// The facts with this sign that have changed, on a line; nothing when there are none.
 std::string Changes(const std::string& sign, const std::vector<Fact>& before,
                     const std::vector<Fact>& after);
-
-/// The text with every occurrence of `what` replaced.
-std::string Replaced(std::string text, const std::string& what, const std::string& with);
 
 }  // namespace qarn

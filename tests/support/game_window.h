@@ -29,6 +29,12 @@ protected:
         board = window->findChild<BoardWidget*>();
     }
 
+    // In a window of the next run of the program.
+    void OpenAnew(const std::string& position) {
+        window = std::make_unique<FrmGame>(random, desktop);
+        Open(position);
+    }
+
     // A window that has ended has ended the application; the next test needs it again.
     void TearDown() override {
         window.reset();
@@ -50,6 +56,13 @@ protected:
     void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
         QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    }
+
+    // Until the destination is to be chosen.
+    void BeginMove(int X, int Y) {
+        Key(Qt::Key_M, Qt::AltModifier);
+        ClickSquare(X, Y);
+        Key(Qt::Key_S, Qt::AltModifier);
     }
 
     // A square on the window, its lines included.
@@ -74,20 +87,23 @@ protected:
         QApplication::processEvents();
         return window->screen()->grabWindow(window->winId()).toImage();
     }
+    static int CountOf(QRgb color, const QImage& picture, const QRect& place) {
+        int count = 0;
+        for (int x = place.left(); x <= place.right(); ++x) {
+            for (int y = place.top(); y <= place.bottom(); ++y) {
+                if ((picture.pixel(x, y) & RGB_MASK) == color) ++count;
+            }
+        }
+        return count;
+    }
     // The squares on which much of what is on the screen has this colour, row by row.
     std::string SquaresWith(QRgb color) {
         const QImage picture = Picture();
         std::string squares;
         for (int square = 0; square < columnCount * rowCount; ++square) {
             const int X = square % columnCount + 1, Y = square / columnCount + 1;
-            const QRect place = PlaceOfSquare(X, Y);
-            int count = 0;
-            for (int x = place.left(); x <= place.right(); ++x) {
-                for (int y = place.top(); y <= place.bottom(); ++y) {
-                    if ((picture.pixel(x, y) & RGB_MASK) == color) ++count;
-                }
-            }
-            if (count > 40) squares += std::to_string(X) + "," + std::to_string(Y) + " ";
+            if (CountOf(color, picture, PlaceOfSquare(X, Y)) <= 40) continue;
+            squares += std::to_string(X) + "," + std::to_string(Y) + " ";
         }
         return squares;
     }

@@ -83,8 +83,7 @@ std::string PlayedGame::Play(const std::string& script) {
         };
         std::size_t box = dialogs.boxes.size();
         transcript += line + "\n";
-        std::istringstream commands(line.substr(2));
-        for (std::string command; std::getline(commands >> std::ws, command, ';');) {
+        for (const std::string& command : Parts(line.substr(2))) {
             if (!Do(command)) transcript += "refused\n";
         }
         for (; box < dialogs.boxes.size(); ++box) {
@@ -99,6 +98,10 @@ std::string PlayedGame::Play(const std::string& script) {
     }
     EXPECT_TRUE(dialogs.queued.empty() && random.queued.empty()) << "More was expected to happen.";
     return Replaced(transcript, folder.Path(), "DIR");
+}
+
+void PlayedGame::DoAll(const std::string& commands) {
+    for (const std::string& command : Parts(commands)) EXPECT_TRUE(Do(command)) << command;
 }
 
 bool PlayedGame::Do(const std::string& command) {

@@ -35,6 +35,8 @@ public:
     /// and dice to come; rename side 2's player, or breakdisk, after which nothing can be written.
     /// Gives false for what a person could not do.
     bool Do(const std::string& command);
+    /// Some of them, separated by "; ", that a person can do.
+    void DoAll(const std::string& commands);
 
     void ExpectBoardShown() const;
 

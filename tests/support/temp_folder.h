@@ -22,6 +22,9 @@ public:
 
     std::string operator/(const std::string& name) const { return (path_ / name).string(); }
     const std::filesystem::path& Path() const { return path_; }
+    std::ptrdiff_t Entries() const {
+        return std::distance(std::filesystem::directory_iterator(path_), {});
+    }
 
 private:
     std::filesystem::path path_;

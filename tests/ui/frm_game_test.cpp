@@ -70,9 +70,7 @@ TEST_F(GameWindow, IsPlayedWithTheMouse) {
 
 TEST_F(GameWindow, ShowsWhatABoxCommentsOnAndTakesEscapeForNo) {
     Open("Q@9,5 WA@9,6 Z@17,2");
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(9, 5);
-    Key(Qt::Key_S, Qt::AltModifier);
+    BeginMove(9, 5);
     AnswerBoxes({Qt::Key_Escape});
     ClickSquare(9, 6);
     EXPECT_EQ(boxes, (std::vector<std::string>{
@@ -191,8 +189,7 @@ TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
 }
 
 TEST_F(GameWindow, LetsTheComputerPlayButNotUnderABox) {
-    OpenFile(Replaced(SavedGame(""), "Red" + std::string(51, ' ') + "False",
-                      "Red" + std::string(51, ' ') + "True"));
+    Open("computer1");
     auto* timer = Find<QTimer>("tmrAI");
     EXPECT_EQ(timer->interval(), 1000);
     EXPECT_TRUE(timer->isActive());

@@ -6,83 +6,42 @@
 namespace qarn {
 namespace {
 
-// The items of a menu, those of its submenus two blanks to the right.
-std::string ItemsOf(const QList<QAction*>& items, const std::string& margin = "") {
-    std::string text;
-    for (const QAction* item : items) {
-        text += margin + (item->isSeparator() ? "--" + item->text().toStdString()
-                                              : item->text().toStdString() + "  " +
-                                                    item->shortcut().toString().toStdString());
-        text += item->isVisible() ? "\n" : "  (hidden)\n";
-        if (item->menu() != nullptr) text += ItemsOf(item->menu()->actions(), margin + "  ");
+// The items of a menu with their keys, (in parentheses) while they are hidden, each submenu [with
+// its own].
+std::string ItemsOf(const QMenu* menu) {
+    QStringList items;
+    for (const QAction* item : menu->actions()) {
+        QString text = item->isSeparator() ? "--" + item->text() : item->text();
+        if (!item->shortcut().isEmpty()) text += " " + item->shortcut().toString();
+        if (item->menu() != nullptr) {
+            text += " [" + QString::fromStdString(ItemsOf(item->menu())) + "]";
+        }
+        items << (item->isVisible() ? text : "(" + text + ")");
     }
-    return text;
+    return items.join(", ").toStdString();
 }
 
 TEST_F(GameWindow, HasItsMenus) {
     Open("computer1 turn2 Q@9,5 WA@17,2");
-    EXPECT_EQ(ItemsOf(window->menuBar()->actions()), R"(&File  
-  &New...  Ctrl+N
-  &Open...  Ctrl+O
-  &Save  Ctrl+S
-  Save &As...  F12
-  --
-  E&xit  Ctrl+X
-&Details  
-  &Details  Ctrl+D
-  &Item Details  Ctrl+I
-  Summary &Terrain Details  Ctrl+T
-&Tools  
-  &Replay  Ctrl+R
-  &Convert File    (hidden)
-&Options  
-  &Display Summary  
-  Default &Filepath  
-  Add and Remove the &TGF Filetype  
-&View  
-  &Sides  
-  &Reach  
-  &Odds  
-  Terrain &Patterns  
-  &Large Codes  
-  &Coordinates  
-  Last &Move  
-  &Journal  
-  &Roster  
-  &Full Screen  F11
-&Play  
-  &Take Back  Ctrl+Z
-  &Cancel Move  Esc
-  &Pass Turn  
-  &Hint  Ctrl+H
-  --
-  &Opponent  
-    --Goodbeasts
-    &Classic  
-    &Scout  
-    Ca&ptain  
-    &Warlord  
-    --Badbeasts  (hidden)
-    &Classic    (hidden)
-    &Scout    (hidden)
-    Ca&ptain    (hidden)
-    &Warlord    (hidden)
-  &Speed  
-    One &Second a Step  
-    A &Third of a Second  
-    At &Once  
-  House &Rules  
-    &Own Groups Only  
-    One &Turn for a Burning  
-  --
-  &Resign  
-  &Offer Draw  
-&Help  
-  &Getting Started  
-  &Help  F1
-  --
-  &About  
-)");
+    std::string menus;
+    for (const QAction* menu : window->menuBar()->actions()) {
+        menus += menu->text().toStdString() + ": " + ItemsOf(menu->menu()) + "\n";
+    }
+    EXPECT_EQ(menus,
+              "&File: &New... Ctrl+N, &Open... Ctrl+O, &Save Ctrl+S, Save &As... F12, --, "
+              "E&xit Ctrl+X\n"
+              "&Details: &Details Ctrl+D, &Item Details Ctrl+I, Summary &Terrain Details Ctrl+T\n"
+              "&Tools: &Replay Ctrl+R, (&Convert File)\n"
+              "&Options: &Display Summary, Default &Filepath, Add and Remove the &TGF Filetype\n"
+              "&View: &Sides, &Reach, &Odds, Terrain &Patterns, &Large Codes, &Coordinates, "
+              "Last &Move, &Journal, &Roster, &Full Screen F11\n"
+              "&Play: &Take Back Ctrl+Z, &Cancel Move Esc, &Pass Turn, &Hint Ctrl+H, --, "
+              "&Opponent [--Goodbeasts, &Classic, &Scout, Ca&ptain, &Warlord, (--Badbeasts), "
+              "(&Classic), (&Scout), (Ca&ptain), (&Warlord)], "
+              "&Speed [One &Second a Step, A &Third of a Second, At &Once], "
+              "House &Rules [&Own Groups Only, One &Turn for a Burning], --, "
+              "&Resign, &Offer Draw\n"
+              "&Help: &Getting Started, &Help F1, --, &About\n");
 }
 
 TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {

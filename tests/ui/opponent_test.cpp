@@ -90,8 +90,7 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     EXPECT_EQ(ShownGame().record.bytTurn, 2);
     EXPECT_FALSE(Find("noMoveStrip")->isVisible());
 
-    window = std::make_unique<FrmGame>(random, desktop);
-    Open("computer1 Q@10,10 Z@1,1");
+    OpenAnew("computer1 Q@10,10 Z@1,1");
     AnswerBoxes({Qt::Key_Return});
     Tick();
     Key(Qt::Key_M, Qt::AltModifier);
@@ -107,8 +106,7 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     Key(Qt::Key_M, Qt::AltModifier);
     EXPECT_EQ(ShownGame().record.bytTurn, 2);
 
-    window = std::make_unique<FrmGame>(random, desktop);
-    Open("computer1 Q@10,10 Z@1,1");
+    OpenAnew("computer1 Q@10,10 Z@1,1");
     ASSERT_TRUE(MenuItem("mnuWarlord1")->isChecked()) << "it is kept";
     EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
     EXPECT_EQ(boxes.size(), 1u);
@@ -167,8 +165,7 @@ TEST_F(OpponentWindow, TellsItsBoxesBesideTheStatusLine) {
 
 // A position in which it thinks for a while.
 TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
-    OpenFile(Replaced(SavedGame("SB"), "Red" + std::string(51, ' ') + "False",
-                      "Red" + std::string(51, ' ') + "True"));
+    Open("SB computer1");
     const auto hastened = [&] {
         for (const char* item : {"mnuScout1", "mnuClassic1", "mnuWarlord1"}) {
             MenuItem(item)->trigger();

@@ -28,8 +28,7 @@ void ExpectMarks(const std::string& position, const std::vector<Row>& rows) {
     played.dialogs.whileShown = [&] { underBoxes = MarksOf(played.game); };
     for (const Row& row : rows) {
         underBoxes = "nothing was asked";
-        std::istringstream commands(row.commands);
-        for (std::string command; std::getline(commands >> std::ws, command, ';');) {
+        for (const std::string& command : Parts(row.commands)) {
             ASSERT_TRUE(command == "box" || played.Do(command)) << command;
         }
         const bool box = std::string_view(row.commands).ends_with("box");
@@ -122,9 +121,7 @@ TEST_F(GameWindow, DrawsAHintUntilTheGameGoesOn) {
     EXPECT_EQ(Text("lblStatus"), "It is Red's turn.");
 
     askForHint();
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(9, 10);
-    Key(Qt::Key_S, Qt::AltModifier);
+    BeginMove(9, 10);
     EXPECT_TRUE(MenuItem("mnuHint")->isEnabled());
     EXPECT_FALSE(window->ShownGame().controls.Hint.Way.empty());
     ClickSquare(10, 10);

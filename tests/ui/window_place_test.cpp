@@ -8,43 +8,34 @@ namespace {
 TEST(PlaceWithin, KeepsAWindowWithItsFrameOnTheScreen) {
     const QRect room(100, 0, 1280, 720);
     const QMargins frame(1, 20, 1, 5);
-    struct Row {
-        QRect place, within;
-    };
-    for (const Row& row : {
-             Row{{200, 30, 900, 600}, {200, 30, 900, 600}},
-             Row{{101, 20, 1278, 695}, {101, 20, 1278, 695}},
-             Row{{100, 0, 1016, 718}, {101, 20, 1016, 695}},
-             Row{{2500, 900, 900, 600}, {479, 115, 900, 600}},
-             Row{{-50, -50, 5000, 5000}, {101, 20, 1278, 695}},
-         }) {
-        EXPECT_EQ(PlaceWithin(room, row.place, frame), row.within);
-    }
+    const auto within = [&](const QRect& place) { return PlaceWithin(room, place, frame); };
+    EXPECT_EQ(within({200, 30, 900, 600}), QRect(200, 30, 900, 600));
+    EXPECT_EQ(within({101, 20, 1278, 695}), QRect(101, 20, 1278, 695));
+    EXPECT_EQ(within({100, 0, 1016, 718}), QRect(101, 20, 1016, 695));
+    EXPECT_EQ(within({2500, 900, 900, 600}), QRect(479, 115, 900, 600));
+    EXPECT_EQ(within({-50, -50, 5000, 5000}), QRect(101, 20, 1278, 695));
 }
 
 TEST(PlaceClearOf, IsTheNearestPlaceThatHidesNothing) {
     const QRect room(0, 0, 1000, 700);
     const QRect status(0, 660, 600, 40), square(480, 300, 50, 60), beside(530, 300, 50, 60);
     const QRect middle(300, 250, 400, 150);
-    struct Row {
-        QRect place;
-        std::vector<QRect> keptClear;
-        QPoint found;
+    const auto clear = [&](const QRect& place, const std::vector<QRect>& keptClear) {
+        const QRect found = PlaceClearOf(room, place, keptClear);
+        EXPECT_EQ(found.size(), place.size());
+        return found.topLeft();
     };
-    for (const Row& row : {Row{middle, {}, {300, 250}}, Row{middle, {status}, {300, 250}},
-                           Row{middle, {status, square, beside}, {300, 150}},
-                           Row{{300, 400, 400, 280}, {status, square}, {300, 380}},
-                           Row{{0, 200, 1000, 150}, {status, square}, {0, 150}},
-                           Row{{0, 200, 1000, 700}, {square}, {0, 200}}}) {
-        EXPECT_EQ(PlaceClearOf(room, row.place, row.keptClear), QRect(row.found, row.place.size()));
-    }
+    EXPECT_EQ(clear(middle, {}), QPoint(300, 250));
+    EXPECT_EQ(clear(middle, {status}), QPoint(300, 250));
+    EXPECT_EQ(clear(middle, {status, square, beside}), QPoint(300, 150));
+    EXPECT_EQ(clear({300, 400, 400, 280}, {status, square}), QPoint(300, 380));
+    EXPECT_EQ(clear({0, 200, 1000, 150}, {status, square}), QPoint(0, 150));
+    EXPECT_EQ(clear({0, 200, 1000, 700}, {square}), QPoint(0, 200));
 }
 
 TEST_F(GameWindow, ItsBoxesHideNeitherTheFightNorTheStatusLine) {
     Open("9,5=0 9,6=0 Q@9,5 TS@9,5 WA@9,6 Z@17,2");
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(9, 5);
-    Key(Qt::Key_S, Qt::AltModifier);
+    BeginMove(9, 5);
     random.QueueRoll(5);
     AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
     ClickSquare(9, 6);
@@ -91,8 +82,7 @@ TEST_F(GameWindow, OpensWithItsFrameOnTheScreenWhateverWasStored) {
     for (const QRect& place : {QRect(1000, 50, 770, 780), QRect(0, 0, 5000, 5000)}) {
         window->setGeometry(place);  // on a larger screen
         window->close();
-        window = std::make_unique<FrmGame>(random, desktop);
-        Open("Q@9,5 WA@17,2");
+        OpenAnew("Q@9,5 WA@17,2");
         expectOnScreen();
     }
 }
@@ -102,8 +92,7 @@ TEST_F(GameWindow, RemembersItsPlace) {
     const QRect place(20, 50, 770, 650);
     window->setGeometry(place);
     window->close();
-    window = std::make_unique<FrmGame>(random, desktop);
-    Open("Q@9,5 WA@17,2");
+    OpenAnew("Q@9,5 WA@17,2");
     EXPECT_EQ(window->geometry(), place);
 }
 

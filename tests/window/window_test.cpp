@@ -22,9 +22,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, Window, testing::ValuesIn(ReadSequences("wind
 
 TEST(MenuCommands, HelpTopics) {
     PlayedGame played("HM");
-    for (const char* item : {"mnuItemDetails", "mnuSummaryTerrain", "mnuGetStarted", "mnuHelp"}) {
-        EXPECT_TRUE(played.Do(std::string("menu ") + item));
-    }
+    played.DoAll("menu mnuItemDetails; menu mnuSummaryTerrain; menu mnuGetStarted; menu mnuHelp");
     EXPECT_EQ(played.help.topics, (std::vector<std::string>{"HMdetails.htm", "Terrain Info.htm",
                                                             "GettingStarted.htm", ""}));
     EXPECT_FALSE(played.Do("menu mnusave") || played.Do("menu"));
@@ -32,15 +30,14 @@ TEST(MenuCommands, HelpTopics) {
 
 TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
     PlayedGame played("HM");
-    EXPECT_TRUE(played.Do("menu mnuOneTurnForABurning") && played.Do("menu mnuOwnGroupsOnly"));
+    played.DoAll("menu mnuOneTurnForABurning; menu mnuOwnGroupsOnly");
     EXPECT_EQ(played.game.controls.lblStatus.Caption, "It is Red's turn.");
     played.Open();
     EXPECT_EQ(played.game.record.house, (HouseRules{true, true}));
     const std::string both =
         "It is Red's turn.\nHouse rules: own groups only, one turn for a burning.";
     EXPECT_EQ(played.game.controls.lblStatus.Caption, both);
-    EXPECT_TRUE(played.Do("press cmdSquareDetails") && played.Do("menu mnuOneTurnForABurning") &&
-                played.Do("press cmdSquareDetails"));
+    played.DoAll("press cmdSquareDetails; menu mnuOneTurnForABurning; press cmdSquareDetails");
     const std::string one = "It is Red's turn.\nHouse rules: own groups only.";
     EXPECT_EQ(played.game.controls.lblStatus.Caption, one);
     for (const auto& told : {both, one}) {
@@ -84,8 +81,7 @@ TEST(MenuCommands, HintIsOfferedUntilSomebodyMoves) {
           {attacking, true},
           {attacking + "roll 5; click 10 10", false}}) {
         PlayedGame played("LS@9,10 SK@9,10 BT@9,10 ZA1@10,10 Z@1,1");
-        std::istringstream each(commands);
-        for (std::string one; std::getline(each >> std::ws, one, ';');) played.Do(one);
+        played.DoAll(commands);
         EXPECT_EQ(played.Do("menu mnuHint"), offered) << commands;
         EXPECT_EQ(played.game.blnHintWanted, offered);
     }
@@ -112,7 +108,7 @@ TEST(MenuCommands, HintGoesWhenTheGameGoesOn) {
     DropHint(played.game);
     EXPECT_EQ(controls.lblStatus.Caption, status);  // the sentence had gone before
     put();
-    for (const char* command : {"click 9 10", "press cmdDoneSel"}) played.Do(command);
+    played.DoAll("click 9 10; press cmdDoneSel");
     EXPECT_FALSE(controls.Hint.Way.empty());
     played.Do("click 10 10");
     EXPECT_TRUE(controls.Hint.Way.empty() && !controls.Hint.Visible);
@@ -138,7 +134,7 @@ TEST(SaveGame, AsksBeforeItReplacesWhatAnotherProgramHasWritten) {
     EXPECT_EQ(doAnswering("close", {Answer::No, Answer::No}), 2u);
     EXPECT_TRUE(played.game.blnOpen);
     EXPECT_EQ(ReadFile(played.path), others);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(played.folder.Path()), {}), 1);
+    EXPECT_EQ(played.folder.Entries(), 1);
 
     EXPECT_EQ(doAnswering("menu mnuSave", {Answer::Yes}), 1u);
     EXPECT_EQ(ReadFile(played.path), game);

@@ -6,7 +6,9 @@
 #include <sstream>
 
 #include "console/options.h"
+#include "console/self_play_command.h"
 #include "console/words.h"
+#include "support/text.h"
 
 namespace qarn {
 namespace {
@@ -16,15 +18,6 @@ Options Parse(const std::string& line) {
     std::vector<char*> arguments;
     for (std::string& word : words) arguments.push_back(word.data());
     return ParseOptions(arguments);
-}
-
-std::string RefusalOf(const std::string& line) {
-    try {
-        Parse(line);
-        return "";
-    } catch (const Refusal& refusal) {
-        return refusal.what();
-    }
 }
 
 std::string Output(const std::string& line, std::ostream* progress) {
@@ -62,7 +55,8 @@ TEST(MatchCommand, RefusesWhatDoesNotGoTogether) {
         {"--seed 1", "The options --scenario and --seed go with --selfplay or --match."},
     };
     for (const auto& [line, reason] : rows) {
-        EXPECT_TRUE(RefusalOf(line).starts_with(reason)) << line << ": " << RefusalOf(line);
+        const std::string refusal = ErrorOf<Refusal>([&, &line = line] { Parse(line); });
+        EXPECT_TRUE(refusal.starts_with(reason)) << line << ": " << refusal;
     }
 }
 
@@ -74,10 +68,10 @@ TEST(MatchCommand, PrintsALineForEachScenarioAndForAll) {
          {"A: random, B: random. Won, drawn (cut off after 5 turns)",
           "\nHM                4       0       4       0     50.0 (1.0-99.0)",
           "\nall               4       0       4       0", "         5.00  ", "judged: open ("}) {
-        EXPECT_NE(text.find(part), std::string::npos) << part << " in\n" << text;
+        EXPECT_TRUE(Has(text, part));
     }
-    EXPECT_EQ(text.find("refused"), std::string::npos);
-    EXPECT_NE(progress.str().find("\rmatch: 50 % played"), std::string::npos) << progress.str();
+    EXPECT_FALSE(Has(text, "refused"));
+    EXPECT_TRUE(Has(progress.str(), "\rmatch: 50 % played"));
 }
 
 TEST(MatchCommand, EndsEarlyWithAVerdict) {
@@ -106,6 +100,29 @@ TEST(MatchCommand, PrintsOneJsonObject) {
     EXPECT_LE(all["a"]["msMedian"], all["a"]["msWorst"]);
     EXPECT_EQ(all["b"]["refused"], 0);
     EXPECT_FALSE(object.contains("sprt"));
+}
+
+// ---- Self-play ----
+
+TEST(SelfPlayCommand, PrintsALineForEachScenario) {
+    std::ostringstream out, progress;
+    RunSelfPlay({.games = 3, .scenarios = {8, 7}, .seed = 2}, out, &progress);
+    const std::string text = out.str();
+    EXPECT_TRUE(text.starts_with("Scenario      Games ") && Has(text, "\nHM                3 "));
+    EXPECT_LT(text.find("\nER                3 "), text.find("\nHM ")) << text;
+    EXPECT_TRUE(Has(progress.str(), "\r ER: 66 % played"));
+}
+
+TEST(SelfPlayCommand, PrintsOneJsonObject) {
+    std::ostringstream out;
+    RunSelfPlay({.games = 3, .scenarios = {8}, .seed = 2, .json = true}, out, nullptr);
+    const nlohmann::json object = nlohmann::json::parse(out.str());
+    const nlohmann::json& result = object["scenarios"].at(0);
+    EXPECT_EQ(object["seed"], 2);
+    EXPECT_EQ(result["scenario"], "ER");
+    EXPECT_EQ(result["games"], 3);
+    EXPECT_DOUBLE_EQ(result["turnsPerGame"].get<double>(), result["turns"].get<double>() / 3);
+    EXPECT_EQ(out.str().find('\n'), out.str().size() - 1);
 }
 
 }  // namespace
