@@ -47,7 +47,7 @@ protected:
         return window->findChild<Widget*>(QString::fromStdString(name));
     }
     QAbstractButton* Button(const std::string& name) { return Find<QAbstractButton>(name); }
-    QAction* MenuItem(const char* name) { return Find<QAction>(name); }
+    QAction* MenuItem(const std::string& name) { return Find<QAction>(name); }
     std::string Text(const char* label) { return Find<QLabel>(label)->text().toStdString(); }
     std::string Focus() {
         const QWidget* widget = QApplication::focusWidget();
@@ -58,13 +58,6 @@ protected:
         QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
     }
 
-    // Until the destination is to be chosen.
-    void BeginMove(int X, int Y) {
-        Key(Qt::Key_M, Qt::AltModifier);
-        ClickSquare(X, Y);
-        Key(Qt::Key_S, Qt::AltModifier);
-    }
-
     // A square on the window, its lines included.
     QRect PlaceOfSquare(int X, int Y) {
         const QRect place = board->PlaceOfSquare({X, Y});
@@ -73,6 +66,32 @@ protected:
     // As a mouse does it: whatever lies on top there gets the click.
     void ClickSquare(int X, int Y) {
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, PlaceOfSquare(X, Y).center());
+    }
+
+    // What a person does, separated by "; ": squares like "9,5" and buttons like "cmdMove" are
+    // clicked, items like "mnuSides" are chosen, and anything else is a key.
+    void Do(const std::string& script) {
+        for (const std::string& part : Parts(script)) {
+            int X = 0, Y = 0;
+            if (std::sscanf(part.c_str(), "%d,%d", &X, &Y) == 2) {
+                ClickSquare(X, Y);
+            } else if (part.starts_with("cmd")) {
+                Button(part)->click();
+            } else if (part.starts_with("mnu")) {
+                MenuItem(part)->trigger();
+            } else {
+                const QKeyCombination key = QKeySequence(QString::fromStdString(part))[0];
+                Key(key.key(), key.keyboardModifiers());
+            }
+        }
+    }
+    std::string StatusAfter(const std::string& script) {
+        Do(script);
+        return Text("lblStatus");
+    }
+    std::string FocusAfter(const std::string& script) {
+        Do(script);
+        return Focus();
     }
 
     // What has changed on the board is on the screen: painting all of it again changes nothing.

@@ -16,7 +16,7 @@ TEST_F(GameWindow, ShowsThePointerAndTheCursorOnTheBoard) {
     };
     EXPECT_EQ(edge(9), 0x000000u);
     EXPECT_EQ(edge(10), 0xFFFFFFu);
-    Key(Qt::Key_Right);
+    Do("Right");
     EXPECT_EQ(edge(9), 0xFFFFFFu);
     EXPECT_EQ(edge(10), 0x000000u);
     Button("cmdMove")->setFocus();
@@ -42,23 +42,21 @@ TEST_F(GameWindow, WalksWithTheArrowKeysUpToTheEdges) {
     Open("Q@9,5 WA@17,2");
     Button("cmdMove")->setFocus();
     std::string walk;
-    for (const Qt::Key key :
-         {Qt::Key_Up, Qt::Key_Left, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right}) {
-        Key(key);
+    for (const char* key : {"Up", "Left", "Down", "Down", "Right"}) {
+        Do(key);
         walk +=
             std::to_string(board->Cursor().x()) + "," + std::to_string(board->Cursor().y()) + " ";
         ExpectBoardPainted();
     }
     EXPECT_EQ(walk, "9,4 8,4 8,5 8,6 9,6 ");
     board->MoveCursor({1, 10});
-    Key(Qt::Key_Left);
-    Key(Qt::Key_Down);
+    Do("Left; Down");
     EXPECT_EQ(board->Cursor(), QPoint(1, 10));
 }
 
 TEST_F(GameWindow, TakesOnlyWholeClicksWithTheLeftButton) {
     Open("Q@9,5 WA@17,2");
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+M");
     const std::string before = Text("lblStatus");
     const QPoint here = PlaceOfSquare(9, 5).center(), there = PlaceOfSquare(9, 6).center();
     QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, here);

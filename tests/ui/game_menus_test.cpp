@@ -48,21 +48,18 @@ TEST_F(GameWindow, DisablesTheFileMenuAndItsKeysDuringAMove) {
     Open("Q@9,5 WA@17,2");
     const QAction* file = window->menuBar()->actions().first();
     const std::string saved = ReadFile(path);
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+M");
     EXPECT_FALSE(file->isEnabled());
-    Key(Qt::Key_S, Qt::ControlModifier);
+    Do("Ctrl+S");
     EXPECT_EQ(ReadFile(path), saved);
     EXPECT_FALSE(MenuItem("mnuOwnGroupsOnly")->isEnabled());
 
-    ClickSquare(9, 5);
-    Key(Qt::Key_S, Qt::AltModifier);
-    ClickSquare(9, 6);
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("9,5; Alt+S; 9,6; Alt+M");
     EXPECT_TRUE(file->isEnabled());
-    Key(Qt::Key_S, Qt::ControlModifier);
+    Do("Ctrl+S");
     EXPECT_NE(ReadFile(path), saved);
     AnswerBoxes({Qt::Key_Escape});
-    Key(Qt::Key_F12);
+    Do("F12");
     EXPECT_EQ(titles, std::vector<std::string>{"Save As"});
     EXPECT_FALSE(MenuItem("mnuConvertFile")->isVisible());
     EXPECT_TRUE(MenuItem("mnuSummary")->isChecked());
@@ -79,20 +76,19 @@ TEST_F(GameWindow, AsksTheDesktopForTheMarkOfTheFileTypeWhenItsMenuOpens) {
 
 TEST_F(GameWindow, ShowsCheckMarksInItsMenus) {
     Open("computer2 Q@9,5 WA@17,2");
-    const std::vector<const char*> items{
-        "mnuPeopleDetails",      "mnuSummary", "mnuTGF", "mnuOwnGroupsOnly",
-        "mnuOneTurnForABurning", "mnuScout2"};
+    const auto items = Parts(
+        "mnuPeopleDetails; mnuSummary; mnuTGF; mnuOwnGroupsOnly; mnuOneTurnForABurning; mnuScout2");
     const auto marks = [&] {
         std::string text;
-        for (const char* item : items) text += MenuItem(item)->isChecked() ? 'x' : '-';
+        for (const std::string& item : items) text += MenuItem(item)->isChecked() ? 'x' : '-';
         return text;
     };
     EXPECT_EQ(marks(), "-x----");
     EXPECT_TRUE(MenuItem("mnuClassic2")->isChecked());
     std::string after;
     AnswerBoxes({Qt::Key_Return});
-    for (const char* item : items) {
-        MenuItem(item)->trigger();
+    for (const std::string& item : items) {
+        Do(item);
         after += marks() + " ";
     }
     EXPECT_EQ(after, "xx---- x----- x-x--- x-xx-- x-xxx- x-xxxx ");

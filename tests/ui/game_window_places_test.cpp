@@ -72,7 +72,7 @@ protected:
 TEST_F(Places, AreThoseOfTheDesignAtEverySize) {
     Open("Q@9,5 WA@17,2");
     QTest::mouseClick(Button("cmdSeeTerDet(3)"), Qt::LeftButton);
-    Key(Qt::Key_I, Qt::AltModifier);
+    Do("Alt+I");
     for (const auto& [client, scale] : {std::pair{QSize(1016, 696), 1.0},
                                         {QSize(2032, 1392), 2.0},
                                         {QSize(1270, 870), 1.25},

@@ -31,7 +31,7 @@ protected:
     }
     void PassByKeyboard() {
         if (ShownGame().blnEnded || !Button("cmdMove")->isEnabled()) return;
-        Key(Qt::Key_M, Qt::AltModifier);
+        Do("Alt+M");
         for (const PeopleRecord& one : ShownGame().record.People) {
             if (one.Side == 2 && OnBoard(one)) board->MoveCursor({one.LocationX, one.LocationY});
         }
@@ -93,17 +93,14 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
     OpenAnew("computer1 Q@10,10 Z@1,1");
     AnswerBoxes({Qt::Key_Return});
     Tick();
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+M");
     EXPECT_FALSE(Find("noMoveStrip")->isVisible());
-    Key(Qt::Key_Escape);
+    Do("Esc");
     EXPECT_TRUE(Find("noMoveStrip")->isVisible());
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(10, 10);
-    MenuItem("mnuWarlord1")->trigger();
+    Do("Alt+M; 10,10; mnuWarlord1");
     for (int tick = 0; tick < 3; ++tick) Tick();
     EXPECT_FALSE(Acts()) << "the person's move comes first";
-    Key(Qt::Key_S, Qt::AltModifier);
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+S; Alt+M");
     EXPECT_EQ(ShownGame().record.bytTurn, 2);
 
     OpenAnew("computer1 Q@10,10 Z@1,1");
@@ -117,34 +114,33 @@ TEST_F(OpponentWindow, TakesUpPlayWhereClassicFoundNoMove) {
 TEST_F(OpponentWindow, IsWaitedForByBoardAndButtons) {
     Open("computer1 HF@10,10 Q@10,10 J@13,10 Z@1,1");
     EXPECT_TRUE(Button("cmdMove")->isEnabled()) << "Classic locks nothing";
-    MenuItem("mnuScout1")->trigger();
+    Do("mnuScout1");
     EXPECT_FALSE(Button("cmdMove")->isEnabled() || Button("cmdAttack")->isEnabled());
     const QAction* file = MenuItem("mnuSave");
     ASSERT_TRUE(TickUntil([&] { return ShownGame().record.blnChoosing; }));
     EXPECT_TRUE(Button("chkItems(1)")->isVisible() && !Button("chkItems(1)")->isEnabled());
     EXPECT_FALSE(Button("cmdDoneSel")->isEnabled() || ShownGame().controls.File.Enabled);
     const std::uint8_t at = ShownGame().record.bytCurrentX;
-    ClickSquare(1, 1);
+    Do("1,1");
     EXPECT_EQ(ShownGame().record.bytCurrentX, at);
 
-    Key(Qt::Key_I, Qt::AltModifier);  // looking goes on
-    ClickSquare(1, 1);
+    Do("Alt+I");  // looking goes on
+    Do("1,1");
     EXPECT_EQ(Text("lblDetailMore"), "Current Items: Corsair");
     EXPECT_TRUE(file->isEnabled());
     std::filesystem::remove(path);
-    Key(Qt::Key_S, Qt::ControlModifier);
+    Do("Ctrl+S");
     EXPECT_TRUE(std::filesystem::exists(path));
     EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
     EXPECT_EQ(Text("lblDetailMore"), "Current Items: Corsair");
-    Key(Qt::Key_I, Qt::AltModifier);
-    EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
+    EXPECT_EQ(StatusAfter("Alt+I"), "It is Blue's turn.");
     EXPECT_TRUE(Button("cmdMove")->isEnabled() && Button("cmdAttack")->isEnabled());
 }
 
 TEST_F(OpponentWindow, TellsItsBoxesBesideTheStatusLine) {
     Open("computer1 WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 Q@1,9");
     const QRect whole = Find("lblStatus")->geometry();
-    MenuItem("mnuCaptain1")->trigger();
+    Do("mnuCaptain1");
     for (const int roll : {2, 1}) random.QueueRoll(roll);
     ASSERT_TRUE(TickUntil([&] { return random.queued.empty(); }));
     const QRect strip = Find("opponentStrip")->geometry();
@@ -154,7 +150,7 @@ TEST_F(OpponentWindow, TellsItsBoxesBesideTheStatusLine) {
     EXPECT_EQ(Find("lblStatus")->geometry(), whole);
     EXPECT_TRUE(boxes.empty());
 
-    MenuItem("mnuSpeedAtOnce")->trigger();
+    Do("mnuSpeedAtOnce");
     for (const int roll : {2, 1}) random.QueueRoll(roll);
     Open("computer1 WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 Q@1,9");
     ASSERT_TRUE(TickUntil([&] { return random.queued.empty(); }));
@@ -188,7 +184,7 @@ TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
 TEST_F(OpponentWindow, FindsAHintThatTakesItsTime) {
     Open("Q@14,7 TS@9,5 LS@10,2 S@3,7 WS@14,7 SK@8,5 V@8,2 WA@15,4 WA1@15,4 Z@17,2 ZA1@5,1");
     AnswerBoxes({Qt::Key_Return});
-    Key(Qt::Key_H, Qt::ControlModifier);
+    Do("Ctrl+H");
     auto* strip = window->findChild<OpponentStrip*>();
     ASSERT_TRUE(strip != nullptr && ShownGame().blnHintWanted);
     strip->Tell("Finding a hint.", 0);

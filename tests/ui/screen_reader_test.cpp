@@ -38,10 +38,10 @@ TEST_F(GameWindow, TellsScreenReadersEverySquare) {
     EXPECT_EQ(square->parent(), accessible);
     EXPECT_EQ(square->role(), QAccessible::PushButton);
     EXPECT_TRUE(square->state().focused && !accessible->child(0)->state().focused);
-    Key(Qt::Key_Right);
+    Do("Right");
     EXPECT_EQ(accessible->focusChild()->text(QAccessible::Name), "(10, 5) Mountain");
 
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+M");
     square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QApplication::processEvents();
     EXPECT_EQ(Text("lblStatus"), "Choose the item(s) you would like to move.");
@@ -66,7 +66,7 @@ TEST_F(GameWindow, TellsScreenReadersWhatChangesAndNothingElse) {
     EXPECT_EQ(after([&] { ClickSquare(3, 3); }), Updates()) << "The same again.";
     after([&] { ClickSquare(9, 5); });
     EXPECT_EQ(after([&] { Key(Qt::Key_Space); }), Updates());
-    Key(Qt::Key_Tab);
+    Do("Tab");
     EXPECT_EQ(after([&] { Key(Qt::Key_Space); }), Updates());
     EXPECT_EQ(after([&] { Key(Qt::Key_S, Qt::AltModifier); }), status)
         << "You did not select anyone.";

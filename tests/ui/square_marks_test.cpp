@@ -72,13 +72,10 @@ TEST_F(GameWindow, MarksTheSquaresOfAMoveAndAnAttack) {
     constexpr QRgb gold = 0xFFA000, red = 0xE00000;
     Open("9,5=0 8,5=0 8,6=0 9,6=0 Q@9,5 WS@9,5 WA@9,6 Z@17,2");
     window->resize(1016, 718);
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(9, 5);
+    Do("Alt+M; 9,5");
     EXPECT_EQ(Focus(), "chkItems(1)");
     EXPECT_EQ(SquaresWith(gold), "9,5 ");
-    Key(Qt::Key_S, Qt::AltModifier);
-    ClickSquare(8, 5);
-    ClickSquare(8, 6);
+    Do("Alt+S; 8,5; 8,6");
     EXPECT_EQ(SquaresWith(gold), "9,5 8,6 ");
     const QImage picture = Picture();
     const auto inCorner = [&](int X, int Y) {
@@ -86,15 +83,13 @@ TEST_F(GameWindow, MarksTheSquaresOfAMoveAndAnAttack) {
     };
     EXPECT_EQ(inCorner(8, 6), gold);
     EXPECT_NE(inCorner(9, 5), gold) << "the start is marked by another shape";
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+M");
     EXPECT_EQ(SquaresWith(gold), "");
 
-    Key(Qt::Key_A, Qt::AltModifier);
-    ClickSquare(9, 6);
+    Do("Alt+A; 9,6");
     random.QueueRoll(5);
     AnswerBoxes({Qt::Key_Return, Qt::Key_Return});
-    ClickSquare(8, 6);
-    EXPECT_EQ(Text("lblStatus"), "Select the character which died in the attack.");
+    EXPECT_EQ(StatusAfter("8,6"), "Select the character which died in the attack.");
     EXPECT_EQ(SquaresWith(gold), "9,6 ");
     EXPECT_EQ(SquaresWith(red), "8,6 ");
     EXPECT_EQ(board->Cursor(), QPoint(8, 6));
@@ -108,7 +103,7 @@ TEST_F(GameWindow, DrawsAHintUntilTheGameGoesOn) {
     window->resize(1016, 718);
     const QImage without = Picture();
     const auto askForHint = [&] {
-        Key(Qt::Key_H, Qt::ControlModifier);
+        Do("Ctrl+H");
         ASSERT_TRUE(QTest::qWaitFor([&] { return window->ShownGame().controls.Hint.Visible; }));
     };
     askForHint();
@@ -116,22 +111,20 @@ TEST_F(GameWindow, DrawsAHintUntilTheGameGoesOn) {
     EXPECT_NE(SquaresWith(gold), "");
     EXPECT_NE(Picture().copy(PlaceOfSquare(15, 9)), without.copy(PlaceOfSquare(15, 9)));
     ExpectBoardPainted();
-    Key(Qt::Key_Escape);
+    Do("Esc");
     EXPECT_EQ(Picture(), without);
     EXPECT_EQ(Text("lblStatus"), "It is Red's turn.");
 
     askForHint();
-    BeginMove(9, 10);
+    Do("Alt+M; 9,10; Alt+S");
     EXPECT_TRUE(MenuItem("mnuHint")->isEnabled());
     EXPECT_FALSE(window->ShownGame().controls.Hint.Way.empty());
-    ClickSquare(10, 10);
+    Do("10,10");
     EXPECT_TRUE(window->ShownGame().controls.Hint.Way.empty());
     EXPECT_FALSE(MenuItem("mnuHint")->isEnabled());
     ExpectBoardPainted();
 
-    Key(Qt::Key_M, Qt::AltModifier);
-    Key(Qt::Key_H, Qt::ControlModifier);
-    Key(Qt::Key_Escape);
+    Do("Alt+M; Ctrl+H; Esc");
     EXPECT_FALSE(window->ShownGame().blnHintWanted || window->ShownGame().controls.Hint.Visible);
 }
 

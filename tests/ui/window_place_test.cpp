@@ -35,10 +35,10 @@ TEST(PlaceClearOf, IsTheNearestPlaceThatHidesNothing) {
 
 TEST_F(GameWindow, ItsBoxesHideNeitherTheFightNorTheStatusLine) {
     Open("9,5=0 9,6=0 Q@9,5 TS@9,5 WA@9,6 Z@17,2");
-    BeginMove(9, 5);
+    Do("Alt+M; 9,5; Alt+S");
     random.QueueRoll(5);
     AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
-    ClickSquare(9, 6);
+    Do("9,6");
     ASSERT_EQ(places.size(), 3u);
     const QPoint corner = window->mapToGlobal(QPoint());
     for (const QRect& place : places) {
@@ -57,12 +57,11 @@ TEST_F(GameWindow, HasAStatusLineThatGrowsAndIsNeverCovered) {
         return double(line->font().pixelSize()) / board->font().pixelSize();
     };
     EXPECT_EQ(growth(), 1);
-    Key(Qt::Key_I, Qt::AltModifier);
-    ClickSquare(9, 9);
+    Do("Alt+I; 9,9");
     const int covered = (Find("fraQuickDetails")->geometry() & line->geometry()).height();
     EXPECT_GT(covered, 0);
     EXPECT_EQ(line->contentsRect().top(), covered);
-    ClickSquare(9, 8);
+    Do("9,8");
     window->resize(window->size() * 2);
     EXPECT_GT(growth(), 1.4);
     EXPECT_EQ(line->contentsRect(), line->rect());
