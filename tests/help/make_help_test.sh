@@ -22,10 +22,13 @@ freshPages() {
     cp -r "$matches" "$folder/matches"
 }
 
-# mustFail WHAT WORDS...: the build fails, says so in all of these words, and leaves no file.
+# mustFail WHAT COMMAND WORDS...: where the command has spoilt the pages or records, the build fails,
+# says so in all of these words, and leaves no file.
 mustFail() {
     what=$1
-    shift
+    freshPages
+    (cd "$folder" && eval "$2")
+    shift 2
     if build; then
         echo "$what does not fail the build" >&2
         exit 1
@@ -45,38 +48,17 @@ while [ "$(date +%s)" -le "$(stat -c %Y "$helpFile")" ]; do sleep 0.1; done
 build
 cmp "$folder/Help.chm" "$helpFile"
 
-freshPages
-rm "$folder/pages/Movement.htm"
-mustFail 'a missing page' 'Movement.htm'
-
-freshPages
-rm "$folder/pages/pictures/odds.png"
-sed -i 's/Troubleshooting.htm#Remove/Troubleshooting.htm#Nowhere/' "$folder/pages/Games.htm"
-mustFail 'a missing picture or anchor' 'odds.png' 'Nowhere'
-
-freshPages
-sed -i 's/{{odds}}/{{odd}}/' "$folder/pages/Combat.htm"
-mustFail 'an unknown mark' 'Combat.htm: nothing fills {{odd}}'
-
-freshPages
-sed -i '/{{menu:mnuSave}}/d' "$folder/pages/Keys.htm"
-mustFail 'a menu item that no page tells of' 'mnuSave'
-
-freshPages
-rm "$folder/pages/scenarios/HM.htm"
-mustFail 'a scenario without notes' 'HM.htm'
-
-freshPages
-rm "$folder/matches/captain-scout.json"
-mustFail 'a missing record' 'captain-scout.json: can not be read'
-
-freshPages
-echo '{"scenarios": []' >"$folder/matches/captain-captain.json"
-mustFail 'a damaged record' 'captain-captain.json: '
-
-freshPages
-sed -i 's/"scenario":"DW"/"scenario":"DX"/' "$folder/matches/captain-captain.json"
-mustFail 'a record without a scenario' 'captain-captain.json: no games of DW'
+mustFail 'a missing page' 'rm pages/Movement.htm' 'Movement.htm'
+mustFail 'a missing picture or anchor' \
+    'rm pages/pictures/odds.png; sed -i s/htm#Remove/htm#Nowhere/ pages/Games.htm' 'odds.png' 'Nowhere'
+mustFail 'an unknown mark' 'sed -i "s/{{odds}}/{{odd}}/" pages/Combat.htm' \
+    'Combat.htm: nothing fills {{odd}}'
+mustFail 'a menu item that no page tells of' 'sed -i "/{{menu:mnuSave}}/d" pages/Keys.htm' 'mnuSave'
+mustFail 'a scenario without notes' 'rm pages/scenarios/HM.htm' 'HM.htm'
+mustFail 'a missing record' 'rm matches/captain-scout.json' 'captain-scout.json: can not be read'
+mustFail 'a damaged record' 'echo "{" >matches/captain-captain.json' 'captain-captain.json: '
+mustFail 'a record without a scenario' 'sed -i s/:.DW./:\"DX\"/ matches/captain-captain.json' \
+    'captain-captain.json: no games of DW'
 
 # ---- The tables tell what the records hold ----
 

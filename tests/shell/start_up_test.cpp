@@ -11,26 +11,21 @@ namespace qarn {
 namespace {
 
 struct Started {
+    // Which window follows, and the text of every box.
+    std::string Outcome() const {
+        const char* next[] = {"this", "start", "game", "none"};
+        std::string outcome = next[static_cast<int>(window.Next)];
+        for (const MessageBox& box : dialogs.boxes) outcome += "|" + box.Title + "|" + box.Text;
+        for (const std::string& topic : help.topics) outcome += "|" + topic;
+        return outcome;
+    }
+
     FakeDialogs dialogs;
     FakeHelp help;
     FakeDisplay display;
     FakeComputer computer;
-    StartUpWindow window{.dialogs = dialogs,
-                         .help = help,
-                         .display = display,
-                         .computer = computer,
-                         .strCommandLine = {},
-                         .screen = {800, 600}};
+    StartUpWindow window{dialogs, help, display, computer, "", {800, 600}};
 };
-
-// Which window follows, and the text of every box.
-std::string OutcomeOf(const Started& program) {
-    const char* next[] = {"this", "start", "game", "none"};
-    std::string outcome = next[static_cast<int>(program.window.Next)];
-    for (const MessageBox& box : program.dialogs.boxes) outcome += "|" + box.Title + "|" + box.Text;
-    for (const std::string& topic : program.help.topics) outcome += "|" + topic;
-    return outcome;
-}
 
 std::string StartOn(const DisplayMode& screen, const std::vector<DisplayMode>& modes) {
     Started program;
@@ -38,7 +33,7 @@ std::string StartOn(const DisplayMode& screen, const std::vector<DisplayMode>& m
     program.display.modes = modes;
     Form_Load(program.window);
     EXPECT_EQ(program.window.Visible, program.window.Next == NextWindow::Same);
-    return OutcomeOf(program);
+    return program.Outcome();
 }
 
 TEST(StartUpTest, TheScreenAndTheDisplayDecide) {
@@ -54,9 +49,9 @@ TEST(StartUpTest, NoGoesOnAndHelpWaits) {
     Started program;
     Form_Load(program.window);
     cmdHelp_Click(program.window);
-    EXPECT_EQ(OutcomeOf(program), "this|Troubleshooting.htm#ManualFix");
+    EXPECT_EQ(program.Outcome(), "this|Troubleshooting.htm#ManualFix");
     cmdNo_Click(program.window);
-    EXPECT_EQ(OutcomeOf(program), "start|Troubleshooting.htm#ManualFix");
+    EXPECT_EQ(program.Outcome(), "start|Troubleshooting.htm#ManualFix");
     EXPECT_EQ(program.display.changes, "");
 }
 
@@ -70,7 +65,7 @@ TEST(StartUpTest, AnEventThatFailsLeavesTheWindowOrGoesOn) {
         Started program;
         program.window.Visible = onScreen;
         RunEvent(program.window, "cmdYes_Click", fail);
-        EXPECT_EQ(OutcomeOf(program),
+        EXPECT_EQ(program.Outcome(),
                   std::string(onScreen ? "this" : "start") + "||Internal error in cmdYes_Click.");
         EXPECT_EQ(program.window.Visible, onScreen);
     }
@@ -83,7 +78,7 @@ std::string AfterYes(DisplayChange result, Answer answer, const std::string& cha
     program.dialogs.queued = {answer};
     cmdYes_Click(program.window);
     EXPECT_EQ(program.display.changes, changes);
-    return OutcomeOf(program);
+    return program.Outcome();
 }
 
 TEST(StartUpTest, YesSwitches) {
