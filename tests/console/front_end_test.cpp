@@ -82,20 +82,16 @@ struct FailingFileTypes : FakeFileTypes {
 };
 
 TEST(FrontEnds, SurviveWhateverACommandThrows) {
-    struct Row {
-        void (*fail)();
-        std::string ofMenu, ofOpen;
+    const std::string fire = "The desk is on fire.", inMenu = "Internal error in mnuTGF_Click.",
+                      inOpen = "Internal error in Form_Load.";
+    const std::tuple<void (*)(), std::string, std::string> rows[] = {
+        {[] { throw PlayerError("The desk is on fire."); }, fire, fire},
+        {[] { std::vector<int>().at(7); }, inMenu, inOpen},
+        {[] { throw 7; }, inMenu, inOpen},
     };
-    const Row rows[] = {
-        {[] { throw PlayerError("The desk is on fire."); }, "The desk is on fire.",
-         "The desk is on fire."},
-        {[] { std::vector<int>().at(7); }, "Internal error in mnuTGF_Click.",
-         "Internal error in Form_Load."},
-        {[] { throw 7; }, "Internal error in mnuTGF_Click.", "Internal error in Form_Load."},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.ofOpen);
-        FailingFileTypes failing(row.fail);
+    for (const auto& [fail, ofMenu, ofOpen] : rows) {
+        SCOPED_TRACE(ofOpen);
+        FailingFileTypes failing(fail);
         ConsoleGame game(SavedGame("Q@9,10 Z@1,1"));
         game.fileTypes = &failing;
         const std::string commands =
@@ -104,20 +100,20 @@ TEST(FrontEnds, SurviveWhateverACommandThrows) {
             game.path + "; press cmdMove";
         const std::vector<nlohmann::json> objects = game.ForProgram(commands);
         ASSERT_EQ(objects.size(), 9u);
-        EXPECT_EQ(objects[1]["boxes"][0]["text"], row.ofMenu);
-        EXPECT_EQ(objects[7]["boxes"][0]["text"], row.ofOpen);
+        EXPECT_EQ(objects[1]["boxes"][0]["text"], ofMenu);
+        EXPECT_EQ(objects[7]["boxes"][0]["text"], ofOpen);
         EXPECT_EQ(objects[7]["error"], "The game could not be opened.");
         EXPECT_EQ(objects[7]["record"], objects[6]["record"]);
         EXPECT_EQ(objects[7]["lblStatus"], "It is Blue's turn.");
         EXPECT_EQ(objects[8]["record"]["blnMoveMode"], true);
         EXPECT_EQ(game.status, 0);
 
-        FailingFileTypes failingAgain(row.fail);
+        FailingFileTypes failingAgain(fail);
         game.fileTypes = &failingAgain;
         WriteFile(game.path, SavedGame("Q@9,10 Z@1,1"));
         const std::string text = game.ForPerson(commands);
-        EXPECT_TRUE(Has(text, "--- " + row.ofMenu + "\n"));
-        EXPECT_TRUE(Has(text, "--- " + row.ofOpen + "\n"));
+        EXPECT_TRUE(Has(text, "--- " + ofMenu + "\n"));
+        EXPECT_TRUE(Has(text, "--- " + ofOpen + "\n"));
         EXPECT_FALSE(Has(text, "vector"));
         EXPECT_TRUE(text.ends_with("starting your move from.\n> ")) << text;
         EXPECT_EQ(game.status, 0);

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "core/code_page.h"
 #include "core/game_file.h"
 #include "core/random_numbers.h"
-#include "core/turn_cycle.h"
-#include "support/played_game.h"
+#include "support/text.h"
 
 namespace qarn {
 namespace {
@@ -23,43 +23,6 @@ TEST(RandomNumbers, AreTheSameEverywhere) {
     EXPECT_NE(generator.Next(), first);
 }
 
-TEST(TurnCycle, TellsWhoseTurnItIs) {
-    for (const auto& [name, atStart, later] :
-         {std::tuple{"Hawk", "It is Hawk's turn.", "It is Hawk's turn."},
-          {"Hawks", "It is Hawks's turn.", "It is Hawks' turn."},
-          {"HAWKS", "It is HAWKS's turn.", "It is HAWKS' turn."},
-          {"", "It is 's turn.", "It is 's turn."}}) {
-        PlayedGame played("HM");
-        GameRecord& record = played.game.record;
-        Controls& controls = played.game.controls;
-        record.strPlayerName[2] = name;
-        record.blnComputer[2] = true;
-        record.bytTurn = 0;
-        played.random.queued = {0.5};
-        StartTurns(played.game);  // the first side is drawn
-        EXPECT_EQ(record.bytTurn, 2);
-        EXPECT_EQ(controls.lblStatus.Caption, atStart);
-        EXPECT_TRUE(controls.tmrAI.Enabled);
-
-        controls.tmrAI.Enabled = false;
-        ShowTurn(played.game, true);
-        StartTurns(played.game);  // draws no more
-        EXPECT_EQ(record.bytTurn, 1);
-        EXPECT_EQ(controls.lblStatus.Caption, "It is Red's turn.");
-        EXPECT_FALSE(controls.tmrAI.Enabled);
-
-        ShowTurn(played.game, true);
-        ShowTurn(played.game, false);
-        EXPECT_EQ(controls.lblStatus.Caption, later);
-        EXPECT_TRUE(controls.tmrAI.Enabled);
-    }
-    PlayedGame played("HM");
-    played.game.record.bytTurn = 0;
-    played.random.queued = {0.49};
-    StartTurns(played.game);
-    EXPECT_EQ(played.game.record.bytTurn, 1);
-}
-
 TEST(GameFile, NewGame) {
     const std::string longest(50, 'n');
     EXPECT_EQ(
@@ -77,6 +40,43 @@ TEST(GameFile, NewGame) {
               "A player's name can not be stored. The character \"Ł\" can not be stored in a game "
               "file.");
     EXPECT_EQ(reason("Red\nBlue"), "A player's name can not hold a line break.");
+}
+
+// ---- The code page ----
+
+TEST(CodePage, EveryByteComesBack) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+    EXPECT_EQ(EncodeCodePage(DecodeCodePage(bytes)), bytes);
+}
+
+TEST(CodePage, CharactersStandAtTheirBytes) {
+    EXPECT_EQ(EncodeCodePage("Zoë €5 „Šœ™“ ÿ"),
+              "Zo\xEB \x80"
+              "5 \x84\x8A\x9C\x99\x93 \xFF");
+    EXPECT_EQ(DecodeCodePage("\x81\x8D\x8F\x90\x9D"), "\u0081\u008D\u008F\u0090\u009D");
+}
+
+TEST(CodePage, RefusesWhatItCanNotHold) {
+    const std::string invalid = "The text is not valid UTF-8.";
+    const std::pair<std::string, std::string> rows[] = {
+        {"Łódź", "The character \"Ł\" can not be stored in a game file."},
+        {"ok 🐭", "The character \"🐭\" can not be stored in a game file."},
+        {"\u0080", "The character \"\u0080\" can not be stored in a game file."},
+        {"a\xFF", invalid},  // no character begins like this
+        {"\x80", invalid},   // the middle of one
+        {"\xC3", invalid},   // cut off
+        {"\xC3(", invalid},  // continued wrongly
+        {"\xE2\x82", invalid},
+        {"\xC1\x81", invalid},  // an A that is too long
+        {"\xE0\x81\x81", invalid},
+    };
+    for (const auto& [text, reason] : rows) {
+        EXPECT_FALSE(CanStore(text));
+        EXPECT_EQ(ErrorOf<CodePageError>([&, &text = text] { EncodeCodePage(text); }), reason);
+    }
+    EXPECT_TRUE(CanStore("Zoë €5"));
+    for (const char* line : {"a\nb", "a\tb", "\x7F"}) EXPECT_FALSE(CanStore(line));
 }
 
 }  // namespace

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "play/end_report.h"
 #include "play/journal_game.h"
-#include "scenarios/setup.h"
 
 namespace qarn {
 namespace {
@@ -29,59 +26,6 @@ TEST(PassTurn, DoesAsMovingNowhereDoes) {
         EXPECT_EQ(asked.game.record, moved.game.record) << position;
         EXPECT_EQ(asked.game.controls, moved.game.controls) << position;
         EXPECT_EQ(asked.game.happenings, moved.game.happenings);
-    }
-}
-
-// What is done before, and whether passing, resigning and offering a draw can be chosen then.
-TEST(PlayMenu, OffersWhatThePersonCanDo) {
-    struct Row {
-        const char *position, *command, *offered;
-    };
-    const Row rows[] = {{"Q@9,10 WA@15,4", "click 1 1", "yes yes yes"},
-                        {"Q@9,10 WA@15,4", "press cmdMove", "no yes no"},
-                        {"Q@9,10 WA@15,4", "press cmdAttack", "no yes no"},
-                        {"Q@9,10 WA@15,4", "press cmdSquareDetails", "no yes no"},
-                        {"computer1 Q@9,10 WA@15,4", "click 1 1", "no no no"}};
-    for (const Row& row : rows) {
-        PlayedGame played(row.position);
-        played.Do(row.command);
-        std::string offered;
-        for (const char* item : {"mnuPassTurn", "mnuResign", "mnuOfferDraw"}) {
-            played.dialogs.queued = {Answer::No};
-            offered += played.Do(std::string("menu ") + item) ? " yes" : " no";
-        }
-        EXPECT_EQ(offered.substr(1), row.offered) << row.command;
-        EXPECT_TRUE(played.game.happenings.empty() && !played.game.blnEnded);
-    }
-}
-
-TEST(PlayMenu, EndsTheGameOnlyWhereSomebodyAgrees) {
-    const std::string weak = "Q@9,10 WA@15,4 Z@15,4 ZA1@14,3 ZA2@14,5";
-    const std::string strong = "WS@9,10 TS@9,10 LS@9,9 Q@8,9 WA@15,4";
-    const std::string draw = "The game is a draw.", declines = "Blue declines the draw.";
-    const auto& victory = DataOfScenario(7).VictoryText;
-    struct Row {
-        std::string position;
-        const char *opponent, *commands;
-        std::string_view last;  // box
-        bool ends;
-    };
-    const Row rows[] = {
-        {weak, "", "answer yes; menu mnuResign", victory[1], true},
-        {"turn2 " + weak, "", "answer yes; menu mnuResign", victory[0], true},
-        {weak, "", "answer yes; menu mnuOfferDraw", draw, true},
-        {"computer2 " + strong, "classic", "answer yes; menu mnuOfferDraw", declines, false},
-        {"computer2 " + strong, "scout", "answer yes; menu mnuOfferDraw", draw, true},
-        {"computer2 " + weak, "scout", "answer yes; menu mnuOfferDraw", declines, false},
-        {"computer2 " + strong, "scout", "answer no; menu mnuOfferDraw", "", false}};
-    for (const Row& row : rows) {
-        PlayedGame played(row.position);
-        if (*row.opponent != '\0') played.game.opponent[2] = row.opponent;
-        played.DoAll(row.commands);
-        EXPECT_TRUE(played.dialogs.boxes.front().DeclinedByDefault);
-        EXPECT_EQ(played.dialogs.boxes.back().Text.substr(0, row.last.size()), row.last);
-        EXPECT_EQ(played.game.blnEnded, row.ends) << row.position;
-        EXPECT_EQ(std::filesystem::exists(played.path), !row.ends);
     }
 }
 

@@ -141,19 +141,8 @@ TEST(FileTypeTest, AFailureEndsTheWriting) {
     EXPECT_EQ(BoxesOf("tgf_ext\\shell", ""), "Error: Cre|The TGF fi|6");
 }
 
-TEST(AboutTest, IsOpenOnceAtMost) {
-    PlayedGame world("Q@13,4");
+TEST(AboutTest, TellsTheVersion) {
     EXPECT_EQ(ProductNameVersion(), "Thornmere Series Tactical Game Version " QARN_VERSION);
-    EXPECT_TRUE(world.Do("menu mnuAbout"));
-    world.Load("Q@13,4");  // the window loads again, and the other one stays
-    EXPECT_FALSE(world.Do("menu mnuAbout"));
-    frmAbout_Unload(world.game);
-    EXPECT_TRUE(world.Do("menu mnuAbout"));
-
-    world.dialogs.queued = {Answer::Yes};
-    EXPECT_TRUE(world.Do("menu Open"));
-    EXPECT_TRUE(world.game.blnLeftByOpen);
-    EXPECT_TRUE(world.game.controls.mnuAbout.Enabled);
 }
 
 }  // namespace

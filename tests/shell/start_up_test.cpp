@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "shell/command_line.h"
-#include "support/fake_desktop.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"
 

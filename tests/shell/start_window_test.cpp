@@ -6,7 +6,6 @@
 
 #include "core/player_error.h"
 #include "scenarios/setup.h"
-#include "support/fake_desktop.h"
 #include "support/played_game.h"
 
 namespace qarn {

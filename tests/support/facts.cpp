@@ -37,6 +37,11 @@ std::string ModesFact(const GameRecord& record) {
     return modes.empty() ? "none" : modes.substr(1);
 }
 
+std::string HouseFact(const HouseRules& house) {
+    return std::string(house.ownGroupsOnly ? "ownGroups" : "") +
+           (house.oneTurnForABurning ? "+oneTurnForBurning" : "");
+}
+
 std::string WindowFact(const Game& game) {
     if (game.blnEnded) return "ended with " + std::to_string(game.exitStatus);
     return game.blnOpen ? "open" : "closed";
@@ -99,6 +104,7 @@ std::vector<Fact> FactsOf(const Game& game) {
              Fact{"@", "scenario", std::to_string(record.bytScenario)},
              Fact{"@", "name", record.strGameName},
              Fact{"@", "file", FileFact(record.strGamePath)},
+             Fact{"@", "house", HouseFact(record.house)},
              Fact{"#", "window", WindowFact(game)},
              Fact{"#", "caption", controls.Caption},
              Fact{"#", "mode", ModesFact(record)},

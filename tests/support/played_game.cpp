@@ -138,7 +138,10 @@ bool PlayedGame::Do(const std::string& command) {
     } else if (verb == "roll") {
         while (words >> X) random.QueueRoll(X);
     } else if (verb == "rename") {
-        words >> game.record.strPlayerName[2];
+        words >> name;
+        game.record.strPlayerName[2] = name;
+    } else if (verb == "reopen") {
+        Open();
     } else if (verb == "breakdisk") {
         std::filesystem::remove_all(folder.Path());
         settings.writeError = "No space left on device";

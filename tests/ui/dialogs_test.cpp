@@ -11,7 +11,7 @@
 #include <algorithm>
 
 #include "shell/about.h"
-#include "support/fake_desktop.h"
+#include "support/fake_ports.h"
 #include "ui/frm_about.h"
 #include "ui/frm_yes_no_help.h"
 #include "ui/window_script.h"

@@ -11,7 +11,6 @@
 #include "scenarios/balance.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/sides_told.h"
-#include "support/fake_desktop.h"
 #include "support/fake_ports.h"
 #include "support/text.h"
 #include "ui/window_script.h"

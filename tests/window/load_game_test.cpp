@@ -44,6 +44,10 @@ TEST_F(LoadGame, NewGame) {
     EXPECT_NE(record.People[1].LocationX, 0);
     played.ExpectBoardShown();
     EXPECT_TRUE(played.dialogs.boxes.empty());
+    played.random.queued = {0.49};
+    played.Open();
+    EXPECT_EQ(record.bytTurn, 1);
+    EXPECT_FALSE(controls.tmrAI.Enabled);
 }
 
 // What is saved is what was loaded, to the byte. The text is the test's own.

@@ -30,32 +30,28 @@ namespace {
 
 // What is thrown, in the middle of a change, and what the player reads of it.
 TEST(RunEvent, PutsEverythingBackAndTellsFaultsFromMessages) {
-    struct Row {
-        std::function<void()> fail;
-        std::string told;
-    };
-    const Row rows[] = {
+    const std::string internal = "Internal error in cmdMove_Click.";
+    const std::pair<void (*)(), std::string> rows[] = {
         {[] { EightBit(263, "sum of the attack units"); },
          "The sum of the attack units would be 263, which lies outside 0 to 255."},
         {[] { throw PlayerError("The file can not be written."); }, "The file can not be written."},
-        {[] { std::vector<int>().at(7); }, "Internal error in cmdMove_Click."},
-        {[] { throw std::system_error(std::make_error_code(std::errc::io_error)); },
-         "Internal error in cmdMove_Click."},
-        {[] { throw 7; }, "Internal error in cmdMove_Click."},
+        {[] { std::vector<int>().at(7); }, internal},
+        {[] { throw std::system_error(std::make_error_code(std::errc::io_error)); }, internal},
+        {[] { throw 7; }, internal},
     };
-    for (const Row& row : rows) {
+    for (const auto& [fail, told] : rows) {
         PlayedGame played("Q@13,7 HF@13,7 Z@1,1");
         Game& game = played.game;
-        const bool went = RunEvent(game, "cmdMove_Click", [&](Game& g) {
+        const bool went = RunEvent(game, "cmdMove_Click", [&, &fail = fail](Game& g) {
             cmdMove_Click(g);
             g.record.People[1].LocationX = 7;
             g.blnOpen = false;
             g.happenings.emplace_back(TurnCame{2});
-            row.fail();
+            fail();
         });
         EXPECT_FALSE(went);
         ASSERT_EQ(played.dialogs.boxes.size(), 1u);
-        EXPECT_EQ(played.dialogs.boxes[0].Text, row.told);
+        EXPECT_EQ(played.dialogs.boxes[0].Text, told);
         EXPECT_TRUE(game.happenings.empty() && game.blnOpen && !game.blnEnded);
         EXPECT_FALSE(game.record.blnMoveMode);
         EXPECT_EQ(game.record.People[1].LocationX, 13);

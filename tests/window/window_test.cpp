@@ -28,30 +28,6 @@ TEST(MenuCommands, HelpTopics) {
     EXPECT_FALSE(played.Do("menu mnusave") || played.Do("menu"));
 }
 
-TEST(MenuCommands, HouseRulesAreKeptAndToldAtTheStart) {
-    PlayedGame played("HM");
-    played.DoAll("menu mnuOneTurnForABurning; menu mnuOwnGroupsOnly");
-    EXPECT_EQ(played.game.controls.lblStatus.Caption, "It is Red's turn.");
-    played.Open();
-    EXPECT_EQ(played.game.record.house, (HouseRules{true, true}));
-    const std::string both =
-        "It is Red's turn.\nHouse rules: own groups only, one turn for a burning.";
-    EXPECT_EQ(played.game.controls.lblStatus.Caption, both);
-    played.DoAll("press cmdSquareDetails; menu mnuOneTurnForABurning; press cmdSquareDetails");
-    const std::string one = "It is Red's turn.\nHouse rules: own groups only.";
-    EXPECT_EQ(played.game.controls.lblStatus.Caption, one);
-    for (const auto& told : {both, one}) {
-        EXPECT_TRUE(played.Do("menu mnuOneTurnForABurning"));
-        EXPECT_EQ(played.game.controls.lblStatus.Caption, told);
-    }
-    played.settings.writeError = "No space left on device";
-    EXPECT_TRUE(played.Do("menu mnuOwnGroupsOnly"));
-    EXPECT_EQ(played.dialogs.boxes.back().Text,
-              "The setting can not be stored: No space left on device");
-    played.Open();
-    EXPECT_EQ(played.game.record.house, (HouseRules{true, false}));
-}
-
 TEST(MenuCommands, WhatIsShownIsKeptForThePerson) {
     PlayedGame played("HM");
     EXPECT_EQ(played.game.view, ViewChoices());

@@ -1,9 +1,9 @@
-#include "ui/terrain_pattern.h"
-
 #include <gtest/gtest.h>
 
 #include "rules/terrain.h"
 #include "support/colors.h"
+#include "ui/side_plate.h"
+#include "ui/terrain_pattern.h"
 
 namespace qarn {
 namespace {
@@ -82,6 +82,48 @@ TEST(TerrainPattern, LeavesTheCodesReadable) {
             least = std::min(least, Contrast(colors.ForeColor.rgb, pixel));
         }
         EXPECT_GE(least, std::min(onGround, 4.5) - 0.01) << int{code};
+    }
+}
+
+// ---- Plates of the sides ----
+
+constexpr QRgb ground = 0xFF00FF00;  // of no plate
+
+QImage PictureOfPlate(std::uint8_t side, const QString& code) {
+    QImage picture(60, 30, QImage::Format_RGB32);
+    picture.fill(ground);
+    QPainter painter(&picture);
+    QFont font = painter.font();
+    font.setPixelSize(18);
+    font.setBold(true);
+    painter.setFont(font);
+    PaintPlate(painter, QRectF(5, 4, 50, 22), side, code);
+    painter.end();
+    return picture;
+}
+
+// Which pixels the plate covers, for its shape.
+std::vector<bool> ShapeOf(const QImage& plate) {
+    std::vector<bool> shape;
+    for (int i = 0; i < plate.width() * plate.height(); ++i) {
+        shape.push_back(plate.pixel(i % plate.width(), i / plate.width()) != ground);
+    }
+    return shape;
+}
+
+TEST(SidePlate, CanBeReadAndToldFromTheOthers) {
+    constexpr QPoint beside(13, 15);  // the code
+    std::vector<QRgb> fills;
+    std::vector<std::vector<bool>> shapes;
+    for (std::uint8_t side = 0; side <= 2; ++side) {
+        const QImage plate = PictureOfPlate(side, QString(QChar(0x2588)));  // a full block
+        fills.push_back(plate.pixel(beside));
+        shapes.push_back(ShapeOf(plate));
+        EXPECT_GE(Contrast(plate.pixel(plate.rect().center()), fills.back()), 7) << int{side};
+        for (std::uint8_t other = 0; other < side; ++other) {
+            EXPECT_NE(shapes[other], shapes[side]) << int{other} << int{side};
+            EXPECT_GE(Contrast(fills[other], fills[side]), 1.5) << int{other} << int{side};
+        }
     }
 }
 
