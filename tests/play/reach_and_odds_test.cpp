@@ -132,44 +132,26 @@ TEST(Strikes, AreWhereTheEnemyCouldGoOrAttack) {
     EXPECT_EQ(of("Q@1,1"), "");
 }
 
-struct Row {
-    const char *position, *commands;
-    Square square;
-    const char* told;
-};
-
 TEST(StepTold, SaysWhyTheNextClickIsRefused) {
-    for (const Row& row : std::initializer_list<Row>{
-             {"Q@16,10 Z@1,1", "", {16, 9}, ""},
-             {"Q@16,10 Z@1,1", "begin", {16, 10}, ""},
-             {"Q@16,10 Z@1,1", "begin", {16, 9}, "A step here costs 1 mobility unit of 3."},
-             {"Q@16,10 Z@1,1",
-              "begin",
-              {13, 10},
-              "Square by square, you come here for 3 mobility units."},
-             {"Q@16,10 Z@1,1", "begin", {12, 10}, "You can not come here in this move."},
-             {"Q@16,10 16,9=2 Z@1,1", "begin", {16, 9}, "You can not go on water without a boat."},
-             {"Q@16,10 16,9=1 Z@1,1",
-              "begin",
-              {16, 9},
+    EXPECT_EQ(StepTold(PlayedGame("Q@16,10 Z@1,1").game.record, {16, 9}), "");
+    const auto told = [](const char* position, Square square) {
+        PlayedGame played(position);
+        played.DoAll("press cmdMove; click 16 10; press cmdDoneSel");
+        return StepTold(played.game.record, square);
+    };
+    const char* alone = "Q@16,10 Z@1,1";
+    EXPECT_EQ(told(alone, {16, 10}), "");
+    EXPECT_EQ(told(alone, {16, 9}), "A step here costs 1 mobility unit of 3.");
+    EXPECT_EQ(told(alone, {13, 10}), "Square by square, you come here for 3 mobility units.");
+    EXPECT_EQ(told(alone, {12, 10}), "You can not come here in this move.");
+    EXPECT_EQ(told("Q@16,10 16,9=2 Z@1,1", {16, 9}), "You can not go on water without a boat.");
+    EXPECT_EQ(told("Q@16,10 16,9=1 Z@1,1", {16, 9}),
               "You do not have enough mobility units to go there. It costs 5 mobility units, and 3 "
-              "are left."},
-             {"Q@16,10 HF@16,10 TS@16,9 LS@16,9 S@16,9 Z@1,1",
-              "begin",
-              {16, 9},
-              "There will be more than 4 characters in that unit."},
-             {"turn2 16,9=8 Z@16,10 Q@1,1",
-              "begin",
-              {16, 9},
-              "Badbeasts do not enter an abbey that is empty."}}) {
-        PlayedGame played(row.position);
-        if (*row.commands != '\0') {
-            played.Do("press cmdMove");
-            played.Do("click 16 10");
-            played.Do("press cmdDoneSel");
-        }
-        EXPECT_EQ(StepTold(played.game.record, row.square), row.told) << row.position;
-    }
+              "are left.");
+    EXPECT_EQ(told("Q@16,10 HF@16,10 TS@16,9 LS@16,9 S@16,9 Z@1,1", {16, 9}),
+              "There will be more than 4 characters in that unit.");
+    EXPECT_EQ(told("turn2 16,9=8 Z@16,10 Q@1,1", {16, 9}),
+              "Badbeasts do not enter an abbey that is empty.");
 }
 
 }  // namespace

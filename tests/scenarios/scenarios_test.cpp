@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "core/board_display.h"
 #include "rules/casualties.h"
 #include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
@@ -118,16 +117,6 @@ TEST(Setup, LandmarksTheirKeyAndGroups) {
             CountPeople(played.game);
         }
     }
-}
-
-TEST(Setup, HollowmereAsItStarts) {
-    const PlayedGame played("HM");
-    EXPECT_EQ(played.game.record.bytTerrain[1][2], Plain);
-    EXPECT_EQ(played.game.record.bytTerrain[18][10], Plain);
-    EXPECT_EQ(played.game.record.bytTerrain[14][1], Sand);
-    EXPECT_EQ(CaptionOfSquare(played.game, 15, 4), "WA   WA1  BT   ");
-    EXPECT_EQ(played.game.record.People[24].LocationX, 15);
-    EXPECT_EQ(played.game.record.People[18].Defense, 4);
 }
 
 }  // namespace

@@ -10,64 +10,52 @@ namespace qarn {
 namespace {
 
 std::string MarksOf(const Game& game) {
-    const char* names[] = {"start", "acting", "target"};
+    const char* names[] = {" from ", " at ", " to "};
     std::string text;
     for (const MarkedSquare& mark : MarkedSquares(game.record)) {
-        text += std::string(text.empty() ? "" : "; ") + names[static_cast<int>(mark.Role)] + " " +
-                std::to_string(mark.X) + "," + std::to_string(mark.Y);
+        text += names[static_cast<int>(mark.Role)] + std::to_string(mark.X) + "," +
+                std::to_string(mark.Y);
     }
     return text;
 }
 
-struct Row {
-    const char* commands;
-    const char* marks;
-};
-
-// Plays the commands and compares the marks after each row of them.
-void ExpectMarks(const std::string& position, const std::vector<Row>& rows) {
+// The marks after each of the commands, (in parentheses) under each box.
+std::string MarksDuring(const std::string& position, const std::string& commands) {
     PlayedGame played(position);
-    std::string underBoxes;
-    played.dialogs.whileShown = [&] { underBoxes = MarksOf(played.game); };
-    for (const Row& row : rows) {
-        underBoxes = "nothing was asked";
-        for (const std::string& command : Parts(row.commands)) {
-            ASSERT_TRUE(command == "box" || played.Do(command)) << command;
-        }
-        const bool box = std::string_view(row.commands).ends_with("box");
-        EXPECT_EQ(box ? underBoxes : MarksOf(played.game), row.marks) << row.commands;
+    std::string text;
+    played.dialogs.whileShown = [&] { text += " (" + MarksOf(played.game) + ")"; };
+    for (const std::string& command : Parts(commands)) {
+        EXPECT_TRUE(played.Do(command)) << command;
+        text += MarksOf(played.game) + ";";
     }
+    return text;
 }
 
 TEST(SquareMarks, TellWhereTheMoveBeganAndWhereTheGroupStands) {
-    ExpectMarks("Q@9,5 WS@9,5 WA@17,2",
-                {{"press cmdMove", ""},
-                 {"click 3 3", ""},
-                 {"click 9 5", "acting 9,5"},
-                 {"press cmdDoneSel", "acting 9,5"},
-                 {"click 9 9", "acting 9,5"},
-                 {"click 9 6", "acting 9,6; start 9,5"},
-                 {"press cmdSquareDetails; click 1 1", "acting 9,6; start 9,5"},
-                 {"press cmdSquareDetails; press cmdMove", ""}});
+    EXPECT_EQ(MarksDuring("Q@9,5 WS@9,5 WA@17,2",
+                          "press cmdMove; click 3 3; click 9 5; press cmdDoneSel; click 9 9; "
+                          "click 9 6; press cmdSquareDetails; click 1 1; press cmdSquareDetails; "
+                          "press cmdMove"),
+              ";; at 9,5; at 9,5; at 9,5; at 9,6 from 9,5; at 9,6 from 9,5; at 9,6 from 9,5; "
+              "at 9,6 from 9,5;;");
 }
 
 TEST(SquareMarks, TellTheAttackersAndTheirTarget) {
     const char* position = "Q@9,5 WS@1,1 WA@9,6 Z@17,2";
-    ExpectMarks(position, {{"press cmdAttack", ""},
-                           {"click 9 5", "acting 9,5"},
-                           {"click 12 5", "acting 9,5"},
-                           {"roll 5; answer yes; click 9 6; box", "acting 9,5; target 9,6"},
-                           {"tick 1", "acting 9,5; target 9,6"},
-                           {"press cmdDoneSel", ""},
-                           {"press cmdAttack", ""}});
+    EXPECT_EQ(
+        MarksDuring(position,
+                    "roll 5; answer yes; press cmdAttack; click 9 5; click 12 5; click 9 6; "
+                    "tick 1; press cmdDoneSel; press cmdAttack"),
+        ";;; at 9,5; at 9,5; ( at 9,5 to 9,6) ( at 9,5 to 9,6) at 9,5 to 9,6; at 9,5 to 9,6;;;");
     // Into a fight: the group stands where it was, or on the square that it has won.
-    const char* fight = "press cmdMove; click 9 5; press cmdDoneSel; answer yes yes; ";
-    ExpectMarks(position, {{fight, "acting 9,5"},
-                           {"roll 5; click 9 6; box", "acting 9,5; target 9,6"},
-                           {"", "acting 9,5; target 9,6"},
-                           {"tick 1; press cmdDoneSel", ""}});
-    ExpectMarks("9,6=0 Q@9,5 WS@9,5 ZA1@9,6 Z@17,2",
-                {{fight, "acting 9,5"}, {"roll 1 3; click 9 6", "acting 9,6; start 9,5"}});
+    const std::string fight = "answer yes yes; press cmdMove; click 9 5; press cmdDoneSel; ";
+    EXPECT_EQ(
+        MarksDuring(position, fight + "roll 5; click 9 6; tick 1; press cmdDoneSel"),
+        ";; at 9,5; at 9,5; at 9,5; ( at 9,5) ( at 9,5 to 9,6) ( at 9,5 to 9,6) at 9,5 to 9,6; "
+        "at 9,5 to 9,6;;");
+    EXPECT_EQ(MarksDuring("9,6=0 Q@9,5 WS@9,5 ZA1@9,6 Z@17,2", fight + "roll 1 3; click 9 6"),
+              ";; at 9,5; at 9,5; at 9,5; ( at 9,5) ( at 9,5 to 9,6) ( at 9,5 to 9,6) "
+              "( at 9,5 to 9,6) at 9,6 from 9,5;");
 }
 
 // Whatever has the focus. The cursor of the keyboard is another mark.
