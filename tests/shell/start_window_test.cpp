@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "core/player_error.h"
-#include "scenarios/setup.h"
 #include "support/played_game.h"
 
 namespace qarn {
@@ -85,36 +82,6 @@ protected:
 const std::string firstStep =
     "&Type in the name for a new game or select one that already exists. | ";
 const std::string savedGames = "folder &Browse QARN Background &Information | ";
-
-TEST_F(StartWindowTest, TheWizardMakesANewGame) {
-    EXPECT_EQ(Shown(), firstStep + "'' (&New) files (&Load) (&Delete Game) " + savedGames + "exit");
-    Type("  ");
-    EXPECT_FALSE(controls.cmdNew.Enabled);
-    Type("  Game One.tgf  ");
-    EXPECT_EQ(Shown(), firstStep + "'  Game One.tgf  ' &New files (&Load) (&Delete Game) " +
-                           savedGames + "new");
-    Press(cmdNew_Click);
-    txtNewFilePath_LostFocus(window);
-    const std::string select = "Select the scenario you would like to play. | 'Game One' locked ";
-    EXPECT_EQ(Shown(), select + "(&Next) scenarios | none");
-    EXPECT_EQ(controls.SetFocus, StartControl::lstScenarios);
-    SelectScenario(2);
-    EXPECT_EQ(controls.lblScenarioBackground.Caption, DataOfScenario(2).Background);
-    EXPECT_EQ(Shown(), select + "&Next scenarios | new");
-    lstScenarios_DblClick(window);
-    EXPECT_EQ(Shown(), "Type in a goodbeast's name. | '' (&Next) [ ] (scenarios) | new");
-    EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
-
-    controls.chkComputer.Value = true;
-    TypeAndPressNew(std::string(54, 'R'));
-    EXPECT_EQ(Shown(), "Type in badbeast's name. | '' (&Start) [ ] (scenarios) | new");
-    TypeAndPressNew(" Ren\xC3\xA9 ");
-    EXPECT_EQ(window.Next, NextWindow::Game);
-    EXPECT_EQ(window.strGamePath, folder / "Game One.tgf");
-    EXPECT_EQ(ReadFile(window.strGamePath), "SKF\r\n" + std::string(54, 'R') + "True\r\n Ren\xE9 " +
-                                                std::string(48, ' ') + "False\r\n 0 \r\n");
-    EXPECT_TRUE(dialogs.boxes.empty());
-}
 
 TEST_F(StartWindowTest, TheWizardAsksWhoPlaysForTheComputer) {
     window.ports.folders.userData = folder / "data";
@@ -295,25 +262,6 @@ TEST_F(StartWindowTest, TellsOfEachGameWhatItIsTheOneSavedLastFirst) {
     Press(cmdNew_Click);
     Type("a");
     EXPECT_FALSE(controls.lblReplaces.Visible);
-}
-
-TEST_F(StartWindowTest, TheProgramBackgroundComesAndGoes) {
-    WriteFile(folder / "a.tgf", "");
-    RefreshFileList(window);
-    SelectFile(0);
-    Type("Game");
-    cmdBackGround_Click(window);
-    EXPECT_EQ(Shown(),
-              "Read about how this program began. | ('Game') (&New) (&Load) (&Delete Game) "
-              "Leave Background &Information background | new");
-    const std::string& text = controls.txtBackGround.Text;
-    EXPECT_TRUE(Has(text, "\nCurrently, this program simulates The Saltbrook, "));
-    EXPECT_TRUE(Has(text, ", and Ambermoor.  In the near future, the program will "));
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3);
-    cmdBackGround_Click(window);
-    EXPECT_EQ(Shown(),
-              firstStep + "'Game' &New files (&Load) (&Delete Game) " + savedGames + "new");
-    EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
 }
 
 TEST_F(StartWindowTest, AnEventThatFailsLeavesTheWindowAsItWas) {

@@ -6,13 +6,9 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QTest>
-#include <algorithm>
+#include <map>
 
-#include "scenarios/balance.h"
-#include "scenarios/catalogue.h"
-#include "scenarios/sides_told.h"
-#include "support/fake_ports.h"
-#include "support/text.h"
+#include "support/sequence.h"
 #include "ui/window_script.h"
 
 namespace qarn {
@@ -31,47 +27,50 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    // A key for the control that has the focus.
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        QTest::keyClick(window.focusWidget(), key, modifiers);
-    }
-    void Alt(Qt::Key key) { Key(key, Qt::AltModifier); }
     void Type(const QString& text) {
         for (const QChar letter : text) {
             QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, {}, letter);
             QApplication::sendEvent(window.focusWidget(), &press);
         }
     }
-    void Enter(const QString& text) {
-        Type(text);
-        Key(Qt::Key_Return);
+    template <typename Kind = QWidget>
+    Kind* Find(const std::string& name) {
+        return window.findChild<Kind*>(QString::fromStdString(name));
     }
-    QWidget* Widget(const char* name) { return window.findChild<QWidget*>(name); }
-    void Click(const char* name) { QTest::mouseClick(Widget(name), Qt::LeftButton); }
-    void ClickRow(const char* list, int row) {
-        const auto [viewport, place] = PlaceOf(list, row);
-        QTest::mouseClick(viewport, Qt::LeftButton, {}, place);
+    void ClickRow(const std::string& list, int row, bool twice) {
+        const auto* rows = Find<QListWidget>(list);
+        const QPoint place = rows->visualItemRect(rows->item(row)).center();
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, place);
+        if (twice) QTest::mouseDClick(rows->viewport(), Qt::LeftButton, {}, place);
     }
-    void DoubleClickRow(const char* list, int row) {
-        ClickRow(list, row);
-        const auto [viewport, place] = PlaceOf(list, row);
-        QTest::mouseDClick(viewport, Qt::LeftButton, {}, place);
-    }
-    std::pair<QWidget*, QPoint> PlaceOf(const char* list, int row) {
-        auto* rows = static_cast<QListWidget*>(Widget(list));
-        return {rows->viewport(), rows->visualItemRect(rows->item(row)).center()};
-    }
+    // The key with which the next box is answered.
     void AnswerBox(Qt::Key key) {
         script.On<QMessageBox>([=, this](QMessageBox& box) {
-            titles.push_back(box.windowTitle().toStdString());
+            transcript += "? " + box.windowTitle().toStdString() + "\n";
             QTest::keyClick(&box, key);
         });
     }
 
-    std::string Focus() const { return window.focusWidget()->objectName().toStdString(); }
-    std::string Text(const char* name) {
-        return Widget(name)->property("text").toString().toStdString();
+    // "type TEXT", "click BUTTON", "row LIST 0" or "open LIST 0", "answer KEY", or a key.
+    void Do(const std::string& command) {
+        std::istringstream words(command);
+        std::string verb, name;
+        int row = 0;
+        words >> verb >> name >> row;
+        const auto key = [](const std::string& text) {
+            return QKeySequence(QString::fromStdString(text))[0];
+        };
+        if (verb == "type") return Type(QString::fromStdString(command.substr(5)));
+        if (verb == "click") return QTest::mouseClick(Find(name), Qt::LeftButton);
+        if (verb == "row" || verb == "open") return ClickRow(name, row, verb == "open");
+        if (verb == "answer") return AnswerBox(key(name).key());
+        QTest::keyClick(window.focusWidget(), key(command).key(), key(command).keyboardModifiers());
+    }
+    void DoAll(const std::string& commands) {
+        for (const std::string& command : Parts(commands)) {
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+            Do(command);
+        }
     }
 
     // What a person sees of the controls: those on screen in the order of their names, with text or
@@ -82,7 +81,7 @@ protected:
         for (const char* name : {"txtNewFilePath", "cmdNew", "chkComputer", "cboOpponent",
                                  "lstScenarios", "fileLoad", "cmdLoad", "cmdDelete", "txtLocation",
                                  "cmdBrowse", "cmdBackGround", "txtBackGround", "cmdExit"}) {
-            const QWidget* widget = Widget(name);
+            const QWidget* widget = Find(name);
             if (!widget->isVisible()) continue;
             QString text = name;
             if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
@@ -102,6 +101,45 @@ protected:
         return seen.join(" ").toStdString();
     }
 
+    std::string Focus() const { return window.focusWidget()->objectName().toStdString(); }
+    // The texts that have come or changed, apart from those of Seen.
+    std::string NewTexts() {
+        std::string news;
+        for (const QWidget* widget : window.findChildren<QWidget*>()) {
+            const auto* story = qobject_cast<const QPlainTextEdit*>(widget);
+            const QString text = story != nullptr ? story->toPlainText()
+                                 : qobject_cast<const QLabel*>(widget) != nullptr
+                                     ? widget->property("text").toString()
+                                     : "";
+            const std::string now = widget->isVisible() ? text.toStdString() : "";
+            if (std::exchange(texts[widget], now) == now || now.empty()) continue;
+            news += "= " + Replaced(now, "\n", "\n  ") + "\n";
+        }
+        return news;
+    }
+    std::string Outcome() const {
+        const StartWindow& next = window.Shown();
+        if (next.Next != NextWindow::Game) return "none\n";
+        const std::string game = ReadFile(next.strGamePath);
+        return "game " + next.strGamePath + ": " + Replaced(game, "\r\n", "/") + "\n";
+    }
+
+    // Carries out the commands of the lines that begin with "> ", and gives these lines back with
+    // what can be seen then.
+    std::string Play(const std::string& commands) {
+        NewTexts();
+        std::istringstream lines(commands);
+        for (std::string line; std::getline(lines, line);) {
+            if (!line.starts_with("> ")) continue;
+            transcript += line + "\n";
+            DoAll(line.substr(2));
+            transcript += window.Shown().Next != NextWindow::Same
+                              ? Outcome()
+                              : NewTexts() + "# " + Focus() + ": " + Seen() + "\n";
+        }
+        return Replaced(transcript, folder / "", "");
+    }
+
     TempFolder folder;
     FakeRandomNumbers random;
     FakeSettings settings;
@@ -109,129 +147,22 @@ protected:
     FakeWastebasket wastebasket;
     FrmSplash window{random, {settings, fileTypes, {folder / "", folder / ""}}, wastebasket};
     WindowScript script;
-    std::vector<std::string> titles;  // of the boxes that were answered
+    std::map<const QWidget*, std::string> texts;
+    std::string transcript;
 };
 
-const std::string games = " txtLocation &Browse QARN Background &Information ";
+class PlayedStartWindow : public StartWindowOnScreen,
+                          public testing::WithParamInterface<Sequence> {};
 
-TEST_F(StartWindowOnScreen, MakesANewGameByKeyboardAlone) {
-    EXPECT_EQ(window.windowTitle(), "Thornmere Series Tatical Game Splash Screen");
-    EXPECT_EQ(Seen(), "'' (*&New) fileLoad (&Load) (&Delete Game)" + games + "E&xit");
-    Enter(QString::fromUtf8("  \u0141\u00F3d\u017A.tgf"));
-    EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked (&Next) lstScenarios E&xit");
-    EXPECT_EQ(Focus(), "lstScenarios");
-    Key(Qt::Key_Return);  // no scenario yet
-    EXPECT_FALSE(Widget("balance")->isVisible());
-    Key(Qt::Key_End);
-    EXPECT_TRUE(Widget("balance")->isVisible());
-    EXPECT_EQ(Text("balance"), "Balance: " + BalanceOfScenario(ScenarioNumber("AM")));
-    EXPECT_TRUE(Has(Text("sides"), "\n" + ToldOfSide(ScenarioNumber("AM"), 2)));
-    EXPECT_EQ(Seen(), "'\u0141\u00F3d\u017A' locked *&Next lstScenarios=Ambermoor E&xit");
-    Key(Qt::Key_Return);
-    EXPECT_EQ(Seen(), "'' (*&Next) &Computer (lstScenarios=Ambermoor) E&xit");
-    Type(QString::fromUtf8("\u0141Red"));
-    for (int stop = 0; stop < 3; ++stop) Key(Qt::Key_Tab);
-    EXPECT_EQ(Focus(), "chkComputer");
-    Key(Qt::Key_Space);
-    EXPECT_EQ(Seen(), "'Red' *&Next &Computer[x] Classic (lstScenarios=Ambermoor) E&xit");
-    Key(Qt::Key_Tab);
-    Key(Qt::Key_Down);
-    EXPECT_EQ(Seen(), "'Red' *&Next &Computer[x] Scout (lstScenarios=Ambermoor) E&xit");
-    EXPECT_EQ(Focus(), "cboOpponent");
-    Key(Qt::Key_Return);
-    EXPECT_EQ(Seen(), "'' (*&Start) &Computer (lstScenarios=Ambermoor) E&xit");
-    Enter(QString(60, 'B'));
-    EXPECT_EQ(window.Shown().Next, NextWindow::Game);
-    EXPECT_EQ(window.Shown().state.newOpponent, (Opponents{"", "scout", "classic"}));
-    EXPECT_EQ(ReadFile(folder / "\u0141\u00F3d\u017A.tgf"), "AM\r\nRed" + std::string(51, ' ') +
-                                                                "True\r\n" + std::string(54, 'B') +
-                                                                "False\r\n 0 \r\n");
+TEST_P(PlayedStartWindow, GoesAsPlayed) {
+    EXPECT_EQ(Play(GetParam().transcript), GetParam().transcript);
 }
 
-TEST_F(StartWindowOnScreen, ChoosesNoFileByItself) {
-    Key(Qt::Key_Tab);
-    EXPECT_EQ(Focus(), "fileLoad");
-    const std::string none = "'' (&New) fileLoad (*&Load) (&Delete Game)" + games + "E&xit";
-    EXPECT_EQ(Seen(), none);
-    Key(Qt::Key_Return);
-    Alt(Qt::Key_D);
-    EXPECT_EQ(Seen(), none);
-
-    Key(Qt::Key_Down);
-    const std::string first = "'' (&New) fileLoad=a.tgf *&Load &Delete Game" + games + "E&xit";
-    EXPECT_EQ(Seen(), first);
-    AnswerBox(Qt::Key_Return);
-    Alt(Qt::Key_D);
-    EXPECT_EQ(Seen(), first);
-    AnswerBox(Qt::Key_Y);
-    Alt(Qt::Key_D);
-    EXPECT_EQ(titles, (std::vector<std::string>{"Delete a.tgf", "Delete a.tgf"}));
-    EXPECT_FALSE(std::filesystem::exists(folder / "a.tgf"));
-    EXPECT_EQ(Focus(), "fileLoad");
-    EXPECT_EQ(Seen(), none);
-    Alt(Qt::Key_D);
-    EXPECT_TRUE(std::filesystem::exists(folder / "b.tgf"));
-
-    ClickRow("fileLoad", 1);
-    const std::string last = "'' (&New) fileLoad=c.tgf *&Load &Delete Game" + games + "E&xit";
-    EXPECT_EQ(Seen(), last);
-    Alt(Qt::Key_I);
-    EXPECT_EQ(Seen(),
-              "('') (&New) (&Load) (&Delete Game) Leave Background &Information "
-              "txtBackGround E&xit");
-    EXPECT_TRUE(static_cast<QPlainTextEdit*>(Widget("txtBackGround"))
-                    ->toPlainText()
-                    .contains("Currently, this program simulates The Saltbrook, "));
-    Click("cmdBackGround");
-    EXPECT_EQ(Focus(), "txtNewFilePath");
-    for (const bool byKey : {true, false}) {
-        Click("cmdBackGround");
-        Click("cmdBackGround");
-        Alt(Qt::Key_T);
-        Key(Qt::Key_Tab);
-        EXPECT_EQ(Seen(), "'' (&New) fileLoad=c.tgf (*&Load) (&Delete Game)" + games + "E&xit");
-        if (byKey) {
-            Key(Qt::Key_End);
-        } else {
-            ClickRow("fileLoad", 1);
-        }
-        EXPECT_EQ(Seen(), last);
-    }
-}
-
-TEST_F(StartWindowOnScreen, EnterAndTabFollowTheControls) {
-    Type("n");
-    ClickRow("fileLoad", 0);
-    Alt(Qt::Key_T);
-    // Where the focus stands, with the default button then.
-    const auto walk = [&](int stops) {
-        std::string order;
-        for (int stop = 0; stop < stops; ++stop, Key(Qt::Key_Tab)) {
-            order += Focus() + " ";
-            for (const char* button : {"*&New ", "*&Next ", "*&Load "}) {
-                if (Has(Seen(), button)) order += button;
-            }
-            if (Focus() == "txtLocation") Key(Qt::Key_Return);  // loads nothing
-        }
-        return order;
-    };
-    EXPECT_EQ(walk(9),
-              "txtNewFilePath *&New cmdNew fileLoad *&Load cmdLoad cmdDelete txtLocation "
-              "cmdBrowse cmdBackGround cmdExit ");
-    EXPECT_EQ(Focus(), "txtNewFilePath");
-    EXPECT_EQ(window.Shown().Next, NextWindow::Same);
-
-    Key(Qt::Key_Return);
-    ClickRow("lstScenarios", 3);
-    EXPECT_EQ(walk(4), "lstScenarios *&Next cmdExit *&Next txtNewFilePath *&Next cmdNew ");
-    ClickRow("lstScenarios", 0);
-    Key(Qt::Key_Tab);
-    Key(Qt::Key_Return);  // on another button
-    EXPECT_EQ(window.Shown().Next, NextWindow::None);
-}
+INSTANTIATE_TEST_SUITE_P(Commands, PlayedStartWindow,
+                         testing::ValuesIn(ReadSequences("ui/start_window.txt")), NameOf);
 
 TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
-    auto* list = static_cast<QListWidget*>(Widget("fileLoad"));
+    const auto* list = Find<QListWidget>("fileLoad");
     WriteFile(folder / "d.tgf", "HM\r\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return list->count() == 4; }, 3000));
 
@@ -239,39 +170,30 @@ TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
         EXPECT_EQ(dialog.directory().path().toStdString(), folder.Path());
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    Click("cmdBrowse");
+    Do("click cmdBrowse");
     EXPECT_TRUE(script.Done());
     EXPECT_EQ(window.Shown().Next, NextWindow::Same);
 
     window.Prepare(true);
     EXPECT_EQ(Focus(), "fileLoad");
-    DoubleClickRow("fileLoad", 0);  // the one saved last
+    Do("open fileLoad 0");  // the one saved last
     EXPECT_EQ(window.Shown().Next, NextWindow::Game);
     EXPECT_EQ(window.Shown().strGamePath, folder / "d.tgf");
 }
 
 TEST_F(StartWindowOnScreen, TheLongestStoryHasRoomBelowThePicture) {
-    Enter("A");
-    DoubleClickRow("lstScenarios", 1);
-    Alt(Qt::Key_C);       // tells of the opponent, which takes room
-    window.resize(1, 1);  // as small as it can be
+    DoAll("type A; Return; open lstScenarios 1; Alt+C");  // the opponent's text takes room
+    window.resize(1, 1);                                  // as small as it can be
     QApplication::processEvents();
-    const auto* story = static_cast<QLabel*>(Widget("lblScenarioBackground"));
-    EXPECT_GT(story->y(), Widget("picture")->geometry().bottom());
+    const auto* story = Find<QLabel>("lblScenarioBackground");
+    EXPECT_GT(story->y(), Find("picture")->geometry().bottom());
     EXPECT_GE(story->height(), story->heightForWidth(story->width()));
-    EXPECT_GT(Widget("sides")->y(), story->geometry().bottom());
+    EXPECT_GT(Find("sides")->y(), story->geometry().bottom());
 }
 
-TEST_F(StartWindowOnScreen, EscapeAndTheCloseBoxEndTheProgram) {
-    Enter("A");
-    DoubleClickRow("lstScenarios", 1);
-    EXPECT_TRUE(Has(Seen(), "&Computer (lstScenarios=The Song of Kestrel Ford)"));
-    Key(Qt::Key_Escape);
+TEST_F(StartWindowOnScreen, TheCloseBoxEndsTheProgram) {
+    window.close();
     EXPECT_EQ(window.Shown().Next, NextWindow::None);
-    FrmSplash other(random, {settings, fileTypes, {folder / "", folder / ""}}, wastebasket);
-    other.show();
-    other.close();
-    EXPECT_EQ(other.Shown().Next, NextWindow::None);
 }
 
 }  // namespace
