@@ -89,10 +89,6 @@ protected:
         Do(script);
         return Text("lblStatus");
     }
-    std::string FocusAfter(const std::string& script) {
-        Do(script);
-        return Focus();
-    }
 
     // What has changed on the board is on the screen: painting all of it again changes nothing.
     void ExpectBoardPainted() {

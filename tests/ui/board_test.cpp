@@ -164,22 +164,6 @@ TEST_F(GameWindow, ShowsThePointerAndTheCursorOnTheBoard) {
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
-TEST_F(GameWindow, WalksWithTheArrowKeysUpToTheEdges) {
-    Open("Q@9,5 WA@17,2");
-    Button("cmdMove")->setFocus();
-    std::string walk;
-    for (const char* key : {"Up", "Left", "Down", "Down", "Right"}) {
-        Do(key);
-        walk +=
-            std::to_string(board->Cursor().x()) + "," + std::to_string(board->Cursor().y()) + " ";
-        ExpectBoardPainted();
-    }
-    EXPECT_EQ(walk, "9,4 8,4 8,5 8,6 9,6 ");
-    board->MoveCursor({1, 10});
-    Do("Left; Down");
-    EXPECT_EQ(board->Cursor(), QPoint(1, 10));
-}
-
 TEST_F(GameWindow, TakesOnlyWholeClicksWithTheLeftButton) {
     Open("Q@9,5 WA@17,2");
     Do("Alt+M");

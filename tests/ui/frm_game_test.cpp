@@ -1,10 +1,98 @@
-#include "ui/frm_game.h"
+#include <QMenu>
+#include <QMenuBar>
 
-#include "core/board_display.h"
 #include "support/game_window.h"
+#include "support/sequence.h"
 
 namespace qarn {
 namespace {
+
+class PlayedWindow : public GameWindow, public testing::WithParamInterface<Sequence> {
+protected:
+    using Facts = std::map<std::string, std::string>;
+
+    // What is on the board, and what the window shows of its controls, by their names.
+    Facts Seen() {
+        const QPoint cursor = board->Cursor();
+        Facts seen{{"focus", Focus()},
+                   {"cursor", std::to_string(cursor.x()) + "," + std::to_string(cursor.y())}};
+        if (!window->testAttribute(Qt::WA_KeyboardFocusChange)) seen["focus"] += " unmarked";
+        for (const Fact& fact : FactsOf(window->ShownGame())) {
+            if (fact.sign == std::string("@")) seen[fact.name] = fact.value;
+        }
+        for (const auto* button : window->findChildren<QAbstractButton*>()) {
+            const std::string text =
+                (button->isChecked() ? "x " : "") + button->text().toStdString();
+            seen[button->objectName().toStdString()] = !button->isVisible()  ? "hidden"
+                                                       : button->isEnabled() ? "[" + text + "]"
+                                                                             : "(" + text + ")";
+        }
+        for (const auto* label : window->findChildren<QLabel*>()) {
+            const QObject* named = label->objectName().isEmpty() ? label->parent() : label;
+            seen[named->objectName().toStdString()] =
+                label->isVisible() ? Replaced(label->text().toStdString(), "\n", " / ") : "hidden";
+        }
+        for (const auto* item : window->findChildren<QAction*>() + window->menuBar()->actions()) {
+            const QString name = item->objectName().isEmpty() ? item->text() : item->objectName();
+            seen[name.toStdString()] = !item->isVisible()   ? "hidden"
+                                       : !item->isEnabled() ? "off"
+                                       : item->isChecked()  ? "checked"
+                                                            : "on";
+        }
+        return seen;
+    }
+
+    // GameWindow's, and "mouse BUTTON", "focus CONTROL", "answer KEY...", "roll 5".
+    void Do(const std::string& command) {
+        const QStringList words = QString::fromStdString(command).split(' ');
+        const std::string name = words.back().toStdString();
+        if (words[0] == "mouse") {
+            QTest::mouseClick(Button(name), Qt::LeftButton, {}, {8, 8});
+        } else if (words[0] == "focus") {
+            (name == "board" ? board : Find(name))->setFocus();
+        } else if (words[0] == "answer") {
+            std::deque<Qt::Key> keys;
+            for (const QString& key : words.mid(1)) keys.push_back(QKeySequence(key)[0].key());
+            AnswerBoxes(keys);
+        } else if (words[0] == "roll") {
+            random.QueueRoll(std::stoi(name));
+        } else {
+            GameWindow::Do(command);
+        }
+    }
+
+    std::string Play(const std::string& commands) {
+        std::string transcript;
+        std::istringstream lines(commands);
+        for (std::string line; std::getline(lines, line);) {
+            if (!line.starts_with("> ")) continue;
+            Facts before = Seen();
+            titles.clear(), boxes.clear(), statuses.clear();
+            for (const std::string& command : Parts(line.substr(2))) Do(command);
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+            ExpectBoardPainted();
+            transcript += line + "\n";
+            for (const std::string& title : titles) transcript += "? " + title + "\n";
+            for (std::size_t i = 0; i < boxes.size(); ++i) {
+                transcript += "! " + boxes[i] + "\n= " + Replaced(statuses[i], "\n", " / ") + "\n";
+            }
+            std::string changes;
+            for (const auto& [name, value] : Seen()) {
+                if (before[name] != value) changes += " " + name + "=" + value;
+            }
+            if (!changes.empty()) transcript += "#" + changes + "\n";
+        }
+        return transcript;
+    }
+};
+
+TEST_P(PlayedWindow, GoesAsPlayed) {
+    Open(GetParam().position);
+    EXPECT_EQ(Play(GetParam().transcript), GetParam().transcript);
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, PlayedWindow,
+                         testing::ValuesIn(ReadSequences("ui/game_window.txt")), NameOf);
 
 // Its widgets tell it that they lose the focus.
 TEST_F(GameWindow, IsStillWholeWhenTheFocusLeavesIt) {
@@ -15,61 +103,6 @@ TEST_F(GameWindow, IsStillWholeWhenTheFocusLeavesIt) {
                      [&] { whole = dynamic_cast<FrmGame*>(shown) != nullptr; });
     window.reset();
     EXPECT_TRUE(whole);
-}
-
-TEST_F(GameWindow, IsPlayedWithTheKeyboardAlone) {
-    Open("Q@9,5 WS@9,5 WA@17,2");
-    EXPECT_EQ(Focus(), "board");
-    EXPECT_EQ(FocusAfter("Alt+M"), "board");
-    EXPECT_EQ(FocusAfter("Space"), "chkItems(1)");
-    EXPECT_TRUE(window->testAttribute(Qt::WA_KeyboardFocusChange)) << "the focus can be seen";
-    EXPECT_EQ(StatusAfter("Tab; Space; Alt+S"),
-              "You have 3 mobility units.\nSelect your destination.");
-    EXPECT_EQ(Focus(), "cmdMove");
-    EXPECT_EQ(FocusAfter("Down"), "board");
-    EXPECT_EQ(StatusAfter("Return"), "You have 1 mobility units left.");
-    EXPECT_EQ(CaptionOfSquare(window->ShownGame(), 9, 6), "Q    ");
-    EXPECT_EQ(StatusAfter("Left; Return"), "You have 0 mobility units left.\nClick Done Moving");
-    EXPECT_EQ(StatusAfter("Alt+M"), "It is Blue's turn.");
-    Button("cmdMove")->setFocus();
-    EXPECT_EQ(FocusAfter("Return"), "board");
-    EXPECT_FALSE(Button("cmdMove")->isEnabled());
-}
-
-TEST_F(GameWindow, IsPlayedWithTheMouse) {
-    Open("Q@9,5 WS@9,5 WA@17,2");
-    EXPECT_EQ(window->windowTitle(), "Hollowmere Tactical Game - game.tgf (Red vs. Blue)");
-    QTest::mouseClick(Button("cmdMove"), Qt::LeftButton);
-    Do("9,5");
-    EXPECT_TRUE(Button("chkItems(2)")->isVisible());
-    EXPECT_EQ(Button("chkItems(2)")->text(), "WS");
-    EXPECT_FALSE(Button("chkItems(3)")->isVisible());
-    QTest::mouseClick(Button("chkItems(1)"), Qt::LeftButton, {}, {8, 8});
-    QTest::mouseClick(Button("cmdDoneSel"), Qt::LeftButton);
-    EXPECT_TRUE(Button("chkItems(2)")->isVisible() && !Button("chkItems(2)")->isEnabled());
-    EXPECT_EQ(StatusAfter("9,6"), "You have 2 mobility units left.");
-    EXPECT_EQ(Focus(), "cmdMove") << "a click on the board leaves the focus where it is";
-
-    QTest::mouseClick(Button("cmdSquareDetails"), Qt::LeftButton);
-    Do("9,5");
-    EXPECT_EQ(Text("lblDetailMore"), "Current Items: Hero");
-    EXPECT_EQ(Find("fraQuickDetails")->findChild<QLabel*>()->text(), "Quick Info");
-    EXPECT_EQ(Text("lblSummary"), "Location: (9, 5)\nMobility: 3\nAttack: 5\nDefense: 5");
-}
-
-TEST_F(GameWindow, ShowsWhatABoxCommentsOnAndTakesEscapeForNo) {
-    Open("Q@9,5 WA@9,6 Z@17,2");
-    Do("Alt+M; 9,5; Alt+S");
-    AnswerBoxes({Qt::Key_Escape});
-    EXPECT_EQ(StatusAfter("9,6"), "The attack was canceled.\nPick another destination.");
-    EXPECT_EQ(boxes.at(0),
-              "You will have to initiate a direct attack to proceed.  Do you want to attack?");
-
-    random.QueueRoll(5);
-    AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
-    EXPECT_EQ(StatusAfter("9,6"), "Select the character which died in the attack.");
-    EXPECT_EQ(boxes.at(3), "You rolled a 5 and lost the attack.");
-    EXPECT_EQ(statuses.at(3), "Your attack units can not penetrate your enemy's defense.");
 }
 
 TEST_F(GameWindow, StaysOpenWhenItCanNotSaveAndThePersonWantsIt) {
@@ -93,18 +126,6 @@ TEST_F(GameWindow, ShowsOneAboutWindow) {
     EXPECT_TRUE(MenuItem("mnuAbout")->isEnabled());
 }
 
-TEST_F(GameWindow, OpensTheDetailsOfOneTerrainAtATime) {
-    Open("Q@9,5 WA@17,2");
-    QTest::mouseClick(Button("cmdSeeTerDet(1)"), Qt::LeftButton);
-    EXPECT_EQ(Text("lblTerrainDescription").substr(0, 21), "Mountain\nMobility: 5\n");
-    EXPECT_FALSE(Button("cmdSeeTerDet(0)")->isEnabled());
-    Do("Alt+X");
-    EXPECT_FALSE(Find("lblTerrainDescription")->isVisible());
-    EXPECT_TRUE(Button("cmdSeeTerDet(0)")->isEnabled());
-    EXPECT_FALSE(Button("cmdSeeTerDet(8)")->isVisible());
-    EXPECT_FALSE(Find("lblTerrKey(8)")->isVisible());
-}
-
 TEST_F(GameWindow, LetsTheMouseThroughItsNotesOverTheBoard) {
     Open("Q@9,5 WS@16,3 WA@17,2");
     QTest::mouseClick(Button("cmdSeeTerDet(3)"), Qt::LeftButton);
@@ -123,68 +144,6 @@ TEST_F(GameWindow, LetsTheMouseThroughItsNotesOverTheBoard) {
             Text("lblSummary")
                 .starts_with("Location: (" + std::to_string(X) + ", " + std::to_string(Y) + ")\n"));
     }
-}
-
-TEST_F(GameWindow, IsWalkedThroughWithTheTabKey) {
-    Open("Q@9,5 WS@9,5 WA@17,2");
-    const auto walk = [&] {
-        std::string names;
-        do {
-            names += Focus() + " ";
-            Do("Tab");
-        } while (Focus() != "board" && names.size() < 999);
-        return names;
-    };
-    const std::string key =
-        "cmdSquareDetails cmdSeeTerDet(0) cmdSeeTerDet(1) cmdSeeTerDet(2) cmdSeeTerDet(3) "
-        "cmdSeeTerDet(4) cmdSeeTerDet(5) cmdSeeTerDet(6) cmdSeeTerDet(7) ";
-    EXPECT_EQ(walk(), "board cmdAttack cmdMove " + key);
-    Do("Alt+M; 9,5");
-    board->setFocus();
-    EXPECT_EQ(walk(), "board chkItems(1) chkItems(2) cmdDoneSel " + key);
-}
-
-// Escape does nothing but cancel a move or an attack.
-TEST_F(GameWindow, ObeysItsAccessKeysAndNotEscape) {
-    Open("Q@9,5 WA@17,2");
-    for (const auto& [key, status] :
-         {std::pair{"Alt+A", "You are currently in attack mode\nSelect the attacker(s)'s square."},
-          {"Alt+R", "It is Red's turn."},
-          {"Alt+I", "Click on the Square Information button to resume playing."},
-          {"Alt+I", "It is Red's turn."},
-          {"Alt+M",
-           "You are currently in move mode.\nSelect the square you will be starting your move "
-           "from."}}) {
-        EXPECT_EQ(StatusAfter(key), status);
-        for (QWidget* focused : {static_cast<QWidget*>(board), Find("cmdSquareDetails")}) {
-            if (MenuItem("mnuCancelMove")->isEnabled()) continue;
-            focused->setFocus();
-            EXPECT_EQ(StatusAfter("Esc"), status);
-            EXPECT_TRUE(window->isVisible());
-        }
-    }
-}
-
-// Ctrl+Z from wherever the focus is, Esc likewise, and what was taken back is on the screen.
-TEST_F(GameWindow, TakesBackByKeys) {
-    Open("Q@9,5 TS@9,5 WA@17,2");
-    EXPECT_FALSE(MenuItem("mnuTakeBack")->isEnabled() || MenuItem("mnuCancelMove")->isEnabled());
-    const std::string choosing = StatusAfter("Alt+M; 9,5");
-    EXPECT_EQ(StatusAfter("Alt+S; 9,6"), "You have 6 mobility units left.");
-    EXPECT_EQ(StatusAfter("Ctrl+Z"), "You have 8 mobility units.\nSelect your destination.");
-    EXPECT_EQ(StatusAfter("Ctrl+Z"), choosing);
-    EXPECT_TRUE(Button("cmdDoneSel")->isVisible() && Button("chkItems(2)")->isEnabled());
-    Button("chkItems(2)")->setFocus();
-    for (const char* key : {"Space", "Ctrl+Z"}) {
-        Do(key);
-        EXPECT_EQ(Button("chkItems(2)")->isChecked(), key == std::string("Ctrl+Z"));
-    }
-    Do("Alt+S; 10,5");
-    ExpectBoardPainted();
-    EXPECT_EQ(StatusAfter("Esc"), "It is Red's turn.");
-    EXPECT_TRUE(Button("cmdMove")->isEnabled() && Button("cmdAttack")->isEnabled());
-    EXPECT_FALSE(MenuItem("mnuCancelMove")->isEnabled() || Button("chkItems(1)")->isVisible());
-    ExpectBoardPainted();
 }
 
 TEST_F(GameWindow, LetsTheComputerPlayButNotUnderABox) {
@@ -215,6 +174,55 @@ TEST_F(GameWindow, LetsTheComputerPlayButNotUnderABox) {
     EXPECT_NE(marked, "");
     EXPECT_EQ(window->ShownGame().record.bytTurn, 2);
     EXPECT_EQ(SquaresWith(highlight), "");
+}
+
+// ---- The menus ----
+
+// The items of a menu with their keys, (in parentheses) while they are hidden, each submenu [with
+// its own].
+std::string ItemsOf(const QMenu* menu) {
+    QStringList items;
+    for (const QAction* item : menu->actions()) {
+        QString text = item->isSeparator() ? "--" + item->text() : item->text();
+        if (!item->shortcut().isEmpty()) text += " " + item->shortcut().toString();
+        if (item->menu() != nullptr) {
+            text += " [" + QString::fromStdString(ItemsOf(item->menu())) + "]";
+        }
+        items << (item->isVisible() ? text : "(" + text + ")");
+    }
+    return items.join(", ").toStdString();
+}
+
+TEST_F(GameWindow, HasItsMenus) {
+    Open("computer1 turn2 Q@9,5 WA@17,2");
+    std::string menus;
+    for (const QAction* menu : window->menuBar()->actions()) {
+        menus += menu->text().toStdString() + ": " + ItemsOf(menu->menu()) + "\n";
+    }
+    EXPECT_EQ(menus,
+              "&File: &New... Ctrl+N, &Open... Ctrl+O, &Save Ctrl+S, Save &As... F12, --, "
+              "E&xit Ctrl+X\n"
+              "&Details: &Details Ctrl+D, &Item Details Ctrl+I, Summary &Terrain Details Ctrl+T\n"
+              "&Tools: &Replay Ctrl+R, (&Convert File)\n"
+              "&Options: &Display Summary, Default &Filepath, Add and Remove the &TGF Filetype\n"
+              "&View: &Sides, &Reach, &Odds, Terrain &Patterns, &Large Codes, &Coordinates, "
+              "Last &Move, &Journal, &Roster, &Full Screen F11\n"
+              "&Play: &Take Back Ctrl+Z, &Cancel Move Esc, &Pass Turn, &Hint Ctrl+H, --, "
+              "&Opponent [--Goodbeasts, &Classic, &Scout, Ca&ptain, &Warlord, (--Badbeasts), "
+              "(&Classic), (&Scout), (Ca&ptain), (&Warlord)], "
+              "&Speed [One &Second a Step, A &Third of a Second, At &Once], "
+              "House &Rules [&Own Groups Only, One &Turn for a Burning], --, "
+              "&Resign, &Offer Draw\n"
+              "&Help: &Getting Started, &Help F1, --, &About\n");
+}
+
+TEST_F(GameWindow, AsksTheDesktopForTheMarkOfTheFileTypeWhenItsMenuOpens) {
+    fileTypes.values = {{".tgf", "another program's"}};
+    Open("Q@9,5 WA@17,2");
+    EXPECT_FALSE(MenuItem("mnuTGF")->isChecked());
+    auto* options = qobject_cast<QMenu*>(MenuItem("mnuTGF")->parent());
+    emit options->aboutToShow();
+    EXPECT_TRUE(MenuItem("mnuTGF")->isChecked());
 }
 
 }  // namespace
