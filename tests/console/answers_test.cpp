@@ -4,7 +4,7 @@
 #include "console/words.h"
 #include "shell/user_settings.h"
 #include "support/console_game.h"
-#include "support/saved_game.h"
+#include "support/sequence.h"
 
 namespace qarn {
 namespace {
@@ -12,17 +12,6 @@ namespace {
 using Json = nlohmann::json;
 
 std::string Text(const Json& value) { return value.is_null() ? "none" : value.dump(); }
-
-// The squares with their costs, "!" behind those that are attacked.
-std::string Reached(const Json& object) {
-    if (!object.contains("reach")) return object["error"];
-    std::string text;
-    for (const Json& one : object["reach"]) {
-        text += Text(one["X"]) + "," + Text(one["Y"]) + "=" + Text(one["cost"]) +
-                (one["attack"] ? "! " : " ");
-    }
-    return text;
-}
 
 // Attack, defense, and the chances of win, tie, lose and the loss after a win.
 std::string Told(const Json& attack) {
@@ -32,67 +21,45 @@ std::string Told(const Json& attack) {
     return text + (attack["burns"] ? " burns" : "");
 }
 
-TEST(Reach, OfTheGroupInMoveAndOfAStack) {
-    struct Row {
-        std::string position, commands, reached;
-    };
-    const std::string nobody = "No group is in move.";
-    const std::string move = "press cmdMove; click 16 10; press cmdDoneSel; ";
-    const Row rows[] = {
-        {"Q@16,10 Z@1,1", "reach", nobody},
-        {"Q@16,10 Z@1,1", "press cmdMove; reach", nobody},
-        {"Q@16,10 Z@1,1", "press cmdMove; click 16 10; reach", nobody},
-        {"Q@16,10 Z@1,1", move + "reach",
-         "15,10=1 16,9=1 17,10=1 14,10=2 15,9=2 17,9=2 18,10=2 13,10=3 17,8=3 18,9=3 "},
-        {"Q@16,10 Z@1,1", move + "click 17 10; reach",
-         "16,10=1 17,9=1 18,10=1 15,10=2 16,9=2 17,8=2 18,9=2 "},
-        {"Q@16,10 Z@1,1", move + "click 17 10; click 18 10; click 17 10; reach", ""},
-        {"Q@16,10 HF@17,10 Z@1,1", move + "click 17 10; reach", ""},  // joined
-        {"Q@16,10 Z@1,1", move + "press cmdMove; reach", nobody},
-        {"Q@16,10 Z@1,1", "reach 15 10", "There is no one on that square."},
-        {"Q@16,10 BT@15,10 Z@1,1", "reach 15 10", "The cart and/or boat can not go on its own."},
-        {"Q@16,10 Z@1,1", "reach 15", "A square has a column and a row."},
-        {"Q@16,10 Z@1,1", "reach 19 1", "\"19\" should be a whole number from 1 to 18."},
-        // The side that is not to move, in its own turn: it attacks Q and joins Z.
-        {"ZA1@18,10 Q@17,10 Z@18,9", "reach 18 10", "17,10=1! 18,9=1 "},
-    };
-    for (const Row& row : rows) {
-        const auto objects = ConsoleGame(SavedGame(row.position)).ForProgram(row.commands);
-        EXPECT_EQ(Reached(objects.back()), row.reached) << row.position << " " << row.commands;
+// The reach as squares with their costs, "!" behind those that are attacked; or the odds of the
+// attack by command and of the direct one.
+std::string AnswerOf(const Json& object) {
+    if (!object["ok"]) return object["error"];
+    if (object.contains("odds")) {
+        return Told(object["odds"]["command"]) + ", " + Told(object["odds"]["direct"]);
     }
+    std::string text;
+    for (const Json& one : object.at("reach")) {
+        text += (text.empty() ? "" : " ") + Text(one["X"]) + "," + Text(one["Y"]) + "=" +
+                Text(one["cost"]) + (one["attack"] ? "!" : "");
+    }
+    return text.empty() ? "nowhere" : text;
+}
+
+class Answers : public testing::TestWithParam<Sequence> {};
+
+// The answer to the last command of each line, which changes nothing.
+TEST_P(Answers, AreThoseToPrograms) {
+    const std::string& transcript = GetParam().transcript;
+    std::istringstream lines(transcript);
+    std::string commands = "state", answers;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with("> ")) continue;
+        commands += "; " + line.substr(2);
+        const auto objects = ConsoleGame(SavedGame(GetParam().position)).ForProgram(commands);
+        answers += line + "\n" + AnswerOf(objects.back()) + "\n";
+        EXPECT_EQ(objects.back()["record"], objects.at(objects.size() - 2)["record"]);
+    }
+    EXPECT_EQ(answers, transcript);
+}
+
+INSTANTIATE_TEST_SUITE_P(Questions, Answers,
+                         testing::ValuesIn(ReadSequences("console/answers.txt")), NameOf);
+
+TEST(Reach, TellsTheWayAndIsNotToldAgain) {
     const auto path = ConsoleGame(SavedGame("Q@16,10 Z@1,1")).ForProgram("reach 16 10; state");
     EXPECT_EQ(path[0]["reach"][8]["path"], Json::parse("[[16,10],[16,9],[17,9],[17,8]]"));
     EXPECT_TRUE(path[0]["happenings"].empty() && !path[1].contains("reach"));
-    EXPECT_EQ(path[0]["record"], path[1]["record"]);
-}
-
-TEST(OddsCommand, TellsBothWaysOfAttacking) {
-    struct Row {
-        const char *position, *squares, *byCommand, *direct;
-    };
-    const char *even = "10:4 0.4 0.2 0.4 0.2", *lost = "4:11 0.0 0.0 1.0 0.0",
-               *burns = "15:6 1.0 0.0 0.0 0.0 burns";
-    const Row rows[] = {
-        {"LS@15,10 SK@15,10 ZA1@16,10", "15 10 16 10", even, even},
-        {"LS@15,10 SK@15,10 ZA1@16,10", "16 10 15 10", lost, lost},  // who is not to move
-        {"LS@13,7 SK@13,7 ZA1@14,7", "13 7 14 7", "none", "10:6 0.2 0.2 0.6 0.2"},
-        {"LS@15,10 WS@15,10 ZA1@17,10", "15 10 17 10", "none", "none"},
-        {"LS@15,10 BT@16,10", "15 10 16 10", "none", "none"},
-        {"LS@15,10 HF@16,10", "15 10 16 10", "7:2 0.2 0.2 0.6 0.2", "none"},   // of one's own side
-        {"LS@5,1 WS@5,1 ZA1@6,1", "5 1 6 1", "15:4 0.8 0.2 0.0 0.2", "none"},  // over water
-        {"LS@14,4 WS@14,4 WA@15,4", "14 4 15 4", burns, burns},
-        {"BT@15,10 ZA1@16,10", "15 10 16 10", "none", "none"},
-        {"LS@15,10 ZA1@16,10", "14 10 16 10", "none", "none"},
-    };
-    for (const Row& row : rows) {
-        const auto objects = ConsoleGame(SavedGame(row.position))
-                                 .ForProgram("state; odds " + std::string(row.squares));
-        ASSERT_TRUE(objects[1].contains("odds")) << objects[1]["error"];
-        EXPECT_EQ(Told(objects[1]["odds"]["command"]), row.byCommand) << row.position;
-        EXPECT_EQ(Told(objects[1]["odds"]["direct"]), row.direct) << row.position;
-        EXPECT_EQ(objects[1]["record"], objects[0]["record"]);
-        EXPECT_FALSE(objects[0].contains("odds"));
-    }
 }
 
 // The Corsair is the last of his side, and beaten for certain.
@@ -116,7 +83,7 @@ TEST(Hints, TellAndShowTheWinThatIsThere) {
     EXPECT_TRUE(Has(game.ForPerson("hint"), "\n" + sentence + "\n"));
 }
 
-TEST(Answers, ForAPerson) {
+TEST(AnswersInWords, AreThoseToAPerson) {
     ConsoleGame game(SavedGame("LS@14,4 SK@14,4 WA@15,4 ZA1@14,5 Z@9,1 BT@18,1"));
     const std::string text =
         game.ForPerson("odds 14 4 15 4; odds 14 4 14 5; odds 15 4 14 4; reach 9 1; reach 18 1");

@@ -123,20 +123,6 @@ TEST_F(StartWindowTest, TheWizardAsksWhoPlaysForTheComputer) {
     EXPECT_EQ(world.settings.values["QARN/Opponent/04505230"], "captain");
 }
 
-TEST_F(StartWindowTest, AFileNameRefusesCharacters) {
-    for (const char character : std::string("\\/:*?\"<>|")) {
-        TypeAndPressNew(std::string("a") + character + "b");
-        EXPECT_EQ(
-            dialogs.boxes.back().Text,
-            "You can not have a game containing the followin characters: \\ / : * ? \" < > |");
-        EXPECT_EQ(Shown().find(firstStep + "'' (&New)"), 0u) << character;
-        EXPECT_EQ(controls.SetFocus, StartControl::txtNewFilePath);
-    }
-    EXPECT_EQ(dialogs.boxes.size(), 9u);
-    TypeAndPressNew("Upper.TGF");  // only the small letters are an ending
-    EXPECT_EQ(window.state.strNewGameName, "Upper.TGF");
-}
-
 TEST_F(StartWindowTest, ANewGameThatCanNotBeWrittenStaysAtItsStep) {
     world.settings.values["QARN/Filepath/04505230"] = folder / "later";
     Form_Load(window);

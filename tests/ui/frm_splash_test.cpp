@@ -46,7 +46,7 @@ protected:
     // The key with which the next box is answered.
     void AnswerBox(Qt::Key key) {
         script.On<QMessageBox>([=, this](QMessageBox& box) {
-            transcript += "? " + box.windowTitle().toStdString() + "\n";
+            transcript += "? " + (box.windowTitle() + ": " + box.text()).toStdString() + "\n";
             QTest::keyClick(&box, key);
         });
     }
