@@ -231,29 +231,5 @@ TEST_F(GameWindow, OffersAidsInTheFirstGameOnly) {
     EXPECT_TRUE(window->ShownGame().view == offered);
 }
 
-TEST_F(GameWindow, GoesToOwnGroupsAndTicksBoxesByKeys) {
-    Open("9,5=0 Q@9,5 WS@9,5 HF@3,7 S@16,1 BT@2,2 Z@17,2 SK@17,9");
-    std::string walk;
-    const auto go = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        Key(key, modifiers);
-        walk +=
-            std::to_string(board->Cursor().x()) + "," + std::to_string(board->Cursor().y()) + " ";
-    };
-    Button("cmdMove")->setFocus();
-    for (int i = 0; i < 4; ++i) go(Qt::Key_N);
-    go(Qt::Key_N, Qt::ShiftModifier);
-    go(Qt::Key_Home);
-    go(Qt::Key_End);
-    EXPECT_EQ(walk, "3,7 17,9 9,5 3,7 9,5 1,5 18,5 ");
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(9, 5);
-    Key(Qt::Key_2);
-    EXPECT_TRUE(Button("chkItems(1)")->isChecked());
-    EXPECT_FALSE(window->ShownGame().controls.chkItems[2].Value);
-    Key(Qt::Key_3);
-    Key(Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(Text("lblStatus"), "You have 3 mobility units.\nSelect your destination.");
-}
-
 }  // namespace
 }  // namespace qarn

@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QTextEdit>
 
 #include "support/game_window.h"
 #include "support/sequence.h"
@@ -21,6 +22,7 @@ protected:
             if (fact.sign == std::string("@")) seen[fact.name] = fact.value;
         }
         for (const auto* button : window->findChildren<QAbstractButton*>()) {
+            if (button->objectName().startsWith("qt_")) continue;  // of a dock
             const std::string text =
                 (button->isChecked() ? "x " : "") + button->text().toStdString();
             seen[button->objectName().toStdString()] = !button->isVisible()  ? "hidden"
@@ -31,6 +33,10 @@ protected:
             const QObject* named = label->objectName().isEmpty() ? label->parent() : label;
             seen[named->objectName().toStdString()] =
                 label->isVisible() ? Replaced(label->text().toStdString(), "\n", " / ") : "hidden";
+        }
+        for (const auto* text : window->findChildren<QTextEdit*>()) {
+            const std::string plain = text->toPlainText().toStdString();
+            seen[text->objectName().toStdString()] = Replaced(plain, "\n", "\n  ");
         }
         for (const auto* item : window->findChildren<QAction*>() + window->menuBar()->actions()) {
             const QString name = item->objectName().isEmpty() ? item->text() : item->objectName();

@@ -43,29 +43,12 @@ TEST(MenuCommands, WhatIsShownIsKeptForThePerson) {
     EXPECT_FALSE(played.game.view.sides);
 }
 
-TEST(MenuCommands, HintIsOfferedUntilSomebodyMoves) {
-    const std::string moving = "press cmdMove; click 9 10; press cmdDoneSel; ";
-    const std::string attacking = "press cmdAttack; click 9 10; ";
-    for (const auto& [commands, offered] :
-         {std::pair{std::string(), true},
-          {"press cmdMove; click 9 10", true},
-          {moving, true},
-          {moving + "click 9 10", true},  // refused
-          {moving + "click 9 9", false},
-          {moving + "answer yes; roll 3; click 10 10", false},  // a tie
-          {moving + "click 9 9; press cmdMove", true},
-          {attacking, true},
-          {attacking + "roll 5; click 10 10", false}}) {
-        PlayedGame played("LS@9,10 SK@9,10 BT@9,10 ZA1@10,10 Z@1,1");
-        played.DoAll(commands);
-        EXPECT_EQ(played.Do("menu mnuHint"), offered) << commands;
-        EXPECT_EQ(played.game.blnHintWanted, offered);
-    }
-    // The computer that has found nothing leaves the choice to the person.
-    PlayedGame computers("computer1 Q@9,5 Z@17,2");
-    EXPECT_FALSE(computers.Do("menu mnuHint"));
-    computers.game.controls.tmrAI.Enabled = false;
-    EXPECT_TRUE(computers.Do("menu mnuHint"));
+// The computer that has found nothing leaves the choice to the person.
+TEST(MenuCommands, HintIsOfferedWhereTheComputerRests) {
+    PlayedGame played("computer1 Q@9,5 Z@17,2");
+    EXPECT_FALSE(played.Do("menu mnuHint"));
+    played.game.controls.tmrAI.Enabled = false;
+    EXPECT_TRUE(played.Do("menu mnuHint"));
 }
 
 TEST(MenuCommands, HintGoesWhenTheGameGoesOn) {
