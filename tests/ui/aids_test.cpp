@@ -178,30 +178,6 @@ TEST_F(GameWindow, WritesCoordinatesAtTheEdgesOnly) {
     }
 }
 
-TEST_F(GameWindow, ShowsTheLastMoveUntilTheNextClick) {
-    constexpr QRgb burst = 0xE84000;
-    Open("14,10=0 15,10=0 16,10=0 Q@14,10 WS@14,10 ZA1@16,10 Z@17,2");
-    window->resize(1600, 1100);
-    MenuItem("mnuLastMove")->trigger();
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(14, 10);
-    Key(Qt::Key_S, Qt::AltModifier);
-    ClickSquare(15, 10);
-    random.QueueRoll(4);
-    AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
-    ClickSquare(16, 10);
-    EXPECT_EQ(SquaresWith(burst), "") << "It is still one's own move.";
-    Key(Qt::Key_M, Qt::AltModifier);
-    EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
-    EXPECT_EQ(SquaresWith(burst), "16,10 ");
-    const LastMove& last = window->ShownGame().record.LastMove;
-    EXPECT_EQ(last.shown.path, (Path{{14, 10}, {15, 10}}));
-    ExpectBoardPainted();
-    ClickSquare(1, 1);
-    EXPECT_EQ(SquaresWith(burst), "");
-    ExpectBoardPainted();
-}
-
 TEST_F(GameWindow, OffersAidsInTheFirstGameOnly) {
     settings.values.clear();
     Open("Q@9,5 WS@9,5 Z@17,2");

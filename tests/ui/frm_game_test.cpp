@@ -49,7 +49,8 @@ protected:
     }
 
     // GameWindow's, and "mouse BUTTON", "focus CONTROL", "answer KEY...", "roll 5", "tick" of the
-    // computer's timer, "close", or "breakdisk", after which nothing can be written.
+    // computer's timer, "look FFFFFF", "resize 800 600", "close", or "breakdisk", after which
+    // nothing can be written.
     void Do(const std::string& command) {
         const QStringList words = QString::fromStdString(command).split(' ');
         const std::string name = words.back().toStdString();
@@ -65,6 +66,11 @@ protected:
             random.QueueRoll(std::stoi(name));
         } else if (words[0] == "tick") {
             QMetaObject::invokeMethod(Find<QTimer>("tmrAI"), "timeout");
+        } else if (words[0] == "look") {
+            const std::string squares = SquaresWith(words[1].toUInt(nullptr, 16));
+            looks += Replaced("* " + name + " " + squares + "\n", " \n", "\n");
+        } else if (words[0] == "resize") {
+            window->resize(words[1].toInt(), words[2].toInt());
         } else if (words[0] == "breakdisk") {
             std::filesystem::remove_all(folder.Path());
         } else if (words[0] == "close") {
@@ -90,6 +96,7 @@ protected:
                 const std::string text = "! " + boxes[i] + "\n= " + statuses[i];
                 transcript += Replaced(text, "\n", "\n  ") + "\n";
             }
+            transcript += std::exchange(looks, "");
             std::string changes;
             for (const auto& [name, value] : Seen()) {
                 if (before[name] != value) changes += " " + name + "=" + value;
@@ -98,6 +105,8 @@ protected:
         }
         return Replaced(transcript, folder.Path().string(), "DIR");
     }
+
+    std::string looks;
 };
 
 TEST_P(PlayedWindow, GoesAsPlayed) {
