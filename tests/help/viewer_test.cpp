@@ -19,78 +19,93 @@
 #include "help/help_window.h"
 #include "help/page_search.h"
 #include "help/viewer.h"
-#include "support/fake_ports.h"
-#include "support/temp_folder.h"
+#include "support/sequence.h"
 
 namespace qarn {
 namespace {
 
 class Viewer : public testing::Test {
 protected:
+    using Facts = std::map<std::string, QString>;
+
     void SetUp() override {
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    // "topic NAME", "type TEXT", "words TEXT" put into the box at once, "tab 1", "page" for the
+    // focus, "zoom 120", or a key.
+    void Do(const QString& command) {
+        const QString rest = command.section(' ', 1);
+        if (command.startsWith("topic")) return window.ShowTopic(rest);
+        if (command.startsWith("type")) return QTest::keyClicks(QApplication::focusWidget(), rest);
+        if (command.startsWith("words")) return box->setText(rest);
+        if (command.startsWith("zoom")) return browser->SetZoom(rest.toInt());
+        if (command == "page") return browser->setFocus();
+        if (command.startsWith("tab ")) {
+            auto* tabs = window.findChild<QTabBar*>();
+            const QPoint place = tabs->tabRect(rest.toInt()).center();
+            return QTest::mouseClick(tabs, Qt::LeftButton, {}, place);
+        }
+        const QKeyCombination key = QKeySequence(command)[0];
+        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
     }
-    std::string PageName() { return browser->PageName().toStdString(); }
-    std::string Title() { return window.windowTitle().toStdString(); }
-    std::string MarkedText() {
-        return browser->textCursor().selectedText().toLower().toStdString();
+
+    // Which of the marked places the cursor is at.
+    QString Mark() {
+        const auto marks = browser->extraSelections();
+        for (qsizetype i = 0; i < marks.size(); ++i) {
+            if (marks[i].cursor.position() != browser->textCursor().position()) continue;
+            return i + 1 == marks.size() ? "the last" : QString::number(i + 1);
+        }
+        return marks.isEmpty() ? "none" : "off";
+    }
+
+    Facts Seen() {
+        const auto* item = window.findChild<ContentsTree*>()->currentItem();
+        const bool below = browser->verticalScrollBar()->value() > 0;
+        return {{"page", browser->PageName() + (below ? ", below its top" : "")},
+                {"anchor", browser->source().fragment()},
+                {"title", window.windowTitle()},
+                {"contents", item == nullptr ? "none" : item->text(0)},
+                {"mark", Mark() + " " + browser->textCursor().selectedText()},
+                {"box", box->text()},
+                {"found", window.findChild<QListWidget*>()->count() > 0 ? "some" : "none"}};
+    }
+
+    std::string Play(const std::string& commands) {
+        std::string transcript;
+        std::istringstream lines(commands);
+        for (std::string line; std::getline(lines, line);) {
+            if (!line.starts_with("> ")) continue;
+            Facts before = Seen();
+            for (const std::string& command : Parts(line.substr(2))) {
+                Do(QString::fromStdString(command));
+            }
+            transcript += line + "\n";
+            for (const auto& [name, value] : Seen()) {
+                if (before[name] == value) continue;
+                transcript += "# " + name + "=" + value.toStdString() + "\n";
+            }
+        }
+        return transcript;
     }
 
     HelpFile file{QARN_HELP_FILE, HelpReader()};
     FakeSettings settings;
     HelpWindow window{file, settings};
     HelpBrowser* browser = window.findChild<HelpBrowser*>();
-    ContentsTree* contents = window.findChild<ContentsTree*>();
+    QLineEdit* box = window.findChild<QLineEdit*>();
 };
 
-TEST_F(Viewer, ShowsTopics) {
-    window.ShowTopic("");
-    EXPECT_EQ(PageName(), "index.htm");
-    EXPECT_EQ(contents->currentItem()->text(0).toStdString(), "Welcome");
+class PlayedViewer : public Viewer, public testing::WithParamInterface<Sequence> {};
 
-    window.ShowTopic("Terrain Info.htm");
-    EXPECT_EQ(Title(), "Terrain");
-    EXPECT_EQ(contents->currentItem()->text(0).toStdString(), "Terrain");
-    EXPECT_EQ(browser->verticalScrollBar()->value(), 0);
-
-    window.ShowTopic("Troubleshooting.htm#Remove");
-    EXPECT_EQ(Title(), "Troubleshooting");
-    EXPECT_GT(browser->verticalScrollBar()->value(), 0);
-
-    window.ShowTopic("Nowhere.htm");
-    EXPECT_EQ(Title(), "Page not found");
-    EXPECT_EQ(contents->currentItem(), nullptr);
+TEST_P(PlayedViewer, GoesAsPlayed) {
+    EXPECT_EQ(Play(GetParam().transcript), GetParam().transcript);
 }
 
-TEST_F(Viewer, GoesBackForwardAndHomeByKeyboard) {
-    window.ShowTopic("");
-    window.ShowTopic("Movement.htm");
-    Key(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(PageName(), "index.htm");
-    Key(Qt::Key_Right, Qt::AltModifier);
-    EXPECT_EQ(PageName(), "Movement.htm");
-    Key(Qt::Key_Home, Qt::AltModifier);
-    EXPECT_EQ(PageName(), "index.htm");
-    Key(Qt::Key_T, Qt::ControlModifier);
-    Key(Qt::Key_Down);
-    EXPECT_EQ(PageName(), "GettingStarted.htm");
-}
-
-TEST_F(Viewer, FollowsLinksByKeyboard) {
-    window.ShowTopic("Troubleshooting.htm");
-    Key(Qt::Key_Tab);
-    Key(Qt::Key_Return);
-    EXPECT_EQ(browser->source().fragment().toStdString(), "ManualFix");
-    window.ShowTopic("Rules.htm");
-    Key(Qt::Key_Tab);
-    Key(Qt::Key_Return);
-    EXPECT_EQ(PageName(), "Terrain Info.htm");
-}
+INSTANTIATE_TEST_SUITE_P(Commands, PlayedViewer,
+                         testing::ValuesIn(ReadSequences("help/viewer.txt")), NameOf);
 
 TEST_F(Viewer, ShowsPicturesInTheSizeOfTheZoom) {
     const auto widthAt = [&](int zoom) {
@@ -106,53 +121,7 @@ TEST_F(Viewer, ShowsPicturesInTheSizeOfTheZoom) {
     EXPECT_NEAR(widthAt(150), usual * 1.5, 1);
     browser->SetZoom(1000);
     EXPECT_EQ(browser->Zoom(), 300);
-    EXPECT_EQ(PageName(), "HMdetails.htm");
-}
-
-TEST_F(Viewer, SearchesAllPagesAndMarksThePlaces) {
-    Key(Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(QApplication::focusWidget(), "five-sided die");
-    auto* list = window.findChild<QListWidget*>();
-    EXPECT_EQ(list->count(), 0);  // the pages say it in other words
-
-    window.findChild<QLineEdit*>()->setText("burn abbey");
-    ASSERT_GT(list->count(), 0);
-    Key(Qt::Key_Return);
-    EXPECT_EQ(PageName(), "Combat.htm");
-    EXPECT_GT(browser->extraSelections().size(), 3);
-    const std::string first = MarkedText();
-    EXPECT_TRUE(first == "burn" || first == "abbey") << first;
-
-    const int place = browser->textCursor().position();
-    Key(Qt::Key_F3);
-    EXPECT_GT(browser->textCursor().position(), place);
-    Key(Qt::Key_F3, Qt::ShiftModifier);
-    EXPECT_EQ(browser->textCursor().position(), place);
-    Key(Qt::Key_F3, Qt::ShiftModifier);  // from the first to the last
-    EXPECT_GT(browser->textCursor().position(), place);
-
-    browser->SetZoom(120);
-    EXPECT_GT(browser->extraSelections().size(), 3);
-    window.ShowTopic("Movement.htm");
-    EXPECT_EQ(browser->extraSelections().size(), 0);
-}
-
-TEST_F(Viewer, PutsTheCursorIntoTheBoxOfTheSearchTab) {
-    auto* box = window.findChild<QLineEdit*>();
-    auto* bar = window.findChild<QTabBar*>();
-    const auto type = [&] {
-        box->clear();
-        QTest::keyClicks(QApplication::focusWidget(), "abbey");
-        return box->text().toStdString();
-    };
-    for (int times = 1; times <= 2; ++times) {  // also when it is open already
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
-        EXPECT_EQ(type(), "abbey");
-        browser->setFocus();
-    }
-    Key(Qt::Key_C, Qt::AltModifier);
-    Key(Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(type(), "abbey");
+    EXPECT_EQ(browser->PageName(), "HMdetails.htm");
 }
 
 TEST_F(Viewer, RemembersItsSize) {
