@@ -68,7 +68,7 @@ protected:
                 {"anchor", browser->source().fragment()},
                 {"title", window.windowTitle()},
                 {"contents", item == nullptr ? "none" : item->text(0)},
-                {"mark", Mark() + " " + browser->textCursor().selectedText()},
+                {"mark", Mark() + " (" + browser->textCursor().selectedText() + ")"},
                 {"box", box->text()},
                 {"found", window.findChild<QListWidget*>()->count() > 0 ? "some" : "none"}};
     }
