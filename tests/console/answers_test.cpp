@@ -40,17 +40,14 @@ class Answers : public testing::TestWithParam<Sequence> {};
 
 // The answer to the last command of each line, which changes nothing.
 TEST_P(Answers, AreThoseToPrograms) {
-    const std::string& transcript = GetParam().transcript;
-    std::istringstream lines(transcript);
-    std::string commands = "state", answers;
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.starts_with("> ")) continue;
-        commands += "; " + line.substr(2);
+    std::string commands = "state";
+    const auto ask = [&](const std::string& more) {
+        commands += "; " + more;
         const auto objects = ConsoleGame(SavedGame(GetParam().position)).ForProgram(commands);
-        answers += line + "\n" + AnswerOf(objects.back()) + "\n";
         EXPECT_EQ(objects.back()["record"], objects.at(objects.size() - 2)["record"]);
-    }
-    EXPECT_EQ(answers, transcript);
+        return AnswerOf(objects.back()) + "\n";
+    };
+    EXPECT_EQ(PlayLines(GetParam().transcript, ask), GetParam().transcript);
 }
 
 INSTANTIATE_TEST_SUITE_P(Questions, Answers,

@@ -73,8 +73,7 @@ TEST(GameJournal, LosesWhatIsTakenBack) {
     EXPECT_EQ(played.journal.Told(), start);
     played.DoAll("menu mnuOwnGroupsOnly; " + move);
     EXPECT_EQ(TurnsOf(played.journal.Told()), 2);
-    EXPECT_NE(played.Told().find("  House rules: own groups only.\n  Little Shrews went"),
-              std::string::npos);
+    EXPECT_TRUE(Has(played.Told(), "  House rules: own groups only.\n  Little Shrews went"));
 }
 
 TEST(GameJournal, BelongsToTheGameThatStandsAsItDid) {
@@ -92,7 +91,7 @@ TEST(GameJournal, IsForgottenWhenTheGameEnds) {
     EXPECT_EQ(KeptFiles(played).size(), 1u);
     played.DoAll("roll 5; press cmdAttack; click 11 10; click 10 10; tick 1; press cmdDoneSel");
     EXPECT_TRUE(played.game.blnEnded);
-    EXPECT_NE(played.Told().find("  Blue won the game.\n"), std::string::npos);
+    EXPECT_TRUE(Has(played.Told(), "  Blue won the game.\n"));
     EXPECT_EQ(TurnsOf(played.journal.Told()), 1);  // the next one has not come
     EXPECT_TRUE(KeptFiles(played).empty());
 }
@@ -122,8 +121,7 @@ TEST(GameJournal, LongOnesLoseTheirOldestLinesAndOldOnesGo) {
     while (text.size() < 1'100'000) text += "turn 1 person\n";
     KeepJournalText(ports, played.path, {"position", text + "end 2\n"});
     const std::string kept = ReadKeptJournal(ports, played.path).text;
-    EXPECT_EQ(kept.substr(0, 14), "turn 1 person\n");
-    EXPECT_EQ(kept.substr(kept.size() - 6), "end 2\n");
+    EXPECT_TRUE(kept.starts_with("turn 1 person\n") && kept.ends_with("end 2\n"));
 
     const auto old = fs::file_time_type::clock::now() - std::chrono::hours(1);
     fs::last_write_time(KeptFiles(played).front(), old);

@@ -71,31 +71,28 @@ void PlayedGame::Load(const std::string& position) {
 }
 
 std::string PlayedGame::Play(const std::string& script) {
-    std::string transcript;
-    std::istringstream lines(script);
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.starts_with("> ")) continue;
+    const std::string transcript = PlayLines(script, [&](const std::string& commands) {
+        std::string text;
         const std::vector<Fact> before = FactsOf(game);
         std::string status = game.controls.lblStatus.Caption;
         const auto noteStatus = [&](const std::string& now) {
             if (now == std::exchange(status, now)) return;
-            transcript += "= " + Replaced(now, "\n", "\n  ") + "\n";
+            text += "= " + Replaced(now, "\n", "\n  ") + "\n";
         };
         std::size_t box = dialogs.boxes.size();
-        transcript += line + "\n";
-        for (const std::string& command : Parts(line.substr(2))) {
-            if (!Do(command)) transcript += "refused\n";
+        for (const std::string& command : Parts(commands)) {
+            if (!Do(command)) text += "refused\n";
         }
         for (; box < dialogs.boxes.size(); ++box) {
             noteStatus(statuses.at(box));
-            transcript += Shown(dialogs.boxes[box], dialogs.answers[box]);
+            text += Shown(dialogs.boxes[box], dialogs.answers[box]);
         }
         noteStatus(game.controls.lblStatus.Caption);
         const std::vector<Fact> after = FactsOf(game);
-        transcript += Changes("@", before, after) + Changes("#", before, after);
         game.controls.SetFocus = Control::None;
         ExpectBoardShown();
-    }
+        return text + Changes("@", before, after) + Changes("#", before, after);
+    });
     EXPECT_TRUE(dialogs.queued.empty() && random.queued.empty()) << "More was expected to happen.";
     return Replaced(transcript, folder.Path(), "DIR");
 }

@@ -26,6 +26,18 @@ inline std::vector<std::string> Parts(const std::string& text) {
     return parts;
 }
 
+/// The lines of a sequence that begin with "> ", each followed by what `play` gives for the rest of
+/// it.
+template <typename Play>
+std::string PlayLines(const std::string& sequence, Play play) {
+    std::string transcript;
+    std::istringstream lines(sequence);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("> ")) transcript += line + "\n" + play(line.substr(2));
+    }
+    return transcript;
+}
+
 /// Whether the text has the part in it. A test that fails shows both.
 inline testing::AssertionResult Has(const std::string& text, std::string_view part) {
     if (text.find(part) != text.npos) return testing::AssertionSuccess();

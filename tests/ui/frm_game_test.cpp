@@ -1,42 +1,24 @@
 #include <QMenu>
 #include <QMenuBar>
-#include <QTextEdit>
 
 #include "support/game_window.h"
 #include "support/sequence.h"
+#include "support/window_facts.h"
 
 namespace qarn {
 namespace {
 
 class PlayedWindow : public GameWindow, public testing::WithParamInterface<Sequence> {
 protected:
-    using Facts = std::map<std::string, std::string>;
-
-    // What is on the board, and what the window shows of its controls, by their names.
-    Facts Seen() {
+    // What is on the board, and what the window shows.
+    WindowFacts Seen() {
+        WindowFacts seen = FactsOfWindow(*window);
+        seen["focus"] = Focus();
         const QPoint cursor = board->Cursor();
-        Facts seen{{"focus", Focus()},
-                   {"cursor", std::to_string(cursor.x()) + "," + std::to_string(cursor.y())}};
+        seen["cursor"] = std::to_string(cursor.x()) + "," + std::to_string(cursor.y());
         if (!window->testAttribute(Qt::WA_KeyboardFocusChange)) seen["focus"] += " unmarked";
         for (const Fact& fact : FactsOf(window->ShownGame())) {
             if (fact.sign == std::string("@")) seen[fact.name] = fact.value;
-        }
-        for (const auto* button : window->findChildren<QAbstractButton*>()) {
-            if (button->objectName().startsWith("qt_")) continue;  // of a dock
-            const std::string text =
-                (button->isChecked() ? "x " : "") + button->text().toStdString();
-            seen[button->objectName().toStdString()] = !button->isVisible()  ? "hidden"
-                                                       : button->isEnabled() ? "[" + text + "]"
-                                                                             : "(" + text + ")";
-        }
-        for (const auto* label : window->findChildren<QLabel*>()) {
-            const QObject* named = label->objectName().isEmpty() ? label->parent() : label;
-            seen[named->objectName().toStdString()] =
-                label->isVisible() ? Replaced(label->text().toStdString(), "\n", " / ") : "hidden";
-        }
-        for (const auto* text : window->findChildren<QTextEdit*>()) {
-            const std::string plain = text->toPlainText().toStdString();
-            seen[text->objectName().toStdString()] = Replaced(plain, "\n", "\n  ");
         }
         for (const auto* item : window->findChildren<QAction*>() + window->menuBar()->actions()) {
             const QString name = item->objectName().isEmpty() ? item->text() : item->objectName();
@@ -80,29 +62,21 @@ protected:
         }
     }
 
-    std::string Play(const std::string& commands) {
-        std::string transcript;
-        std::istringstream lines(commands);
-        for (std::string line; std::getline(lines, line);) {
-            if (!line.starts_with("> ")) continue;
-            Facts before = Seen();
+    std::string Play(const std::string& sequence) {
+        const std::string transcript = PlayLines(sequence, [&](const std::string& commands) {
+            const WindowFacts before = Seen();
             titles.clear(), boxes.clear(), statuses.clear();
-            for (const std::string& command : Parts(line.substr(2))) Do(command);
+            for (const std::string& command : Parts(commands)) Do(command);
             EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
             ExpectBoardPainted();
-            transcript += line + "\n";
-            for (const std::string& title : titles) transcript += "? " + title + "\n";
+            std::string text;
+            for (const std::string& title : titles) text += "? " + title + "\n";
             for (std::size_t i = 0; i < boxes.size(); ++i) {
-                const std::string text = "! " + boxes[i] + "\n= " + statuses[i];
-                transcript += Replaced(text, "\n", "\n  ") + "\n";
+                text += Replaced("! " + boxes[i] + "\n= " + statuses[i], "\n", "\n  ") + "\n";
             }
-            transcript += std::exchange(looks, "");
-            std::string changes;
-            for (const auto& [name, value] : Seen()) {
-                if (before[name] != value) changes += " " + name + "=" + value;
-            }
-            if (!changes.empty()) transcript += "#" + changes + "\n";
-        }
+            text += std::exchange(looks, "");
+            return text + Changes(before, Seen());
+        });
         return Replaced(transcript, folder.Path().string(), "DIR");
     }
 

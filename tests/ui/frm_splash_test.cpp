@@ -6,9 +6,9 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QTest>
-#include <map>
 
 #include "support/sequence.h"
+#include "support/window_facts.h"
 #include "ui/window_script.h"
 
 namespace qarn {
@@ -46,7 +46,7 @@ protected:
     // The key with which the next box is answered.
     void AnswerBox(Qt::Key key) {
         script.On<QMessageBox>([=, this](QMessageBox& box) {
-            transcript += "? " + (box.windowTitle() + ": " + box.text()).toStdString() + "\n";
+            boxes += "? " + (box.windowTitle() + ": " + box.text()).toStdString() + "\n";
             QTest::keyClick(&box, key);
         });
     }
@@ -73,50 +73,6 @@ protected:
         }
     }
 
-    // What a person sees of the controls: those on screen in the order of their names, with text or
-    // selected row, (in parentheses) while disabled, *the default button.
-    std::string Seen() {
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        QStringList seen;
-        for (const char* name : {"txtNewFilePath", "cmdNew", "chkComputer", "cboOpponent",
-                                 "lstScenarios", "fileLoad", "cmdLoad", "cmdDelete", "txtLocation",
-                                 "cmdBrowse", "cmdBackGround", "txtBackGround", "cmdExit"}) {
-            const QWidget* widget = Find(name);
-            if (!widget->isVisible()) continue;
-            QString text = name;
-            if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-                text = button->text() + (button->isChecked() ? "[x]" : "");
-                if (button->property("default").toBool()) text = "*" + text;
-            } else if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
-                for (const QListWidgetItem* item : list->selectedItems())
-                    text += "=" + item->text().section('\n', 0, 0);
-            } else if (const auto* choice = qobject_cast<const QComboBox*>(widget)) {
-                text = choice->currentText();
-            } else if (text == "txtNewFilePath") {
-                text = "'" + widget->property("text").toString() + "'";
-                if (widget->property("readOnly").toBool()) text += " locked";
-            }
-            seen << (widget->isEnabled() ? text : "(" + text + ")");
-        }
-        return seen.join(" ").toStdString();
-    }
-
-    std::string Focus() const { return window.focusWidget()->objectName().toStdString(); }
-    // The texts that have come or changed, apart from those of Seen.
-    std::string NewTexts() {
-        std::string news;
-        for (const QWidget* widget : window.findChildren<QWidget*>()) {
-            const auto* story = qobject_cast<const QPlainTextEdit*>(widget);
-            const QString text = story != nullptr ? story->toPlainText()
-                                 : qobject_cast<const QLabel*>(widget) != nullptr
-                                     ? widget->property("text").toString()
-                                     : "";
-            const std::string now = widget->isVisible() ? text.toStdString() : "";
-            if (std::exchange(texts[widget], now) == now || now.empty()) continue;
-            news += "= " + Replaced(now, "\n", "\n  ") + "\n";
-        }
-        return news;
-    }
     std::string Outcome() const {
         const StartWindow& next = window.Shown();
         if (next.Next != NextWindow::Game) return "none\n";
@@ -124,20 +80,14 @@ protected:
         return "game " + next.strGamePath + ": " + Replaced(game, "\r\n", "/") + "\n";
     }
 
-    // Carries out the commands of the lines that begin with "> ", and gives these lines back with
-    // what can be seen then.
+    // Carries out the commands, and gives what can then be seen otherwise; at first all of it.
     std::string Play(const std::string& commands) {
-        NewTexts();
-        std::istringstream lines(commands);
-        for (std::string line; std::getline(lines, line);) {
-            if (!line.starts_with("> ")) continue;
-            transcript += line + "\n";
-            DoAll(line.substr(2));
-            transcript += window.Shown().Next != NextWindow::Same
-                              ? Outcome()
-                              : NewTexts() + "# " + Focus() + ": " + Seen() + "\n";
-        }
-        return Replaced(transcript, folder / "", "");
+        boxes.clear();
+        DoAll(commands);
+        if (window.Shown().Next != NextWindow::Same) return boxes + Outcome();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        const WindowFacts before = std::exchange(seen, FactsOfWindow(window));
+        return boxes + Changes(before, seen);
     }
 
     TempFolder folder;
@@ -147,15 +97,17 @@ protected:
     FakeWastebasket wastebasket;
     FrmSplash window{random, {settings, fileTypes, {folder / "", folder / ""}}, wastebasket};
     WindowScript script;
-    std::map<const QWidget*, std::string> texts;
-    std::string transcript;
+    std::string boxes;
+    WindowFacts seen;
 };
 
 class PlayedStartWindow : public StartWindowOnScreen,
                           public testing::WithParamInterface<Sequence> {};
 
 TEST_P(PlayedStartWindow, GoesAsPlayed) {
-    EXPECT_EQ(Play(GetParam().transcript), GetParam().transcript);
+    const auto play = [&](const std::string& commands) { return Play(commands); };
+    const std::string transcript = PlayLines(GetParam().transcript, play);
+    EXPECT_EQ(Replaced(transcript, folder / "", ""), GetParam().transcript);
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, PlayedStartWindow,
@@ -175,7 +127,7 @@ TEST_F(StartWindowOnScreen, FollowsTheFolderAndLoadsFromIt) {
     EXPECT_EQ(window.Shown().Next, NextWindow::Same);
 
     window.Prepare(true);
-    EXPECT_EQ(Focus(), "fileLoad");
+    EXPECT_EQ(window.focusWidget(), list);
     Do("open fileLoad 0");  // the one saved last
     EXPECT_EQ(window.Shown().Next, NextWindow::Game);
     EXPECT_EQ(window.Shown().strGamePath, folder / "d.tgf");

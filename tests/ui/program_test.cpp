@@ -15,7 +15,9 @@
 #include <filesystem>
 #include <functional>
 
+#include "support/saved_game.h"
 #include "support/temp_folder.h"
+#include "support/text.h"
 #include "ui/frm_end.h"
 #include "ui/frm_game.h"
 #include "ui/frm_splash.h"
@@ -24,8 +26,7 @@
 namespace qarn {
 namespace {
 
-const std::string newGame = "HM\r\nRed" + std::string(51, ' ') + "False\r\nBlue" +
-                            std::string(50, ' ') + "False\r\n 0 \r\n";
+const std::string newGame = SavedGame("turn0");
 
 void Type(QWidget& window, const std::string& text, Qt::Key last = Qt::Key_Return) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -138,7 +139,7 @@ TEST_F(WholeProgram, AsksAtTheEndWhatComesNext) {
     WriteFile(folder / "game.tgf", newGame);
     Resign(script, game + "(Red vs. Blue)", "cmdExit");
     EXPECT_EQ(RunProgram(folder / "game.tgf"), 0);
-    EXPECT_NE(ReadFile(folder / "game.txt").find(" resigned.\n"), std::string::npos);
+    EXPECT_TRUE(Has(ReadFile(folder / "game.txt"), " resigned.\n"));
     EXPECT_TRUE(script.Done());
 }
 

@@ -22,10 +22,7 @@ protected:
 
     // One move of Red's, after which the turn passes; the program is then gone.
     void PlayATurn() {
-        for (const char* command :
-             {"press cmdMove", "click 9 10", "press cmdDoneSel", "click 10 10", "press cmdMove"}) {
-            ASSERT_TRUE(played.Do(command)) << command;
-        }
+        played.DoAll("press cmdMove; click 9 10; press cmdDoneSel; click 10 10; press cmdMove");
     }
     void Open(std::deque<Answer> answers) {
         played.dialogs.boxes.clear();
@@ -54,8 +51,7 @@ TEST_F(Recovery, GoesOnFromTheLastTurnOrNot) {
     EXPECT_EQ(Column(), 9);
     ASSERT_FALSE(played.dialogs.boxes.empty());
     const std::string asked = played.dialogs.boxes.front().Text;
-    EXPECT_NE(asked.find("\nLast turn: "), asked.npos) << asked;
-    EXPECT_NE(asked.find("\nLast save: "), asked.npos) << asked;
+    EXPECT_TRUE(Has(asked, "\nLast turn: ") && Has(asked, "\nLast save: ")) << asked;
     Open({Answer::Yes});
     EXPECT_EQ(Column(), 10) << "No has kept it";
     EXPECT_EQ(played.game.record.bytTurn, 2);
@@ -82,7 +78,7 @@ TEST_F(Recovery, OffersNothingThatIsNoGainOrNoGame) {
     WriteFile(kept, "HM\r\nno game");
     Open({Answer::Yes});
     ASSERT_FALSE(played.dialogs.boxes.empty());
-    EXPECT_NE(played.dialogs.boxes.back().Text.find("can not be recovered"), std::string::npos);
+    EXPECT_TRUE(Has(played.dialogs.boxes.back().Text, "can not be recovered"));
     EXPECT_EQ(Column(), 10);
     EXPECT_TRUE(played.game.blnOpen);
 
@@ -99,13 +95,10 @@ TEST_F(Recovery, LosesNoGameThatWasSavedSince) {
     Open({Answer::No});
     ASSERT_FALSE(played.dialogs.boxes.empty());
     EXPECT_TRUE(played.dialogs.boxes.front().DeclinedByDefault);
-    EXPECT_NE(played.dialogs.boxes.front().Text.find("It has been saved since."),
-              std::string::npos);
+    EXPECT_TRUE(Has(played.dialogs.boxes.front().Text, "It has been saved since."));
 
     PlayATurn();
-    std::string another = saved;
-    another.replace(another.find("Blue"), 4, "Cat ");
-    WriteFile(played.path, another);
+    WriteFile(played.path, Replaced(saved, "Blue", "Cat "));
     Open({});
     EXPECT_EQ(played.game.record.strPlayerName[2], "Cat");
 }
