@@ -60,7 +60,7 @@ std::string SquaresOf(Terrain code, const GameRecord& record) {
             squares += "(" + std::to_string(X) + "," + std::to_string(Y) + ")";
         }
     }
-    return squares;
+    return squares.empty() ? "none" : squares;
 }
 
 // The row of the terrain key as a person reads it: caption, place, and what the button shows.
@@ -78,45 +78,21 @@ std::string KeyRow(Terrain code, const Game& game) {
     return row + " " + std::to_string(kind.Defense) + " " + std::string(kind.Comments);
 }
 
+// A line of landmarks.txt: code, fortresses, abbeys, their rows of the key, and the groups left.
 TEST(Setup, LandmarksTheirKeyAndGroups) {
-    struct Row {
-        const char *fortresses, *abbeys, *fortressKey, *abbeyKey;
-    };
-    const char* mantle = "Stonemantle at 2640 ... 4 1 to move and 4 for defense";
-    const char* abbey = "Thornmere at 3000 ... 4 1 to move and 4 for defense";
-    const char* onlyAbbey = "Thornmere at 2640 ... 4 1 to move and 4 for defense";
-    const Row rows[] = {
-        {"(15,7)(16,7)", "", "Castle Vennick at 2640 ... 4 1 to move and 4 defense units", "-"},
-        {"", "", "-", "-"},
-        {"", "(5,3)", "-", onlyAbbey},
-        {"(1,9)(1,10)(2,9)(2,10)", "(7,7)(7,8)", mantle, abbey},
-        {"(4,9)(5,8)(5,9)(6,9)", "", mantle, "-"},
-        {"(10,9)", "(17,10)", mantle, abbey},
-        {"(15,4)", "", "Gallowrock at 2640 ... 3 1 to move and 3 defense", "-"},
-        {"(8,7)", "(15,7)", mantle, abbey},
-        {"(2,3)", "(17,9)", "Ostrelle at 2640 ... 4 1 to move and 4 defense units", abbey},
-        {"(10,6)", "(15,7)", mantle, abbey},
-        {"", "(10,9)", "-", onlyAbbey},
-        {"(1,7)(2,6)(2,7)(3,7)", "(12,8)", mantle, abbey},
-    };
-    const char* counts[] = {"10,10", "9,9",   "10,10", "9,9",   "10,8", "10,10",
-                            "9,8",   "10,10", "9,9",   "11,11", "9,9",  "9,9"};
-    for (std::size_t i = 0; i < scenarioCount; ++i) {
-        const std::string code(NamesOfScenario(static_cast<int>(i) + 1).Code);
-        SCOPED_TRACE(code);
-        PlayedGame played(code);
+    std::string lines;
+    for (int scenario = 1; scenario <= scenarioCount; ++scenario) {
+        PlayedGame played{std::string(NamesOfScenario(scenario).Code)};
         const GameRecord& record = played.game.record;
-        EXPECT_EQ(SquaresOf(Fortress, record), rows[i].fortresses);
-        EXPECT_EQ(SquaresOf(Abbey, record), rows[i].abbeys);
-        EXPECT_EQ(KeyRow(Fortress, played.game), rows[i].fortressKey);
-        EXPECT_EQ(KeyRow(Abbey, played.game), rows[i].abbeyKey);
-        for (int recount = 1; recount <= 2; ++recount) {
-            EXPECT_EQ(std::to_string(record.bytPeopleLeft[1]) + "," +
-                          std::to_string(record.bytPeopleLeft[2]),
-                      counts[i]);
-            CountPeople(played.game);
-        }
+        const auto left = record.bytPeopleLeft;
+        lines += std::string(NamesOfScenario(scenario).Code) + " | " + SquaresOf(Fortress, record) +
+                 " | " + SquaresOf(Abbey, record) + " | " + KeyRow(Fortress, played.game) + " | " +
+                 KeyRow(Abbey, played.game) + " | " + std::to_string(left[1]) + "," +
+                 std::to_string(left[2]) + "\n";
+        CountPeople(played.game);
+        EXPECT_EQ(record.bytPeopleLeft, left);
     }
+    EXPECT_EQ(lines, ReadFile(QARN_TESTS_FOLDER "/scenarios/landmarks.txt"));
 }
 
 }  // namespace
