@@ -69,7 +69,7 @@ TEST_F(GameWindow, PutsPlatesBehindTheCodesOfTheSides) {
     window->resize(1600, 1100);
     EXPECT_EQ(SquaresWith(dark) + SquaresWith(brown), "");
     EXPECT_FALSE(Find("sideKey")->isVisible());
-    MenuItem("mnuSides")->trigger();
+    Do("mnuSides");
     EXPECT_TRUE(Find("sideKey")->isVisible());
     EXPECT_EQ(SquaresWith(dark), "17,2 ");
     EXPECT_EQ(SquaresWith(brown), "9,4 ");
@@ -90,7 +90,7 @@ TEST_F(GameWindow, ShowsWhereGroupsCanGo) {
         return squares;
     };
     EXPECT_EQ(lightForests(), "----");
-    MenuItem("mnuReach")->trigger();
+    Do("mnuReach");
     board->setFocus();
     board->MoveCursor({9, 5});
     EXPECT_EQ(lightForests(), "xxxx");
@@ -101,22 +101,20 @@ TEST_F(GameWindow, ShowsWhereGroupsCanGo) {
     EXPECT_NE(SquaresWith(0x9C0010), "");
     QTest::keyRelease(window.get(), Qt::Key_Shift);
     EXPECT_EQ(SquaresWith(0x9C0010), "");
-    Key(Qt::Key_M, Qt::AltModifier);
-    ClickSquare(9, 5);
+    Do("Alt+M; 9,5");
     EXPECT_EQ(lightForests(), "----");
-    Key(Qt::Key_S, Qt::AltModifier);
+    Do("Alt+S");
     EXPECT_EQ(lightForests(), "xxxx");
-    ClickSquare(9, 4);
+    Do("9,4");
     EXPECT_EQ(lightForests(), "----") << "One mobility unit is left.";
     ExpectBoardPainted();
 }
 
 TEST_F(GameWindow, TellsTheOddsOfTheEnemyPointedAt) {
     Open("9,5=0 10,5=0 Q@9,5 WS@9,5 ZA1@10,5 Z@17,2");
-    Key(Qt::Key_A, Qt::AltModifier);
-    ClickSquare(9, 5);
+    Do("Alt+A; 9,5");
     EXPECT_EQ(Find("oddsNote"), nullptr);
-    MenuItem("mnuOdds")->trigger();
+    Do("mnuOdds");
     QTest::mouseMove(window->windowHandle(), PlaceOfSquare(10, 5).center());
     EXPECT_EQ(Text("oddsNote"),
               "13 against 4: wins 60\u00A0%, ties 20\u00A0%, loses 20\u00A0%; after a win one in "
@@ -134,7 +132,7 @@ TEST_F(GameWindow, PutsAHaloAroundLargeCodesThatAreHardToRead) {
     Open("9,5=6 Q@9,5 10,5=1 WS@10,5 11,5=5 HF@11,5 12,5=0 LS@12,5 Z@17,2");
     window->resize(1600, 1100);
     board->clearFocus();
-    MenuItem("mnuLargeCodes")->trigger();
+    Do("mnuLargeCodes");
     const QImage picture = Picture();
     for (const int X : {9, 10, 11, 12}) {
         const SquareLabel& label = window->ShownGame().controls.lbl[static_cast<std::size_t>(X)][5];
@@ -167,7 +165,7 @@ TEST_F(GameWindow, WritesCoordinatesAtTheEdgesOnly) {
     Open("9,5=0 Q@9,5 Z@17,2");
     board->clearFocus();
     const QImage before = Picture();
-    MenuItem("mnuCoordinates")->trigger();
+    Do("mnuCoordinates");
     const QImage after = Picture();
     for (int X = 1; X <= columnCount; ++X) {
         for (int Y = 1; Y <= rowCount; ++Y) {
@@ -184,11 +182,9 @@ TEST_F(GameWindow, OffersAidsInTheFirstGameOnly) {
     ASSERT_TRUE(Find("offerStrip")->isVisible());
     EXPECT_LT(Find("lblStatus")->geometry().right(), Find("offerStrip")->geometry().left());
     EXPECT_EQ(Focus(), "board");
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("Alt+M");
     EXPECT_FALSE(Button("takeOffer")->isEnabled());
-    ClickSquare(9, 5);
-    Key(Qt::Key_S, Qt::AltModifier);
-    Key(Qt::Key_M, Qt::AltModifier);
+    Do("9,5; Alt+S; Alt+M");
     Button("takeOffer")->click();
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -201,8 +197,7 @@ TEST_F(GameWindow, OffersAidsInTheFirstGameOnly) {
     EXPECT_LT(board->width(), width);
     EXPECT_TRUE(window->ShownGame().record.house.ownGroupsOnly);
 
-    window = std::make_unique<FrmGame>(random, desktop);
-    Open("Q@9,5 Z@17,2");
+    OpenAnew("Q@9,5 Z@17,2");
     EXPECT_EQ(Find("offerStrip"), nullptr);
     EXPECT_TRUE(window->ShownGame().view == offered);
 }

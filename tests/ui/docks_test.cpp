@@ -31,14 +31,14 @@ protected:
 
 TEST_F(Docks, JournalIsSavedBesideTheGame) {
     Open("Q@9,5 WA@17,2");
-    MenuItem("mnuJournal")->trigger();
+    Do("mnuJournal");
     WindowScript script;
     script.On<QFileDialog>([](QFileDialog& dialog) {
         auto* field = dialog.findChild<QLineEdit*>();
         EXPECT_EQ(field->text(), "game.txt");
         QTest::keyClick(field, Qt::Key_Return);
     });
-    Button("cmdSaveJournal")->click();
+    Do("cmdSaveJournal");
     EXPECT_TRUE(script.Done());
     EXPECT_TRUE(ReadFile(folder / "game.txt").ends_with("\n\nTurn 1: Red\n"));
     Find<QDockWidget>("dckJournal")->close();
@@ -48,7 +48,7 @@ TEST_F(Docks, JournalIsSavedBesideTheGame) {
 
 TEST_F(Docks, JournalTellsTheEventThatEndsTheGame) {
     Open("WS@9,10 TS@9,10 ZA3@10,10");
-    MenuItem("mnuJournal")->trigger();
+    Do("mnuJournal");
     for (const int roll : {1, 1}) random.QueueRoll(roll);
     AnswerBoxes({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
     Do("cmdAttack; 9,10; 10,10");
@@ -58,7 +58,7 @@ TEST_F(Docks, JournalTellsTheEventThatEndsTheGame) {
 
 TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
     Open("BT@9,9 LS@12,10 SK@2,10 ZA1@10,10");
-    MenuItem("mnuRoster")->trigger();
+    Do("mnuRoster");
     EXPECT_EQ(Column(0).find("Q TS LS S WS J SK V HF WA WA1"), 0u);
     Roster()->sortByColumn(4, Qt::AscendingOrder);
     EXPECT_EQ(Column(4).find("(2, 10) (9, 9) (10, 10) (12, 10) Lost Lost "), 0u);
@@ -75,7 +75,7 @@ TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
     EXPECT_EQ(board->Cursor(), QPoint(12, 10));
     Roster()->setFocus();
     Roster()->setCurrentItem(Roster()->findItems("SK", Qt::MatchExactly).constFirst());
-    Key(Qt::Key_Return);
+    Do("Return");
     EXPECT_EQ(board->Cursor(), QPoint(2, 10));
     EXPECT_EQ(Focus(), "board");
 }
@@ -84,7 +84,7 @@ TEST_F(Docks, StandWhereTheyStood) {
     Open("Q@9,5 WA@17,2");
     window->resize(900, 660);
     const QSize boardSize = board->size();
-    MenuItem("mnuRoster")->trigger();
+    Do("mnuRoster");
     window->addDockWidget(Qt::LeftDockWidgetArea, Find<QDockWidget>("dckRoster"));
     for (int time = 0; time < 2; ++time) {
         const QSize windowSize = window->size();
@@ -103,29 +103,27 @@ TEST_F(Docks, TakeNoRoomFromTheBoardThatTheScreenHas) {
     window->resize(900, 660);
     const QSize boardSize = board->size();
     const QSize windowSize = window->size();
-    MenuItem("mnuJournal")->trigger();
-    MenuItem("mnuRoster")->trigger();
+    Do("mnuJournal; mnuRoster");
     EXPECT_EQ(board->size(), boardSize);
     EXPECT_GT(window->width(), windowSize.width() + 100);
-    MenuItem("mnuJournal")->trigger();
-    MenuItem("mnuRoster")->trigger();
+    Do("mnuJournal; mnuRoster");
     EXPECT_EQ(window->size(), windowSize);
     EXPECT_EQ(board->size(), boardSize);
 }
 
 TEST_F(Docks, TakeWhatTheBoardLeavesEmptyOfALargeWindow) {
     Open("Q@9,5 WA@17,2");
-    MenuItem("mnuRoster")->trigger();
+    Do("mnuRoster");
     const QWidget* area = window->centralWidget();
     const int boardsWidth = area->width();
     const int readable = Find("dckRoster")->sizeHint().width();
     window->setScreen(QGuiApplication::screens().constLast());
-    MenuItem("mnuFullScreen")->trigger();
+    Do("mnuFullScreen");
     QCoreApplication::processEvents();
     const QSize shape = area->sizeHint();
     EXPECT_EQ(area->width(), area->height() * shape.width() / shape.height());
     EXPECT_GT(Find("dckRoster")->width(), readable + 20);
-    MenuItem("mnuFullScreen")->trigger();
+    Do("mnuFullScreen");
     QCoreApplication::processEvents();
     EXPECT_EQ(area->width(), boardsWidth);
 }
