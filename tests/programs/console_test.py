@@ -13,14 +13,8 @@ import unittest
 
 PROGRAM = sys.argv.pop(1)
 PAGE = os.path.join(os.path.dirname(__file__), "../../docs/protocol.md")
+STATE = os.path.join(os.path.dirname(__file__), "state.txt")
 NEW = "new g.tgf HM Red human Blue human"
-KEYS = """ok error boxes help ended open caption record squares buttons terrainKey chkItems menus
-    lblStatus lblDetailMore lblSummary lblTerrainDescription fraQuickDetails shpHighlight tmrAI
-    blnAIBusy happenings level house hint""".split()
-RECORD_KEYS = """bytScenario bytTurn strPlayerName blnComputer bytPeopleLeft strGameName strGamePath
-    bytCurrentX bytCurrentY blnMoveMode blnAttackMode blnDetailsMode bytMobilityLeft
-    bytSelectedPeople bytTerrain People""".split()
-
 ACCEPTED = """seed 18446744073709551615; random 0 0.99 1e-3; answer yes no retry cancel;
     new h.tgf SB A human B human; open saved.tgf; press cmdMove; click 9 10; untick 1; tick 1;
     press cmdDoneSel; press cmdSquareDetails; click 18 1; press cmdSeeTerDet(0);
@@ -94,33 +88,12 @@ class ConsoleTest(unittest.TestCase):
         objects = self.play("random 0", "# a comment", "", NEW, "press cmdMove", "click 14 7",
                             "press cmdDoneSel", "  state  ")
         self.assertEqual(len(objects), 6)
-        self.assertEqual(list(objects[0]), KEYS[:6] + ["happenings", "level", "house", "hint"])
-        last = objects[4]
-        self.assertEqual({**last, "happenings": []}, objects[5])
-        self.assertEqual((list(last), list(last["record"])), (KEYS, RECORD_KEYS))
-        self.assertEqual(last["lblStatus"],
-                         "You have 7 mobility units.\nSelect your destination.")
-        record = last["record"]
-        self.assertEqual(record["strGamePath"], self.path("g.tgf"))
-        self.assertEqual(record["bytSelectedPeople"], [1, 6])
-        self.assertEqual(record["bytTerrain"][3], "060031666115547422")
-        self.assertEqual(record["People"][11], {
-            "Name": "Sentinel", "Code": "J  ", "Side": 1, "LocationX": 10, "LocationY": 1,
-            "Mobility": 3, "Attack": 3, "Defense": 5, "Ability1": 811, "Ability2": 0})
-        self.assertEqual([len(record["People"]), len(record["bytTerrain"]), len(last["chkItems"]),
-                          len(last["terrainKey"])], [24, 10, 11, 9])
-        self.assertEqual(last["squares"]["15,4"], "WA   WA1  BT   ")
-        self.assertEqual(last["chkItems"][1],
-                         {"caption": "WS ", "enabled": False, "visible": True, "ticked": True})
-        self.assertEqual(last["buttons"]["cmdMove"],
-                         {"caption": "Done &Moving", "enabled": True, "visible": True})
-        self.assertEqual(last["terrainKey"][7], {
-            "caption": "Gallowrock", "visible": True, "buttonCaption": "...",
-            "buttonEnabled": True, "buttonVisible": True})
-        self.assertEqual(last["menus"]["File"],
-                         {"enabled": False, "visible": True, "checked": False})
-        self.assertEqual(list(last["menus"]), ["File", "mnuPeopleDetails", "mnuConvertFile",
-                                               "mnuSummary", "mnuTGF", "mnuAbout"])
+        *_, last, again = objects
+        self.assertEqual({**last, "happenings": []}, again)
+        told = {**last, "record": list(last["record"]), **last["record"]}
+        text = "".join(f"{key}: {json.dumps(value)}\n" for key, value in told.items())
+        with open(STATE, encoding="utf-8") as state:
+            self.assertEqual(text.replace(self.folder, "DIR"), state.read())
 
     def test_every_command(self):
         self.write("saved.tgf", saved_game((1, 9, 10), (6, 9, 10), (2, 10, 10), (9, 1, 1)))
