@@ -51,7 +51,8 @@ inline WindowFacts FactsOfWindow(const QWidget& window) {
             name = "label" + std::to_string(++number);
         }
         const std::string shown = ShownBy(*widget).toStdString();
-        if (!name.empty()) facts[name] = Replaced(shown, "\n", "\n  ");
+        if (name.empty() || (shown.empty() && named != widget)) continue;
+        facts[name] = Replaced(shown, "\n", "\n  ");
     }
     return facts;
 }
