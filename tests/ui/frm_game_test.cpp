@@ -84,7 +84,7 @@ protected:
     std::string Play(const std::string& sequence) {
         const std::string transcript = PlayLines(sequence, [&](const std::string& commands) {
             const WindowFacts before = Seen();
-            titles.clear(), boxes.clear(), statuses.clear();
+            for (auto* list : {&titles, &boxes, &statuses}) list->clear();
             for (const std::string& command : Parts(commands)) Do(command);
             EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
             ExpectBoardPainted();
