@@ -4,6 +4,7 @@
 
 #include "core/blanks.h"
 #include "play/square_text.h"
+#include "ui/contrast.h"
 #include "ui/text.h"
 
 namespace qarn {
@@ -28,6 +29,13 @@ public:
         return key.toInt() < other.data(column, sortRole).toInt();
     }
 };
+
+// Not every dark palette has a dark colour for every other row.
+bool CanReadEveryOtherRow(const QPalette& palette) {
+    constexpr double readable = 4.5;
+    return ContrastOf(palette.color(QPalette::Text), palette.color(QPalette::AlternateBase)) >=
+           readable;
+}
 
 void ShowNumber(QTreeWidgetItem& item, Column column, int number) {
     item.setText(column, QString::number(number));
@@ -65,7 +73,6 @@ RosterDock::RosterDock() : SideDock("dckRoster", "Roster", new QTreeWidget) {
     list_->setRootIsDecorated(false);
     list_->setIndentation(0);
     list_->setUniformRowHeights(true);
-    list_->setAlternatingRowColors(true);
     list_->setAllColumnsShowFocus(true);
     list_->setHeaderLabels({"Code", "Mob.", "Att.", "Def.", "Place", "Name", "Side"});
     const char* const whole[] = {"Code", "Mobility", "Attack", "Defense", "Place", "Name", "Side"};
@@ -85,6 +92,7 @@ RosterDock::RosterDock() : SideDock("dckRoster", "Roster", new QTreeWidget) {
 }
 
 void RosterDock::Show(const GameRecord& record) {
+    list_->setAlternatingRowColors(CanReadEveryOtherRow(list_->palette()));
     const bool first = items_[1] == nullptr;
     list_->setSortingEnabled(false);  // until all is there
     for (std::size_t i = 1; i <= peopleCount; ++i) {

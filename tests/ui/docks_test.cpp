@@ -80,6 +80,17 @@ TEST_F(Docks, RosterIsSortedAndLeadsToTheBoard) {
     EXPECT_EQ(Focus(), "board");
 }
 
+TEST_F(Docks, RosterCanBeReadInADarkPaletteThatLacksAColour) {
+    Open("Q@9,5 WA@17,2");
+    MenuItem("mnuRoster")->trigger();
+    EXPECT_TRUE(Roster()->alternatingRowColors());
+    QPalette dark = Roster()->palette();
+    dark.setColor(QPalette::Text, Qt::white);
+    Roster()->setPalette(dark);
+    MenuItem("mnuSides")->trigger();
+    EXPECT_FALSE(Roster()->alternatingRowColors());
+}
+
 TEST_F(Docks, StandWhereTheyStood) {
     Open("Q@9,5 WA@17,2");
     window->resize(900, 660);
