@@ -91,13 +91,13 @@ bool GameDocks::GiveBoardRoom(int before, int least) {
 
 void GameDocks::TakeSpareRoom() {
     const bool large = window_.isMaximized() || window_.isFullScreen();
-    const bool was = std::exchange(large_, large);
+    const bool wasLarge = std::exchange(large_, large);
     const QList<QDockWidget*> docks = DocksBeside();
-    if (docks.isEmpty() || (!large && !was)) return;
+    if (docks.isEmpty() || (!large && !wasLarge)) return;
     const int spare = SpareRoomBeside(docks);
     QList<int> widths;
     for (const QDockWidget* dock : docks) {
-        if (!was) usualWidth_[dock] = dock->width();
+        if (!wasLarge) usualWidth_[dock] = dock->width();
         widths.append(large ? Widened(*dock, spare)
                             : usualWidth_.value(dock, dock->sizeHint().width()));
     }

@@ -43,8 +43,8 @@ void BeginRecovery(Game& game) {
 }
 
 void ReturnToRecovery(Game& game) {
-    BeginRecovery(game);
-    if (!game.blnOpen) game.keeping.reset();
+    game.keeping.reset();
+    if (game.blnOpen) BeginRecovery(game);
 }
 
 void FollowRecovery(Game& game) {

@@ -10,8 +10,8 @@ struct Game;
 /// Begins to keep the game at strGamePath, unless another program does.
 void BeginRecovery(Game& game);
 
-/// After an event that was rolled back: keeps the game that stands there again, and not the one
-/// that the event was to open.
+/// After an event that was rolled back: keeps the game that stands there again, if any, and not the
+/// one that the event was to open.
 void ReturnToRecovery(Game& game);
 
 /// Keeps the game at each change of turn, by what has just happened, and forgets it when it has

@@ -140,6 +140,11 @@ TEST_F(Recovery, StaysWithTheGameThatAFaultBringsBack) {
         other.Open();
         EXPECT_EQ(other.game.keeping != nullptr, path == another) << path;
     }
+    PlayedGame none;
+    const TempFolder untouched;
+    none.game.ports.folders.userState = untouched / "qarn";
+    RunEvent(none.game, "Form_Load", [](Game&) { throw 7; });
+    EXPECT_EQ(untouched.Entries(), 0) << "no game stands there";
 }
 
 TEST_F(Recovery, IsForgottenAtTheEndAndNoBoxWhenItCannotBeKept) {
