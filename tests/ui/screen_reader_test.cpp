@@ -40,6 +40,10 @@ TEST_F(GameWindow, TellsScreenReadersEverySquare) {
     EXPECT_TRUE(square->state().focused && !accessible->child(0)->state().focused);
     Do("Right");
     EXPECT_EQ(accessible->focusChild()->text(QAccessible::Name), "(10, 5) Mountain");
+    EXPECT_TRUE(square->actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::setFocusAction()));
+    square->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(accessible->focusChild(), square);
 
     Do("Alt+M");
     square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
