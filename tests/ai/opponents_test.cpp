@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "ai/choosers.h"
 #include "ai/hint.h"
@@ -178,6 +179,74 @@ TEST(Levels, TakeAWinThatIsThere) {
         Position after = PositionOf(played.game.record);
         EXPECT_EQ(PlayTurn(after, *plan, {}).winner, 1) << name;
     }
+}
+
+TEST(Search, LeavesRoomForWhatOthersCanDo) {
+    Position position = StartOf(ScenarioNumber("HM"));
+    position.bytTurn = 1;
+    Thinking thinking;
+    const std::vector<RatedTurn> all = Search(position, learnedWeights, thinking).RateTurns();
+    const auto mostOfOneKind = [](const std::vector<RatedTurn>& turns) {
+        std::ptrdiff_t most = 0;
+        for (const RatedTurn& one : turns) {
+            most = std::max(most, std::ranges::count_if(turns, [&](const RatedTurn& other) {
+                                return other.turn.kind == PlanKind::March && !other.turn.attacks &&
+                                       other.turn.people == one.turn.people;
+                            }));
+        }
+        return most;
+    };
+    std::vector<RatedTurn> best = all;
+    KeepBest(best, 20, SearchLimits::all);
+    EXPECT_GT(mostOfOneKind(best), 2);
+    std::vector<RatedTurn> mixed = all;
+    KeepBest(mixed, 20, 2);
+    EXPECT_EQ(mostOfOneKind(mixed), 2);
+    EXPECT_EQ(mixed.size(), 20u);
+    EXPECT_EQ(mixed.front().turn, all.front().turn);
+    EXPECT_TRUE(std::ranges::is_sorted(mixed, std::greater{}, &RatedTurn::value));
+
+    const Turn march{.kind = PlanKind::March};
+    const Turn strike{.kind = PlanKind::March, .attacks = true};
+    std::vector<RatedTurn> fights{{march}, {strike}, {strike}, {march}};
+    KeepBest(fights, 4, 1);
+    EXPECT_EQ(fights.size(), 3u);
+
+    SearchLimits limits{.plies = 3, .turns = 20, .replies = 20, .positions = 1'000'000};
+    const auto evaluated = [&] {
+        Thinking counted;
+        Search(position, learnedWeights, counted).Best(limits);
+        return counted.positions;
+    };
+    const std::uint64_t anything = evaluated();
+    limits.turnsAlike = 1;
+    const std::uint64_t mixedTurns = evaluated();
+    limits.repliesAlike = 1;
+    EXPECT_LT(mixedTurns, anything);
+    EXPECT_NE(evaluated(), mixedTurns);
+}
+
+// Three turns ahead nobody answers one's last turn. Who has most to lose looks at two as well.
+TEST(Search, IsWaryWhereItIsTheStrongerSide) {
+    SearchLimits limits{.plies = 3, .turns = 6, .replies = 2, .positions = 100'000};
+    Position position = StartOf(ScenarioNumber("WR"));
+    position.bytTurn = 1;
+    int wary = 0;
+    for (int turn = 0; turn < 16; ++turn) {
+        const auto best = [&](bool isWary) {
+            limits.waryWhenStronger = isWary;
+            Thinking thinking;
+            return Search(position, learnedWeights, thinking).Best(limits);
+        };
+        const Turn bold = best(false);
+        if (best(true) != bold) {
+            const Armies armies(position, DistancesFor(position));
+            EXPECT_GT(BalanceOf(armies, position.bytTurn), 0) << turn;
+            ++wary;
+        }
+        PlayTurn(position, PlanOf(position, bold), {.roll = dieSides});
+    }
+    EXPECT_GT(wary, 0) << wary;
 }
 
 // Of turns that are as good, one who presses takes that which brings the best strike on. Captain

@@ -9,8 +9,14 @@ namespace {
 constexpr double errs = 1.0 / 4;
 constexpr SearchLimits captainsLimits{
     .plies = 2, .turns = 8, .passes = 0.5F, .pressesAlways = false, .positions = 100'000};
-constexpr SearchLimits warlordsLimits{
-    .plies = 3, .turns = 30, .replies = 6, .passes = 0.1F, .positions = 400'000};
+constexpr SearchLimits warlordsLimits{.plies = 3,
+                                      .turns = 40,
+                                      .replies = 10,
+                                      .turnsAlike = 4,
+                                      .repliesAlike = 2,
+                                      .passes = 0.1F,
+                                      .waryWhenStronger = true,
+                                      .positions = 400'000};
 
 }  // namespace
 

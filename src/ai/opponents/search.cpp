@@ -9,8 +9,6 @@
 namespace qarn {
 namespace {
 
-bool IsBetter(const RatedTurn& a, const RatedTurn& b) { return a.value > b.value; }
-
 // What can come of a roll, with its chance in twenty-fifths.
 struct Case {
     Dice dice;
@@ -138,7 +136,7 @@ std::vector<RatedTurn> Search::RateTurns(const Node& node) {
             Expect(node, turn, {}, [&](const Node& after, Window) { return StaticValue(after); });
         rated.push_back({turn, value});
     }
-    std::stable_sort(rated.begin(), rated.end(), IsBetter);
+    SortByValue(rated);
     return rated;
 }
 
@@ -186,7 +184,7 @@ float Search::LikelyTurn(const Node& node, int plies, Window window) {
 float Search::BestTurn(const Node& node, int plies, Window window) {
     if (plies == 1) return BestReply(node, window);
     std::vector<RatedTurn> turns = RateTurns(node);
-    turns.resize(std::min(turns.size(), limits_.replies));
+    KeepBest(turns, limits_.replies, limits_.repliesAlike);
     float best = 0;
     for (RatedTurn& one : turns) {
         const float value = Expect(
@@ -202,29 +200,40 @@ bool Search::IsOver() const {
     return thinking_.positions >= limits_.positions || thinking_.decideNow.stop_requested();
 }
 
+bool Search::IsStronger() const { return BalanceOf(root_.armies, root_.Side()) > 0; }
+
 // How much a turn brings on. A fight is what a campaign is for, and counts as the one before it.
 float Search::Pressing(const Turn& turn) const {
-    if (!limits_.pressesAlways && BalanceOf(root_.armies, root_.Side()) <= 0) return 0;
+    if (!limits_.pressesAlways && !IsStronger()) return 0;
     Node after = root_;
     const std::optional<Attacked> attack = Play(after, turn, {}, distances_);
     const Node& seen = attack && attack->roll ? root_ : after;
     return campaignCounts * CampaignOf(seen.armies, root_.Side(), distances_);
 }
 
+// What a turn is worth at the root; a bound where that is less than so much. Lines that end with
+// one's own turn flatter, since nobody answers it, and who has most to lose does not rely on them.
+float Search::RootValue(Turn& turn, float atLeast) {
+    const auto ahead = [&](int plies, float low) {
+        return Expect(root_, turn, {std::max(0.0F, low), 1},
+                      [&](const Node& after, Window w) { return Value(after, plies - 1, w); });
+    };
+    if (!limits_.waryWhenStronger || !IsStronger()) return ahead(limits_.plies, atLeast);
+    const float answered = ahead(limits_.plies - 1, 0);
+    return (answered + ahead(limits_.plies, 2 * atLeast - answered)) / 2;
+}
+
 Turn Search::Best(const SearchLimits& limits) {
     limits_ = limits;
     std::vector<RatedTurn> turns = RateTurns();
     for (RatedTurn& one : turns) one.value += Pressing(one.turn);
-    std::stable_sort(turns.begin(), turns.end(), IsBetter);
-    turns.resize(std::min(turns.size(), limits.turns));
+    SortByValue(turns);
+    KeepBest(turns, limits.turns, limits.turnsAlike);
 
     std::vector<RatedTurn> searched;
     float most = 0;
     for (RatedTurn& one : turns) {
-        const Window window{std::max(0.0F, most - asGood), 1};
-        one.value = Expect(root_, one.turn, window, [&](const Node& after, Window within) {
-            return Value(after, limits.plies - 1, within);
-        });
+        one.value = RootValue(one.turn, most - asGood);
         if (IsOver()) break;  // this one was cut short
         most = std::max(most, one.value);
         searched.push_back(one);
@@ -232,7 +241,8 @@ Turn Search::Best(const SearchLimits& limits) {
     if (searched.empty()) return turns.front().turn;
     std::erase_if(searched, [&](const RatedTurn& one) { return one.value <= most - asGood; });
     for (RatedTurn& one : searched) one.value += Pressing(one.turn);
-    return std::min_element(searched.begin(), searched.end(), IsBetter)->turn;
+    SortByValue(searched);
+    return searched.front().turn;
 }
 
 }  // namespace qarn

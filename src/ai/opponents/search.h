@@ -1,28 +1,29 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "ai/chooser.h"
 #include "ai/opponents/evaluation.h"
 #include "ai/opponents/node.h"
+#include "ai/opponents/selection.h"
 
 namespace qarn {
 
-/// A turn and what it is expected to be worth to the side that takes it, 0 to 1.
-struct RatedTurn {
-    Turn turn;
-    float value = 0;
-};
-
 /// How far and how wide a search looks.
 struct SearchLimits {
-    int plies = 2;                ///< turns of both sides, the first included; at least 2
-    std::size_t turns = 1;        ///< so many, the best one ply ahead, are looked at; at least 1
-    std::size_t replies = 1;      ///< so many at the plies between; at least 1
-    float passes = 0;             ///< how likely the opponent is held to be to pass, 0 to below 1
-    bool pressesAlways = true;    ///< else only while its strengths left are more than the enemy's
-    std::uint64_t positions = 0;  ///< when so many have been evaluated, the search ends
+    static constexpr std::size_t all = std::numeric_limits<std::size_t>::max();
+
+    int plies = 2;                   ///< turns of both sides, the first included; at least 2
+    std::size_t turns = 1;           ///< so many, the best one ply ahead, are looked at; at least 1
+    std::size_t replies = 1;         ///< so many at the plies between; at least 1
+    std::size_t turnsAlike = all;    ///< of the turns, so many marches of the same people
+    std::size_t repliesAlike = all;  ///< the same of the replies
+    float passes = 0;                ///< how likely the opponent is held to pass, 0 to below 1
+    bool pressesAlways = true;       ///< else only while its side is the stronger one
+    bool waryWhenStronger = false;   ///< and plies over 2: then the mean with one ply less counts
+    std::uint64_t positions = 0;     ///< when so many have been evaluated, the search ends
 };
 
 /// Looks for the best turn by expectation: the dice are chance nodes with their exact odds, and the
@@ -57,7 +58,9 @@ private:
     float BestTurn(const Node& node, int plies, Window window);
     float BestReply(const Node& node, Window window);
     bool IsOver() const;
+    bool IsStronger() const;
     float Pressing(const Turn& turn) const;
+    float RootValue(Turn& turn, float atLeast);
     std::uint8_t ChooseCasualty(const Node& node, Turn turn, Dice dice);
     template <typename ValueOf>
     float WorthTo(std::uint8_t side, const Node& node, Window window, const ValueOf& valueOf);
