@@ -13,7 +13,7 @@ namespace qarn {
 
 /// How far and how wide a search looks.
 struct SearchLimits {
-    static constexpr std::size_t all = std::numeric_limits<std::size_t>::max();
+    static constexpr std::size_t all = std::numeric_limits<std::size_t>::max();  ///< no limit
 
     int plies = 2;                   ///< turns of both sides, the first included; at least 2
     std::size_t turns = 1;           ///< so many, the best one ply ahead, are looked at; at least 1
@@ -22,7 +22,7 @@ struct SearchLimits {
     std::size_t repliesAlike = all;  ///< the same of the replies
     float passes = 0;                ///< how likely the opponent is held to pass, 0 to below 1
     bool pressesAlways = true;       ///< else only while its side is the stronger one
-    bool waryWhenStronger = false;   ///< and plies over 2: then the mean with one ply less counts
+    bool waryWhenStronger = false;   ///< then its mean with a search of one ply less counts
     std::uint64_t positions = 0;     ///< when so many have been evaluated, the search ends
 };
 
