@@ -20,10 +20,15 @@ constexpr auto usage =
     "       qarn-console --selfplay N [--scenario CODE|all] [--seed S] [--json]\n"
     "       qarn-console --match A B [--games N] [--scenario CODE|all] [--seed S] [--turns T]\n"
     "                    [--sprt] [--json]\n"
-    "           plays N seeds, 100 unless told, twice each: 2 N games of each scenario\n";
+    "           plays N seeds, 100 unless told, twice each: 2 N games of each scenario\n"
+    "       qarn-console --help | --version\n";
 
 int Run(const qarn::Options& options) {
     using namespace qarn;
+    if (options.help || options.version) {
+        std::cout << (options.help ? usage : "qarn-console " QARN_VERSION "\n");
+        return 0;
+    }
     std::ostream* progress = isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr;
     if (options.selfPlay) {
         RunSelfPlay(*options.selfPlay, std::cout, progress);

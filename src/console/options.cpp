@@ -134,7 +134,11 @@ Options ParseOptions(std::span<char* const> arguments) {
     SeriesArguments series;
     for (Arguments rest(arguments); !rest.Empty();) {
         const std::string argument = rest.Take();
-        if (argument == "--json") {
+        if (argument == "--help") {
+            options.help = true;
+        } else if (argument == "--version") {
+            options.version = true;
+        } else if (argument == "--json") {
             options.json = true;
         } else if (TakeSeriesOption(argument, rest, series)) {
             continue;

@@ -11,6 +11,8 @@ namespace qarn {
 
 /// What the command line asks for.
 struct Options {
+    bool help = false;     ///< the usage is to be shown, and nothing else done
+    bool version = false;  ///< the same with the version
     bool json = false;
     std::string file;  ///< empty: no game is opened at the start
     std::optional<SelfPlayOptions> selfPlay;

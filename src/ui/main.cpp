@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <span>
+#include <string>
 #include <thread>
 
 #include "desktop/process_signals.h"
@@ -22,11 +23,25 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     std::_Exit(noDisplayStatus);
 }
 
+// What the program says of itself when it is asked to; nothing otherwise.
+const char* AnswerTo(const std::string& commandLine) {
+    if (commandLine == "--version") return "qarn " QARN_VERSION "\n";
+    if (commandLine != "--help") return nullptr;
+    return "Usage: qarn [FILE.tgf]\n"
+           "       qarn --help | --version\n"
+           "Plays the Thornmere Series Tactical Game in a window; goes on with FILE.tgf if "
+           "named.\n";
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
     qarn::FillClosedStreams();
     qarn::TellFullQuotas();
+    const std::span<char*> given(argv, static_cast<std::size_t>(argc));
+    if (const char* answer = AnswerTo(qarn::CommandLine(given.subspan(1)))) {
+        return std::fputs(answer, stdout) < 0 || std::fflush(stdout) != 0 ? EXIT_FAILURE : 0;
+    }
     // The font configuration takes long to read. Qt needs it for the first window only, so it is
     // read while Qt connects to the display.
     std::thread fontReader([] { FcInit(); });

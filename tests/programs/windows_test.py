@@ -34,6 +34,14 @@ class WindowsTest(unittest.TestCase):
             self.assertTrue(program.poll() is None and time.monotonic() < end)
             time.sleep(0.01)
 
+    def test_tells_of_itself_without_a_display(self):
+        for argument, told in (("--help", "Usage: qarn "), ("--version", "qarn 1.")):
+            run = subprocess.run([QARN, argument], capture_output=True, text=True, timeout=60,
+                                 env={**os.environ, "QT_QPA_PLATFORM": "none at all"})
+            self.assertEqual((run.returncode, run.stdout[:len(told)]), (0, told), run.stderr)
+        with open("/dev/full", "w", encoding="ascii") as full:
+            self.assertEqual(subprocess.run([QARN, "--help"], stdout=full, timeout=60).returncode, 1)
+
     def test_a_full_quota_ends_no_program(self):
         for command in ([QARN], [HELP]):
             self.wait_for(self.start(*command), "SigIgn", signal.SIGXFSZ)
