@@ -12,6 +12,7 @@
 #include "console/words.h"
 #include "desktop/linux_desktop.h"
 #include "desktop/process_signals.h"
+#include "shell/program_texts.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ constexpr auto usage =
 int Run(const qarn::Options& options) {
     using namespace qarn;
     if (options.help || options.version) {
-        std::cout << (options.help ? usage : "qarn-console " QARN_VERSION "\n");
+        std::cout << (options.help ? usage : ProductNameVersion() + '\n');
         return 0;
     }
     std::ostream* progress = isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr;

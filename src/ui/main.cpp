@@ -9,6 +9,7 @@
 
 #include "desktop/process_signals.h"
 #include "shell/command_line.h"
+#include "shell/program_texts.h"
 #include "ui/program.h"
 
 namespace {
@@ -23,14 +24,16 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     std::_Exit(noDisplayStatus);
 }
 
-// What the program says of itself when it is asked to; nothing otherwise.
-const char* AnswerTo(const std::string& commandLine) {
-    if (commandLine == "--version") return "qarn " QARN_VERSION "\n";
-    if (commandLine != "--help") return nullptr;
-    return "Usage: qarn [FILE.tgf]\n"
-           "       qarn --help | --version\n"
-           "Plays the Thornmere Series Tactical Game in a window; goes on with FILE.tgf if "
-           "named.\n";
+constexpr auto usage =
+    "Usage: qarn [FILE.tgf]\n"
+    "       qarn --help | --version\n"
+    "Plays the Thornmere Series Tactical Game in a window; goes on with FILE.tgf if named.";
+
+// Prints a text that was asked for, and gives the status to end with.
+int Tell(const std::string& text) {
+    if (std::puts(text.c_str()) >= 0 && std::fflush(stdout) == 0) return EXIT_SUCCESS;
+    std::fputs("qarn: the output can not be written\n", stderr);
+    return EXIT_FAILURE;
 }
 
 }  // namespace
@@ -38,10 +41,9 @@ const char* AnswerTo(const std::string& commandLine) {
 int main(int argc, char* argv[]) {
     qarn::FillClosedStreams();
     qarn::TellFullQuotas();
-    const std::span<char*> given(argv, static_cast<std::size_t>(argc));
-    if (const char* answer = AnswerTo(qarn::CommandLine(given.subspan(1)))) {
-        return std::fputs(answer, stdout) < 0 || std::fflush(stdout) != 0 ? EXIT_FAILURE : 0;
-    }
+    const std::string option = argc == 2 ? argv[1] : "";
+    if (option == "--help") return Tell(usage);
+    if (option == "--version") return Tell(qarn::ProductNameVersion());
     // The font configuration takes long to read. Qt needs it for the first window only, so it is
     // read while Qt connects to the display.
     std::thread fontReader([] { FcInit(); });

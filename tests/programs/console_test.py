@@ -130,7 +130,8 @@ class ConsoleTest(unittest.TestCase):
             {"ok": not error, "error": error, "boxes": [], "help": [], "ended": True, "open": False,
              "happenings": [], "level": ["classic", "classic"],
              "house": {"ownGroups": False, "oneTurnForBurning": False}, "hint": None} for error in ("", "The program has ended.")])
-        for argument, told in (("--help", b"Usage: qarn-console"), ("--version", b"qarn-console 1.")):
+        for argument, told in (("--help", b"Usage: qarn-console"),
+                               ("--version", b"Thornmere Series Tactical Game Version 1.")):
             run = self.run_program("", argument)
             self.assertEqual((run.returncode, run.stderr), (0, b""))
             self.assertTrue(run.stdout.startswith(told), run.stdout)

@@ -35,12 +35,14 @@ class WindowsTest(unittest.TestCase):
             time.sleep(0.01)
 
     def test_tells_of_itself_without_a_display(self):
-        for argument, told in (("--help", "Usage: qarn "), ("--version", "qarn 1.")):
+        for argument, told in (("--help", "Usage: qarn "),
+                               ("--version", "Thornmere Series Tactical Game Version 1.")):
             run = subprocess.run([QARN, argument], capture_output=True, text=True, timeout=60,
                                  env={**os.environ, "QT_QPA_PLATFORM": "none at all"})
             self.assertEqual((run.returncode, run.stdout[:len(told)]), (0, told), run.stderr)
         with open("/dev/full", "w", encoding="ascii") as full:
-            self.assertEqual(subprocess.run([QARN, "--help"], stdout=full, timeout=60).returncode, 1)
+            run = subprocess.run([QARN, "--help"], stdout=full, stderr=subprocess.PIPE, timeout=60)
+        self.assertEqual((run.returncode, run.stderr), (1, b"qarn: the output can not be written\n"))
 
     def test_a_full_quota_ends_no_program(self):
         for command in ([QARN], [HELP]):
