@@ -41,10 +41,6 @@ Stack StackOf(const Position& position, Square square, PeopleSet all, PeopleSet 
     return stack;
 }
 
-int TurnsOf(int distance, int mobility) {
-    return distance == Distances::unreachable ? neverThere : (distance + mobility - 1) / mobility;
-}
-
 // Who could join a team, as one number that is the greater the better.
 using Recruit = std::uint32_t;
 
@@ -59,13 +55,6 @@ std::uint8_t MobilityOf(Recruit one) { return static_cast<std::uint8_t>(one); }
 
 }  // namespace
 
-int TurnsTo(const Stack& stack, Square square, int mobility, const Distances& distances) {
-    const int direct = TurnsOf(distances.Between(stack.gait, stack.square, square), mobility);
-    if (stack.boat == Square{}) return direct;
-    const int sailing = TurnsOf(distances.Between(Gait::ByBoat, stack.boat, square), mobility);
-    return std::min(direct, std::min(stack.fetching + sailing, neverThere));
-}
-
 int Army::Strength() const {
     int sum = 0;
     for (const Stack& stack : *this) sum += stack.strength;
@@ -75,6 +64,7 @@ int Army::Strength() const {
 Armies::Armies(const Position& position, const Distances& distances) {
     for (std::uint8_t i = 1; i <= peopleCount; ++i) {
         const Group& one = position.People[i];
+        if (one.Kind == GroupKind::Boat) boats_.Add(i);
         if (!OnBoard(one) || IsTransport(one)) continue;
         const Army& army = armies_[one.Side - 1u];
         const bool known = std::any_of(army.begin(), army.end(), [&](const Stack& stack) {
@@ -133,9 +123,9 @@ void Armies::FindBoats(const Position& position, const Distances& distances) {
         std::array<Square, peopleCount> boats;
         std::size_t count = 0;
         const Army& enemy = armies_[1 - side];
-        for (const Group& one : position.People) {
-            if (one.Kind != GroupKind::Boat || !OnBoard(one)) continue;
-            const Square square = SquareOf(one);
+        for (const std::uint8_t i : boats_) {
+            if (!OnBoard(position.People[i])) continue;
+            const Square square = SquareOf(position.People[i]);
             const bool held = std::any_of(enemy.begin(), enemy.end(), [&](const Stack& stack) {
                 return stack.square == square;
             });
@@ -182,12 +172,14 @@ void Armies::FormTeams(const Position& position, const Distances& distances, Arm
             if (home == k) {
                 ++ofAnchor;
             } else {
-                const Stack& from = army.stacks_[home];
-                const int way = TurnsTo(from, anchor.square, from.mobility, distances);
-                if (way >= neverThere) continue;
                 const std::uint32_t bit = std::uint32_t{1} << home;
-                if ((seen & bit) == 0) turns += way;
-                seen |= bit;
+                if ((seen & bit) == 0) {
+                    const Stack& from = army.stacks_[home];
+                    const int way = TurnsTo(from, anchor.square, from.mobility, distances);
+                    if (way >= neverThere) continue;
+                    turns += way;
+                    seen |= bit;
+                }
             }
             team.attack = Narrow(team.attack + AttackOf(one));
             team.mobility = Narrow(team.mobility + MobilityOf(one));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 
 #include "ai/opponents/distances.h"
@@ -28,9 +29,19 @@ struct Stack {
 /// No way leads there.
 inline constexpr int neverThere = 99;
 
+/// How many turns of so much mobility a distance takes.
+inline int TurnsOf(int distance, int mobility) {
+    return distance == Distances::unreachable ? neverThere : (distance + mobility - 1) / mobility;
+}
+
 /// How many turns of so much mobility a stack takes to a square, with the boat fetched first where
 /// that is the shorter way.
-int TurnsTo(const Stack& stack, Square square, int mobility, const Distances& distances);
+inline int TurnsTo(const Stack& stack, Square square, int mobility, const Distances& distances) {
+    const int direct = TurnsOf(distances.Between(stack.gait, stack.square, square), mobility);
+    if (stack.boat == Square{}) return direct;
+    const int sailing = TurnsOf(distances.Between(Gait::ByBoat, stack.boat, square), mobility);
+    return std::min(direct, std::min(stack.fetching + sailing, neverThere));
+}
 
 /// The up to four best attackers that can come together on one of their side's squares.
 struct Team {
@@ -75,6 +86,7 @@ private:
     void FormTeams(const Position& position, const Distances& distances, Army& army);
 
     std::array<Army, 2> armies_;
+    PeopleSet boats_;
 };
 
 }  // namespace qarn

@@ -15,20 +15,18 @@ float Softsign(float x) { return x / (1 + std::abs(x)); }
 float WorthOfBalance(float balance) { return (1 + Softsign(aheadCounts * balance)) / 2; }
 
 Activation Activate(const Features& features, const Weights& weights) {
-    Activation activation{.hidden = weights.hiddenBias, .sum = weights.bias};
+    std::array<float, Weights::hidden> hidden = weights.hiddenBias;
+    float sum = weights.bias;
     for (std::size_t i = 0; i < features.size(); ++i) {
         const float feature = features[i];
         if (feature == 0) continue;
         const auto& row = weights.toHidden[i];
-        for (std::size_t k = 0; k < row.size(); ++k) activation.hidden[k] += feature * row[k];
-        activation.sum += feature * weights.past[i];
+        for (std::size_t k = 0; k < row.size(); ++k) hidden[k] += feature * row[k];
+        sum += feature * weights.past[i];
     }
-    for (std::size_t k = 0; k < Weights::hidden; ++k) {
-        activation.hidden[k] = Softsign(activation.hidden[k]);
-        activation.sum += activation.hidden[k] * weights.fromHidden[k];
-    }
-    activation.value = (1 + Softsign(activation.sum)) / 2;
-    return activation;
+    for (float& one : hidden) one = Softsign(one);
+    for (std::size_t k = 0; k < Weights::hidden; ++k) sum += hidden[k] * weights.fromHidden[k];
+    return {.hidden = hidden, .sum = sum, .value = (1 + Softsign(sum)) / 2};
 }
 
 float Evaluate(const Position& position, const Distances& distances, const Weights& weights) {
