@@ -290,9 +290,10 @@ void FrmGame::keyPressEvent(QKeyEvent* event) {
 void FrmGame::Escape() {
     if (HasHint()) {
         Run("DropHint", DropHint);
-    } else if (IsThinking()) {
+    } else if (thinker_ && thinker_->Current()) {
         tmrAI_.stop();  // it need not wait for its time
         thinker_->DecideNow();
+        TimeIsUp();
     }
 }
 

@@ -63,6 +63,7 @@ bool FrmGame::BeginsToThink() {
         connect(thinker_.get(), &Thinker::Decided, this, [this] {
             ShowFoundHint();
             if (thinker_->HasDecided() && !tmrAI_.isActive()) TimeIsUp();
+            ShowThinking();
         });
     }
     if (thinker_->Current() == due) return false;

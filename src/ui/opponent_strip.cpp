@@ -19,6 +19,7 @@ OpponentStrip::OpponentStrip(QWidget* parent) : StatusLine(parent) {
     time_.setObjectName("told");
     time_.setSingleShot(true);
     time_.callOnTimeout(this, &OpponentStrip::ShowNext);
+    patience_.setObjectName("patience");
     patience_.setSingleShot(true);
     patience_.setInterval(worthShowing);
     patience_.callOnTimeout(this, [this] {

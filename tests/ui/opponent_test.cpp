@@ -164,6 +164,33 @@ TEST_F(OpponentWindow, IsDroppedOrHastenedWhileItThinks) {
     EXPECT_TRUE(ShownGame().blnEnded);
 }
 
+// What it has chosen waits until its time is up, or for Esc.
+TEST_F(OpponentWindow, IsSaidToThinkOnlyWhileItDoes) {
+    Open("AM computer1");
+    OpponentStrip* strip = nullptr;
+    const auto isGone = [&] { return strip->isHidden(); };
+    const auto begins = [&] {
+        Do("mnuClassic1; mnuWarlord1");
+        strip = window->findChild<OpponentStrip*>();
+        Find<QTimer>("patience")->setInterval(0);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return strip->isVisible(); }));
+        EXPECT_EQ(strip->text(), "Warlord is thinking. Esc: decide now.");
+    };
+    constexpr int longerThanItThinks = 60000;
+    begins();
+    Timer()->setInterval(longerThanItThinks);
+    EXPECT_TRUE(QTest::qWaitFor(isGone, longerThanItThinks / 3));
+    EXPECT_FALSE(Acts());
+    QTest::keyClick(board, Qt::Key_Escape);
+    EXPECT_TRUE(Acts());
+
+    OpenAnew("AM computer1");
+    begins();
+    QTest::keyClick(board, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor(isGone));
+    EXPECT_TRUE(Acts());
+}
+
 // As after a longer thought, its text stands beside the status line when the hint is found.
 TEST_F(OpponentWindow, FindsAHintThatTakesItsTime) {
     Open("Q@14,7 TS@9,5 LS@10,2 S@3,7 WS@14,7 SK@8,5 V@8,2 WA@15,4 WA1@15,4 Z@17,2 ZA1@5,1");
