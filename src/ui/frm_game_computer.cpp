@@ -88,6 +88,7 @@ void FrmGame::ShowFoundHint() {
 void FrmGame::TimeIsUp() {
     if (IsThinking() || TellsMore()) return;
     RunAlone([this] {
+        ShowThinking();  // no longer, behind a box that may come
         Tick(game_, [this](const Choice& choice) { return MakeChoice(choice); });
         history_.NoteTick(game_);
     });

@@ -1,5 +1,6 @@
 #include <QMenu>
 
+#include "ai/locked_position.h"
 #include "support/game_window.h"
 #include "ui/opponent_strip.h"
 
@@ -189,6 +190,27 @@ TEST_F(OpponentWindow, IsSaidToThinkOnlyWhileItDoes) {
     QTest::keyClick(board, Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor(isGone));
     EXPECT_TRUE(Acts());
+}
+
+TEST_F(OpponentWindow, IsNotSaidToThinkBehindItsOwnBox) {
+    Open("AM computer1");
+    Do("mnuSpeedAtOnce; mnuWarlord1");
+    const_cast<Game&>(ShownGame()).record.Standstill.turns = turnsOfALock + 1;
+    const auto* strip = Find("opponentStrip");
+    Find<QTimer>("patience")->setInterval(0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return strip->isVisible(); }));
+    bool isSaid = false;
+    QTimer look;
+    look.callOnTimeout([&] {
+        if (QApplication::activeModalWidget() == nullptr) return;
+        isSaid = strip->isVisible();
+        look.stop();
+        AnswerBoxes({Qt::Key_Escape});
+    });
+    look.start(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !boxes.empty(); }));
+    EXPECT_EQ(titles, std::vector<std::string>{"Draw"});
+    EXPECT_FALSE(isSaid);
 }
 
 // As after a longer thought, its text stands beside the status line when the hint is found.
