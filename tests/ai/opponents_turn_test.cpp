@@ -2,25 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "core/position.h"
-#include "support/computer_game.h"
+#include "ai/turn_driver.h"
+#include "core/board_display.h"
+#include "support/played_game.h"
 
 namespace qarn {
 namespace {
-
-// It attacks, and is asked whether it wants to; afterwards the person is asked again.
-TEST(OpponentsTurn, LetsAnOpponentAnswerItsOwnBoxesOnly) {
-    ComputerGame played("WS@10,10 TS@10,10 Z@11,10 ZA1@1,1");
-    played.game.opponent[1] = "captain";
-    for (const int roll : {1, 1}) played.random.QueueRoll(roll);
-    played.TickOn();
-    EXPECT_EQ(played.game.record.bytPeopleLeft[2], 1);
-    EXPECT_GE(played.dialogs.answers.size(), 3u);
-    EXPECT_FALSE(played.dialogs.boxes.back().ForThePerson);
-    played.dialogs.queued = {Answer::No};
-    EXPECT_EQ(played.dialogs.Show({.Title = {}, .Text = "?", .Offered = Buttons::YesNo}),
-              Answer::No);
-}
 
 // All that stand on 10,10.
 std::optional<Plan> MarchToTheRight(const Choice& choice) {
@@ -33,14 +20,13 @@ std::optional<Plan> MarchToTheRight(const Choice& choice) {
 // Where Classic's clicks are taken for looks.
 TEST(OpponentsTurn, LetsAnOpponentPlayOnWhileThePersonLooks) {
     for (const bool classic : {true, false}) {
-        ComputerGame played("HF@10,10 Q@10,10 J@13,10 Z@1,1");
+        PlayedGame played("computer1 HF@10,10 Q@10,10 J@13,10 Z@1,1");
         if (!classic) played.game.opponent[1] = "scout";
         Tick(played.game, MarchToTheRight);
-        played.Do("press cmdSquareDetails");
-        played.Do("click 1 1");
+        played.DoAll("press cmdSquareDetails; click 1 1");
         const std::string lookedAt = played.game.controls.lblDetailMore.Caption;
-        played.TickOn();
-        EXPECT_EQ(played.Square(11, 10), classic ? "" : "Q    HF   ");
+        played.Do("timer 40");
+        EXPECT_EQ(CaptionOfSquare(played.game, 11, 10), classic ? "" : "Q    HF   ");
         if (classic) continue;
         const Controls& controls = played.game.controls;
         EXPECT_TRUE(played.game.record.blnDetailsMode && controls.fraQuickDetails.Visible);
@@ -54,10 +40,13 @@ TEST(OpponentsTurn, LetsAnOpponentPlayOnWhileThePersonLooks) {
 
 // What stands in the choice is all that the plan depends on.
 TEST(OpponentsTurn, AsksForTheChoiceThatIsDue) {
-    ComputerGame played("HF@10,10 Q@10,10 J@13,10 Z@1,1");
+    PlayedGame played("computer1 HF@10,10 Q@10,10 J@13,10 Z@1,1");
     Game& game = played.game;
     const Choice due = DueChoice(game).value();
     EXPECT_EQ(due.opponent, "classic");
+    game.record.Standstill.drawn = true;
+    EXPECT_EQ(DueChoice(game), std::nullopt) << "they have agreed on a draw";
+    game.record.Standstill.drawn = false;
     game.opponent[1] = "scout";
     EXPECT_NE(DueChoice(game), due);
     EXPECT_TRUE(OpponentActs(game));
@@ -80,14 +69,14 @@ TEST(OpponentsTurn, AsksForTheChoiceThatIsDue) {
 
 // Burning passes the turn to the person in the middle of the opponent's move.
 TEST(OpponentsTurn, LetsAnOpponentEndItsMoveAfterABurning) {
-    ComputerGame played("WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 11,10=7");
+    PlayedGame played("computer1 WS@10,10 TS@10,10 Z@11,10 ZA1@1,1 11,10=7");
     played.game.opponent[1] = "scout";
     Tick(played.game, MarchToTheRight);
-    played.TickOn();
+    played.DoAll("timer 3");
     EXPECT_EQ(played.game.record.bytTerrain[11][10], Sand);
     EXPECT_EQ(played.game.record.bytTurn, 2);
     EXPECT_FALSE(OpponentActs(played.game)) << "the person may end it as well";
-    played.Tick();
+    played.Do("timer");
     EXPECT_EQ(played.game.record.bytTurn, 1);
     EXPECT_EQ(played.game.controls.cmdMove.Caption, "&Move");
     EXPECT_FALSE(played.game.record.Action.blnAIBusy);

@@ -117,16 +117,5 @@ TEST(TurnHistory, HoldsNoEventThatFails) {
     EXPECT_EQ(played.history.Events(), 0u);
 }
 
-// A person's hand in the computer's turn can be taken back once the computer rests.
-TEST(TurnHistory, IsThePersonsOnly) {
-    PlayedGame played("computer1 Q@9,10 WA@15,4");
-    played.Do("press cmdMove");
-    EXPECT_EQ(played.history.Events(), 0u);
-    played.game.controls.tmrAI.Enabled = false;
-    played.Do("click 9 10");
-    EXPECT_FALSE(played.Do("menu mnuCancelMove")) << "its start is not known";
-    EXPECT_TRUE(played.Do("menu mnuTakeBack") && played.Do("click 9 10"));
-}
-
 }  // namespace
 }  // namespace qarn

@@ -120,6 +120,7 @@ std::vector<Fact> FactsOf(const Game& game) {
              Fact{"#", "mnuConvertFile", MenuFact(controls.mnuConvertFile, false)},
              Fact{"#", "mnuAbout", MenuFact(controls.mnuAbout, false)},
              Fact{"#", "timer", OnOff(controls.tmrAI.Enabled)},
+             Fact{"#", "action", OnOff(record.Action.blnAIBusy)},
              Fact{"#", "hint", game.blnHintWanted ? "wanted" : "not wanted"},
              Fact{"#", "highlight", MarkerFact(controls.shpHighlight)},
              Fact{"#", "description", DescriptionFact(controls.lblTerrainDescription)},

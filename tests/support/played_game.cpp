@@ -4,6 +4,7 @@
 #include <sstream>
 #include <utility>
 
+#include "ai/turn_driver.h"
 #include "core/board_display.h"
 #include "play/play_menu.h"
 #include "rules/terrain.h"
@@ -137,6 +138,16 @@ bool PlayedGame::Do(const std::string& command) {
     } else if (verb == "rename") {
         words >> name;
         game.record.strPlayerName[2] = name;
+    } else if (verb == "timer") {
+        int ticks = 1;
+        words >> ticks;
+        if (!game.controls.tmrAI.Enabled) return false;
+        for (; ticks > 0 && game.controls.tmrAI.Enabled; --ticks) {
+            Tick(game);
+            history.NoteTick(game);
+        }
+    } else if (verb == "still") {
+        words >> game.record.Standstill.turns;
     } else if (verb == "reopen") {
         Open();
     } else if (verb == "breakdisk") {

@@ -32,8 +32,9 @@ public:
     std::string Play(const std::string& script);
 
     /// One command: press, tick, untick, menu, saveas, click or close; answer or roll, for boxes
-    /// and dice to come; reopen; rename side 2's player, or breakdisk, after which nothing can be
-    /// written.
+    /// and dice to come; timer, for so many ticks of the computer's timer, unless it stops before;
+    /// still, as if nothing had come about for so many turns; reopen; rename side 2's player, or
+    /// breakdisk, after which nothing can be written.
     /// Gives false for what a person could not do.
     bool Do(const std::string& command);
     /// Some of them, separated by "; ", that a person can do.

@@ -43,14 +43,6 @@ TEST(MenuCommands, WhatIsShownIsKeptForThePerson) {
     EXPECT_FALSE(played.game.view.sides);
 }
 
-// The computer that has found nothing leaves the choice to the person.
-TEST(MenuCommands, HintIsOfferedWhereTheComputerRests) {
-    PlayedGame played("computer1 Q@9,5 Z@17,2");
-    EXPECT_FALSE(played.Do("menu mnuHint"));
-    played.game.controls.tmrAI.Enabled = false;
-    EXPECT_TRUE(played.Do("menu mnuHint"));
-}
-
 TEST(MenuCommands, HintGoesWhenTheGameGoesOn) {
     PlayedGame played("Q@9,10 WA@17,2");
     const Controls& controls = played.game.controls;
