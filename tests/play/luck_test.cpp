@@ -6,6 +6,7 @@
 #include <cmath>
 #include <random>
 
+#include "core/position.h"
 #include "play/journal_game.h"
 
 namespace qarn {
@@ -60,17 +61,11 @@ public:
     }
 
 private:
-    std::size_t Group(std::string_view code) const {
-        std::size_t i = 1;
-        while (played_.game.record.People.at(i).Code != code) ++i;
-        return i;
-    }
-
     JournalGame played_{"LS@9,10 ZA1@10,10 Q@5,5 Z@1,1"};
     const GameRecord record_ = played_.game.record;
     const Controls controls_ = played_.game.controls;
-    const std::size_t attacker_ = Group("LS ");
-    const std::size_t defender_ = Group("ZA1");
+    const std::size_t attacker_ = PeopleOn(PositionOf(record_), {9, 10}).First();
+    const std::size_t defender_ = PeopleOn(PositionOf(record_), {10, 10}).First();
     std::mt19937 chance_{7};
     std::uniform_real_distribution<double> uniform_{0, 1};
 };

@@ -5,7 +5,6 @@
 #include "play/reach_marks.h"
 #include "play/stacks.h"
 #include "play/step_told.h"
-#include "play/strikes.h"
 #include "rules/questions/reach.h"
 #include "rules/questions/start.h"
 #include "scenarios/catalogue.h"
@@ -112,46 +111,6 @@ TEST(ReachAndOdds, AreWhatTheGameThenDoes) {
         TryAttacksFrom(tried, start);
         if (testing::Test::HasFailure()) return;
     }
-}
-
-std::string Squares(const std::vector<Square>& squares) {
-    std::string text;
-    for (const Square square : squares) {
-        text += std::to_string(square.X) + "," + std::to_string(square.Y) + " ";
-    }
-    return text;
-}
-
-TEST(Strikes, AreWhereTheEnemyCouldGoOrAttack) {
-    const auto of = [](const char* position) {
-        return Squares(StrikesOf(PositionOf(PlayedGame(position).game.record), 2));
-    };
-    // With the Attack command too, where no step leads: over water, but not up a mountain.
-    EXPECT_EQ(of("ZA1@5,1 Q@1,1"), "2,1 3,1 4,1 4,2 4,3 5,2 6,1 ");
-    EXPECT_EQ(of("ZA1@16,7 Q@1,1"), "16,8 17,7 ");
-    EXPECT_EQ(of("Q@1,1"), "");
-}
-
-TEST(StepTold, SaysWhyTheNextClickIsRefused) {
-    EXPECT_EQ(StepTold(PlayedGame("Q@16,10 Z@1,1").game.record, {16, 9}), "");
-    const auto told = [](const char* position, Square square) {
-        PlayedGame played(position);
-        played.DoAll("press cmdMove; click 16 10; press cmdDoneSel");
-        return StepTold(played.game.record, square);
-    };
-    const char* alone = "Q@16,10 Z@1,1";
-    EXPECT_EQ(told(alone, {16, 10}), "");
-    EXPECT_EQ(told(alone, {16, 9}), "A step here costs 1 mobility unit of 3.");
-    EXPECT_EQ(told(alone, {13, 10}), "Square by square, you come here for 3 mobility units.");
-    EXPECT_EQ(told(alone, {12, 10}), "You can not come here in this move.");
-    EXPECT_EQ(told("Q@16,10 16,9=2 Z@1,1", {16, 9}), "You can not go on water without a boat.");
-    EXPECT_EQ(told("Q@16,10 16,9=1 Z@1,1", {16, 9}),
-              "You do not have enough mobility units to go there. It costs 5 mobility units, and 3 "
-              "are left.");
-    EXPECT_EQ(told("Q@16,10 HF@16,10 TS@16,9 LS@16,9 S@16,9 Z@1,1", {16, 9}),
-              "There will be more than 4 characters in that unit.");
-    EXPECT_EQ(told("turn2 16,9=8 Z@16,10 Q@1,1", {16, 9}),
-              "Badbeasts do not enter an abbey that is empty.");
 }
 
 }  // namespace
