@@ -1,6 +1,8 @@
 #include "support/played_game.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <map>
 #include <sstream>
 #include <utility>
 
@@ -20,12 +22,16 @@
 namespace qarn {
 namespace {
 
+const std::map<std::string, Answer> answersByName{
+    {"yes", Answer::Yes}, {"no", Answer::No}, {"retry", Answer::Retry}, {"cancel", Answer::Cancel}};
+
 std::string Shown(const MessageBox& box, Answer answer) {
     const std::string title = box.Title.empty() ? "" : box.Title + ": ";
     const std::string text = title + Replaced(box.Text, "\n", "\n  ");
     if (box.Offered == Buttons::OK) return "! " + text + "\n";
-    return "? " + text + (box.DeclinedByDefault ? " [No]" : "") +
-           (answer == Answer::Yes ? " -> yes\n" : " -> no\n");
+    const auto answered = std::find_if(answersByName.begin(), answersByName.end(),
+                                       [&](const auto& one) { return one.second == answer; });
+    return "? " + text + (box.DeclinedByDefault ? " [No]" : "") + " -> " + answered->first + "\n";
 }
 
 // Gives false when the button can not be pressed.
@@ -91,7 +97,7 @@ std::string PlayedGame::Play(const std::string& script) {
         noteStatus(game.controls.lblStatus.Caption);
         const std::vector<Fact> after = FactsOf(game);
         game.controls.SetFocus = Control::None;
-        ExpectBoardShown();
+        if (game.exitStatus == 0) ExpectBoardShown();  // else it has never opened
         return text + Changes("@", before, after) + Changes("#", before, after);
     });
     EXPECT_TRUE(dialogs.queued.empty() && random.queued.empty()) << "More was expected to happen.";
@@ -104,7 +110,7 @@ void PlayedGame::DoAll(const std::string& commands) {
 
 bool PlayedGame::Do(const std::string& command) {
     std::istringstream words(command);
-    std::string verb, name;
+    std::string verb, name, text;
     int X = 0, Y = 0;
     words >> verb;
     if (verb == "click") {
@@ -132,9 +138,20 @@ bool PlayedGame::Do(const std::string& command) {
     } else if (verb == "close") {
         history.Run(game, "Form_Unload", Form_Unload);
     } else if (verb == "answer") {
-        while (words >> name) dialogs.queued.push_back(name == "yes" ? Answer::Yes : Answer::No);
+        while (words >> name) dialogs.queued.push_back(answersByName.at(name));
     } else if (verb == "roll") {
         while (words >> X) random.QueueRoll(X);
+    } else if (verb == "write") {
+        words >> name;
+        std::getline(words >> std::ws, text);
+        WriteFile(folder / name, text);
+    } else if (verb == "line") {
+        words >> X;
+        std::getline(words.ignore(), text);
+        WriteFile(path, WithLine(ReadFile(path), X, text));
+    } else if (verb == "erase") {
+        words >> name;
+        std::filesystem::remove(folder / name);
     } else if (verb == "rename") {
         words >> name;
         game.record.strPlayerName[2] = name;

@@ -28,13 +28,15 @@ public:
 
     /// Carries out the commands of the lines that begin with "> ", which are separated by "; ", and
     /// gives these lines back, each followed by what came of it, as the head of rules/moves.txt
-    /// explains. Checks after each line that every square shows what stands on it.
+    /// explains. Checks after each line that every square shows what stands on it, unless the file
+    /// could not be opened.
     std::string Play(const std::string& script);
 
     /// One command: press, tick, untick, menu, saveas, click or close; answer or roll, for boxes
     /// and dice to come; timer, for so many ticks of the computer's timer, unless it stops before;
-    /// still, as if nothing had come about for so many turns; reopen; rename side 2's player, or
-    /// breakdisk, after which nothing can be written.
+    /// still, as if nothing had come about for so many turns; reopen; write or erase, as another
+    /// program does with a file; line, for another text of a line of the game's file; rename side
+    /// 2's player, or breakdisk, after which nothing can be written.
     /// Gives false for what a person could not do.
     bool Do(const std::string& command);
     /// Some of them, separated by "; ", that a person can do.

@@ -99,4 +99,10 @@ std::string SavedGame(const std::string& position) {
     return text;
 }
 
+std::string WithLine(const std::string& text, int line, const std::string& replacement) {
+    std::size_t begin = 0;
+    for (int l = 1; l < line; ++l) begin = text.find("\r\n", begin) + 2;
+    return std::string(text).replace(begin, text.find("\r\n", begin) - begin, replacement);
+}
+
 }  // namespace qarn

@@ -46,4 +46,7 @@ private:
 /// named group and terrain, the text is that of a new game whose side to move has been drawn.
 std::string SavedGame(const std::string& position);
 
+/// The text with one of its lines, counted from 1, replaced.
+std::string WithLine(const std::string& text, int line, const std::string& replacement);
+
 }  // namespace qarn

@@ -25,13 +25,6 @@ protected:
     const Controls& controls = played.game.controls;
 };
 
-// The text with one of its lines, counted from 1, replaced.
-std::string WithLine(const std::string& text, int line, const std::string& replacement) {
-    std::size_t begin = 0;
-    for (int l = 1; l < line; ++l) begin = text.find("\r\n", begin) + 2;
-    return std::string(text).replace(begin, text.find("\r\n", begin) - begin, replacement);
-}
-
 TEST_F(LoadGame, NewGame) {
     played.random.queued = {0.5};
     Open("CF\r\n" + Padded("Red") + "False\r\n" + Padded("Blue") + "True\r\n 0 \r\n");
@@ -101,48 +94,6 @@ TEST_F(LoadGame, ItemsEndAtCommas) {
     EXPECT_EQ(record.bytTerrain[15][4], Sand);
 }
 
-TEST_F(LoadGame, RefusesBadLines) {
-    struct BadLine {
-        int line;
-        const char* text;
-        int number;
-        const char* reason;
-    };
-    const std::string saved = SavedGame("Q@1,1 WA@15,4 15,4=4");
-    for (const BadLine& bad : {
-             BadLine{1, "", 13, "the scenario should be a code or a number, but is \"\"."},
-             {1, "x", 13, "the scenario should be a code or a number, but is \"x\"."},
-             {4, " 3 ", 9, "the side to move should be 0 to 2, but is 3."},
-             {4, " -1 ", 9, "the side to move should be 0 to 2, but is -1."},
-             {4, " 1 1 ", 13, "the side to move should be a number, but is \"1 1\"."},
-             {4, " \x80 ", 13, "the side to move should be a number, but is \"€\"."},
-             {4, "1, 9, 8, 19", 9, "the column of group 1 should be 0 to 18, but is 19."},
-             {5, "256", 9, "the number of groups left of side 1 should be 0 to 255, but is 256."},
-             {6, " ", 13, "the number of groups left of side 2 should be a number, but is \"\"."},
-             {7, " 19 ", 9, "the column of group 1 should be 0 to 18, but is 19."},
-             {8, " 11 ", 9, "the row of group 1 should be 1 to 10, but is 11."},
-             {8, " 0 ", 9, "the row of group 1 should be 1 to 10, but is 0."},
-             {54, " 1.5 ", 13, "the row of group 24 should be a number, but is \"1.5\"."},
-             {55, "9876543210", 9,
-              "the number of landmark squares should be 0 to 255, but is 9876543210."},
-             {56, " 0 ", 9, "the column of landmark square 1 should be 1 to 18, but is 0."},
-             {57, " 11 ", 9, "the row of landmark square 1 should be 1 to 10, but is 11."},
-             {58, " 9 ", 9, "the terrain code of landmark square 1 should be 0 to 8, but is 9."},
-         }) {
-        const std::string text = WithLine(saved, bad.line, bad.text);
-        played.dialogs.queued = {Answer::Cancel};
-        Open(text);
-        ASSERT_EQ(played.dialogs.boxes.size(), 1u) << bad.reason;
-        EXPECT_EQ(played.dialogs.boxes[0].Title, "Error " + std::to_string(bad.number));
-        EXPECT_EQ(played.dialogs.boxes[0].Text, "Invalid game format\nLine " +
-                                                    std::to_string(bad.line) + ": " + bad.reason +
-                                                    "\n" + played.path);
-        EXPECT_TRUE(played.game.blnEnded && !played.game.blnOpen);
-        EXPECT_EQ(played.game.exitStatus, 1);
-        EXPECT_EQ(ReadFile(played.path), text);
-    }
-}
-
 TEST_F(LoadGame, SurvivesBeingCutAtEveryByte) {
     const std::string saved = SavedGame("Q@1,1 WA@15,4 15,4=4");
     std::vector<std::size_t> loaded;
@@ -168,20 +119,6 @@ TEST_F(LoadGame, SurvivesBeingCutAtEveryByte) {
     const std::size_t turn = 4 + 2 * (54 + 5 + 2) + 2, end = saved.size();
     EXPECT_EQ(loaded, (std::vector<std::size_t>{turn, turn + 1, turn + 2, turn + 3, end - 3,
                                                 end - 2, end - 1, end}));
-}
-
-TEST_F(LoadGame, RefusesWhatIsNoFile) {
-    for (const auto& [path, reason] :
-         {std::pair{played.folder / "none.tgf", "No such file or directory"},
-          std::pair{played.folder.Path().string(), "Is a directory"}}) {
-        played.path = path;
-        played.dialogs.queued = {Answer::Cancel};
-        played.Open();
-        EXPECT_EQ(played.dialogs.boxes.back().Title, "Error 53");
-        EXPECT_EQ(
-            played.dialogs.boxes.back().Text,
-            std::string("Invalid game format\nThe file can not be read: ") + reason + ".\n" + path);
-    }
 }
 
 TEST_F(LoadGame, RetryAfterTheFileWasMended) {

@@ -65,39 +65,14 @@ TEST(MenuCommands, HintGoesWhenTheGameGoesOn) {
     EXPECT_TRUE(controls.Hint.Way.empty() && !controls.Hint.Visible);
 }
 
-TEST(SaveGame, AsksBeforeItReplacesWhatAnotherProgramHasWritten) {
+TEST(SaveGame, LeavesWhatAnotherProgramHasWrittenToThePerson) {
     PlayedGame played("Q@9,10 Z@1,1");
-    const std::string others = "another program's";
-    const auto doAnswering = [&](const char* command, std::deque<Answer> answers) {
-        played.dialogs.boxes.clear();
-        played.dialogs.queued = std::move(answers);
-        played.Do(command);
-        EXPECT_TRUE(played.dialogs.queued.empty()) << command;
-        return played.dialogs.boxes.size();
-    };
-    for (int time = 0; time < 2; ++time) EXPECT_EQ(doAnswering("menu mnuSave", {}), 0u);
-    const std::string game = ReadFile(played.path);
-    WriteFile(played.path, others);
-    ASSERT_EQ(doAnswering("menu mnuSave", {Answer::No}), 1u);
-    const MessageBox& box = played.dialogs.boxes.front();
-    EXPECT_NE(box.Text.find("game.tgf was changed by another program."), box.Text.npos);
-    EXPECT_TRUE(box.DeclinedByDefault && box.ForThePerson);
-    EXPECT_EQ(doAnswering("close", {Answer::No, Answer::No}), 2u);
-    EXPECT_TRUE(played.game.blnOpen);
-    EXPECT_EQ(ReadFile(played.path), others);
-    EXPECT_EQ(played.folder.Entries(), 1);
-
-    EXPECT_EQ(doAnswering("menu mnuSave", {Answer::Yes}), 1u);
-    EXPECT_EQ(ReadFile(played.path), game);
-    WriteFile(played.folder / "other.tgf", "was offered to be replaced by the dialog");
-    EXPECT_EQ(doAnswering("saveas other.tgf", {}), 0u);
-    std::filesystem::remove(played.folder / "other.tgf");
-    EXPECT_EQ(doAnswering("menu mnuSave", {}), 0u) << "nothing is lost";
-
-    WriteFile(played.folder / "other.tgf", others);
+    WriteFile(played.path, "another program's");
+    played.DoAll("answer no; menu mnuSave");
+    EXPECT_TRUE(played.dialogs.boxes.back().ForThePerson);
     RunEvent(played.game, "Form_Unload", CloseWithoutBoxes);
     EXPECT_EQ(played.game.exitStatus, 1);
-    EXPECT_EQ(ReadFile(played.folder / "other.tgf"), others);
+    EXPECT_EQ(ReadFile(played.path), "another program's");
 }
 
 TEST(SaveGame, TakesItsOwnFileForNobodyElses) {
@@ -127,8 +102,7 @@ TEST(MenuCommands, ConvertFile) {
 
     // The new scenario's landmark squares carry what the old board had there: (15,7) a mountain.
     played.Load("older7 Q@9,10 WA@15,4 15,4=4");
-    played.dialogs.queued = {Answer::Yes};
-    EXPECT_TRUE(played.Do("menu mnuConvertFile"));
+    played.DoAll("answer yes; menu mnuConvertFile");
     EXPECT_EQ(played.game.controls.Caption, "Exile's Road Tactical Game - game.tgf (Red vs. Blue)");
     EXPECT_EQ(played.game.record.bytTerrain[15][7], Mountain);
     EXPECT_EQ(played.game.record.People[1].LocationX, 9);
