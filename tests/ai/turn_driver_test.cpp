@@ -1,12 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "ai/action.h"
 #include "ai/turn_driver.h"
-#include "core/turn_cycle.h"
-#include "scenarios/catalogue.h"
-#include "support/random_game.h"
 #include "support/sequence.h"
 
 namespace qarn {
@@ -44,56 +39,6 @@ TEST(TurnDriver, LeavesAPersonsTurnAlone) {
     played.game.controls.tmrAI.Enabled = true;
     tmrAI_Timer(played.game);
     EXPECT_TRUE(played.game.controls.tmrAI.Enabled && !played.game.record.Action.blnAIBusy);
-}
-
-// The computer plays side 1, or both, and a person does anything in between.
-class MeddledGame : public RandomGame {
-public:
-    explicit MeddledGame(unsigned seed)
-        : RandomGame(1 + static_cast<int>(seed % scenarioCount), seed) {
-        game.record.blnComputer = {false, true, seed % 3 == 0};
-        ShowTurn(game, false);
-    }
-
-    void Act() {
-        const bool looks = Below(game.record.blnDetailsMode ? 3 : 30) == 0;
-        QueueAnswersAndDice();
-        if (game.controls.tmrAI.Enabled && Below(2) == 0) {
-            Tick(game);
-        } else {
-            Do(looks ? "press cmdSquareDetails" : RandomCommand());
-        }
-    }
-
-    // Gives true when the turn passes, or the game ends, after no more than so many actions.
-    bool GoesOnWithin(int actions) {
-        const std::uint8_t turn = game.record.bytTurn;
-        while (actions-- > 0 && !game.blnEnded && game.record.bytTurn == turn) Act();
-        return game.blnEnded || game.record.bytTurn != turn;
-    }
-
-    int CharactersLeft() const {
-        return static_cast<int>(std::count_if(
-            game.record.People.begin(), game.record.People.end(),
-            [](const PeopleRecord& people) { return !IsTransport(people) && OnBoard(people); }));
-    }
-};
-
-TEST(TurnDriver, SurvivesWhateverThePersonDoes) {
-    for (unsigned seed = 1; seed <= 100; ++seed) {
-        SCOPED_TRACE("seed " + std::to_string(seed));
-        MeddledGame played(seed);
-        for (int action = 0; action < 80 && !played.game.blnEnded; ++action) {
-            const int left = played.CharactersLeft();
-            played.Act();
-            ASSERT_LE(played.CharactersLeft(), left) << "The dead have risen.";
-        }
-        ASSERT_TRUE(played.GoesOnWithin(4000));
-        for (const MessageBox& box : played.dialogs.boxes) {
-            ASSERT_EQ(box.Text.find("::"), std::string::npos) << box.Text;  // an index out of range
-        }
-        played.ExpectBoardShown();
-    }
 }
 
 }  // namespace

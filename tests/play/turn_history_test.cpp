@@ -2,78 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "scenarios/catalogue.h"
-#include "support/random_game.h"
-#include "window/opponents_turn.h"
-#include "window/save_game.h"
+#include "support/played_game.h"
 
 namespace qarn {
 namespace {
-
-// A person of either side does anything, and takes back.
-class TakenBackGame : public RandomGame {
-public:
-    using RandomGame::RandomGame;
-
-    void DoSomething() {
-        const Seen before = See();
-        const std::uint8_t turn = game.record.bytTurn;
-        QueueAnswersAndDice();
-        if (!Do(RandomCommand())) return;
-        seen_.resize(history.Events(), before);
-        turns += game.record.bytTurn != turn ? 1 : 0;
-    }
-
-    void TakeSomeBack() {
-        for (int times = 1 + Below(4); times > 0 && !seen_.empty(); --times) {
-            const bool whole = Below(5) == 0 && Do("menu mnuCancelMove");
-            ASSERT_TRUE(whole || Do("menu mnuTakeBack"));
-            ASSERT_FALSE(whole && IsPersonsMoveUnderWay(game.record));
-            const Seen& before = seen_.at(history.Events());
-            ASSERT_EQ(See().state, before.state);
-            ASSERT_TRUE(before.file.empty() || before.file == Saved());
-            ASSERT_TRUE(game.happenings.empty());
-            ExpectBoardShown();
-            seen_.resize(history.Events());
-            ++takenBack;
-        }
-    }
-
-    int turns = 0;
-    int takenBack = 0;
-
-private:
-    struct Seen {
-        GameState state;
-        std::string file;  // empty: not saved
-    };
-
-    std::string Saved() {
-        SaveGame(game);
-        return ReadFile(path);
-    }
-    Seen See() {
-        return {{game.record, game.controls, game.blnOpen}, Below(200) == 0 ? Saved() : ""};
-    }
-
-    std::vector<Seen> seen_;  // before each of the events that can be taken back
-};
-
-TEST(TurnHistory, GivesTheVeryGameBeforeAnyEventOfATurn) {
-    int turns = 0, takenBack = 0;
-    for (unsigned seed = 1; turns < 2000; ++seed) {
-        SCOPED_TRACE("seed " + std::to_string(seed));
-        TakenBackGame played(1 + static_cast<int>(seed % scenarioCount), seed);
-        for (int event = 0; event < 3000 && !played.game.blnEnded; ++event) {
-            played.DoSomething();
-            if (seed * static_cast<unsigned>(event) % 23 == 0) played.TakeSomeBack();
-            if (testing::Test::HasFatalFailure()) return;
-        }
-        turns += played.turns;
-        takenBack += played.takenBack;
-    }
-    EXPECT_GT(takenBack, 4000);
-}
 
 // What is done before and after, and what of it can be taken back then.
 TEST(TurnHistory, EndsWithADieABoxOrTheTurn) {

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "scenarios/catalogue.h"
 #include "support/failing_calls.h"
-#include "support/random_game.h"
 #include "support/sequence.h"
 #include "window/hint_mark.h"
 #include "window/run_event.h"
@@ -127,41 +125,6 @@ TEST(Boxes, AreToldOfAnOpponent) {
               "4 and up.");
     EXPECT_EQ(told("You rolled a three and lost one character."),
               "Scout rolled a three and lost one character.");
-}
-
-// Whatever a person does in a crowd of groups, the board shows where everyone stands, the turn is
-// somebody's, and there is always something left to do; and what was saved comes back.
-TEST(Events, SurviveAnything) {
-    int gamesEnded = 0, gamesSaved = 0;
-    for (unsigned seed = 1; seed <= 60; ++seed) {
-        RandomGame played(1 + static_cast<int>(seed % scenarioCount), seed, 1);
-        const GameRecord& record = played.game.record;
-        const Controls& controls = played.game.controls;
-        for (int event = 0; event < 1500 && !played.game.blnEnded; ++event) {
-            const bool looks = played.Below(record.blnDetailsMode ? 3 : 40) == 0;
-            played.QueueAnswersAndDice();
-            played.Do(looks                    ? "press cmdSquareDetails"
-                      : played.Below(400) == 0 ? "menu mnuSave"
-                                               : played.RandomCommand());
-            ASSERT_TRUE(record.bytTurn == 1 || record.bytTurn == 2);
-            ASSERT_TRUE(played.game.blnEnded || controls.cmdMove.Enabled ||
-                        controls.cmdAttack.Enabled || record.blnMoveMode || record.blnDetailsMode ||
-                        (controls.cmdDoneSel.Visible && controls.cmdDoneSel.Enabled))
-                << "seed " << seed << " event " << event;
-            played.ExpectBoardShown();
-        }
-        EXPECT_EQ(std::filesystem::exists(played.path), !played.game.blnEnded);
-        ++(played.game.blnEnded ? gamesEnded : gamesSaved);
-        if (played.game.blnEnded) continue;
-        played.Do("close");
-        PlayedGame again;
-        again.Open(ReadFile(played.path));
-        again.Do("close");
-        EXPECT_EQ(ReadFile(again.path), ReadFile(played.path));
-        EXPECT_EQ(again.game.record.bytTerrain, record.bytTerrain);
-    }
-    EXPECT_GT(gamesEnded, 0);
-    EXPECT_GT(gamesSaved, 0);
 }
 
 }  // namespace
