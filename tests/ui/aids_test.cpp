@@ -63,53 +63,6 @@ TEST_F(GameWindow, IsThePlainBoardWithoutAids) {
     }
 }
 
-TEST_F(GameWindow, PutsPlatesBehindTheCodesOfTheSides) {
-    constexpr QRgb bright = 0xFFFFFF, dark = 0x281010, brown = 0xD8C098;
-    Open("9,5=0 Q@9,5 WS@9,4 BT@9,4 WA@17,2 ZA1@17,2");
-    window->resize(1600, 1100);
-    EXPECT_EQ(SquaresWith(dark) + SquaresWith(brown), "");
-    EXPECT_FALSE(Find("sideKey")->isVisible());
-    Do("mnuSides");
-    EXPECT_TRUE(Find("sideKey")->isVisible());
-    EXPECT_EQ(SquaresWith(dark), "17,2 ");
-    EXPECT_EQ(SquaresWith(brown), "9,4 ");
-    EXPECT_NE(SquaresWith(bright).find("9,4 "), std::string::npos);
-}
-
-TEST_F(GameWindow, ShowsWhereGroupsCanGo) {
-    constexpr QRgb light = 0xFFFFFF;
-    Open("9,5=6 9,4=6 9,6=6 8,5=6 10,5=6 Q@9,5 Z@17,2");
-    window->resize(1600, 1100);
-    const auto lightForests = [&] {
-        std::string squares;
-        for (const QPoint square : {QPoint(9, 4), QPoint(9, 6), QPoint(8, 5), QPoint(10, 5)}) {
-            const QRgb edge =
-                Picture().pixel(PlaceOfSquare(square.x(), square.y()).topLeft() + QPoint(4, 30));
-            squares += (edge & RGB_MASK) == light ? 'x' : '-';
-        }
-        return squares;
-    };
-    EXPECT_EQ(lightForests(), "----");
-    Do("mnuReach");
-    board->setFocus();
-    board->MoveCursor({9, 5});
-    EXPECT_EQ(lightForests(), "xxxx");
-    board->MoveCursor({1, 1});
-    EXPECT_EQ(lightForests(), "----");
-    ExpectBoardPainted();
-    QTest::keyPress(window.get(), Qt::Key_Shift);
-    EXPECT_NE(SquaresWith(0x9C0010), "");
-    QTest::keyRelease(window.get(), Qt::Key_Shift);
-    EXPECT_EQ(SquaresWith(0x9C0010), "");
-    Do("Alt+M; 9,5");
-    EXPECT_EQ(lightForests(), "----");
-    Do("Alt+S");
-    EXPECT_EQ(lightForests(), "xxxx");
-    Do("9,4");
-    EXPECT_EQ(lightForests(), "----") << "One mobility unit is left.";
-    ExpectBoardPainted();
-}
-
 TEST_F(GameWindow, TellsTheOddsOfTheEnemyPointedAt) {
     Open("9,5=0 10,5=0 Q@9,5 WS@9,5 ZA1@10,5 Z@17,2");
     Do("Alt+A; 9,5");

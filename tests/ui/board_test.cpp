@@ -2,6 +2,7 @@
 #include <QToolTip>
 
 #include "support/game_window.h"
+#include "support/sequence.h"
 #include "ui/board_widget.h"
 #include "ui/hint_caption.h"
 #include "ui/square_marks.h"
@@ -19,57 +20,20 @@ std::string MarksOf(const Game& game) {
     return text;
 }
 
-// The marks after each of the commands, (in parentheses) under each box.
-std::string MarksDuring(const std::string& position, const std::string& commands) {
-    PlayedGame played(position);
-    std::string text;
-    played.dialogs.whileShown = [&] { text += " (" + MarksOf(played.game) + ")"; };
-    for (const std::string& command : Parts(commands)) {
-        EXPECT_TRUE(played.Do(command)) << command;
-        text += MarksOf(played.game) + ";";
-    }
-    return text;
-}
+class Marks : public testing::TestWithParam<Sequence> {};
 
-TEST(SquareMarks, TellWhereTheMoveBeganAndWhereTheGroupStands) {
-    EXPECT_EQ(MarksDuring("Q@9,5 WS@9,5 WA@17,2",
-                          "press cmdMove; click 3 3; click 9 5; press cmdDoneSel; click 9 9; "
-                          "click 9 6; press cmdSquareDetails; click 1 1; press cmdSquareDetails; "
-                          "press cmdMove"),
-              ";; at 9,5; at 9,5; at 9,5; at 9,6 from 9,5; at 9,6 from 9,5; at 9,6 from 9,5; "
-              "at 9,6 from 9,5;;");
-}
-
-TEST(SquareMarks, TellTheAttackersAndTheirTarget) {
-    const char* position = "Q@9,5 WS@1,1 WA@9,6 Z@17,2";
-    EXPECT_EQ(
-        MarksDuring(position,
-                    "roll 5; answer yes; press cmdAttack; click 9 5; click 12 5; click 9 6; "
-                    "tick 1; press cmdDoneSel; press cmdAttack"),
-        ";;; at 9,5; at 9,5; ( at 9,5 to 9,6) ( at 9,5 to 9,6) at 9,5 to 9,6; at 9,5 to 9,6;;;");
-    // Into a fight: the group stands where it was, or on the square that it has won.
-    const std::string fight = "answer yes yes; press cmdMove; click 9 5; press cmdDoneSel; ";
-    EXPECT_EQ(
-        MarksDuring(position, fight + "roll 5; click 9 6; tick 1; press cmdDoneSel"),
-        ";; at 9,5; at 9,5; at 9,5; ( at 9,5) ( at 9,5 to 9,6) ( at 9,5 to 9,6) at 9,5 to 9,6; "
-        "at 9,5 to 9,6;;");
-    EXPECT_EQ(MarksDuring("9,6=0 Q@9,5 WS@9,5 ZA1@9,6 Z@17,2", fight + "roll 1 3; click 9 6"),
-              ";; at 9,5; at 9,5; at 9,5; ( at 9,5) ( at 9,5 to 9,6) ( at 9,5 to 9,6) "
-              "( at 9,5 to 9,6) at 9,6 from 9,5;");
-}
-
-TEST_F(GameWindow, MarksTheStartByAnotherShape) {
-    Open("9,5=0 8,5=0 8,6=0 9,6=0 Q@9,5 WS@9,5 WA@9,6 Z@17,2");
-    window->resize(1016, 718);
-    Do("Alt+M; 9,5; Alt+S; 8,5; 8,6");
-    const QImage picture = Picture();
-    const auto isGoldInCorner = [&](int X, int Y) {
-        const QPoint corner = PlaceOfSquare(X, Y).topLeft() + QPoint(5, 5);
-        return (picture.pixel(corner) & RGB_MASK) == 0xFFA000;
+TEST_P(Marks, AreOnTheBoardAndUnderBoxes) {
+    PlayedGame played(GetParam().position);
+    std::string boxes;
+    played.dialogs.whileShown = [&] { boxes += "under a box:" + MarksOf(played.game) + "\n"; };
+    const auto play = [&](const std::string& commands) {
+        played.DoAll(commands);
+        return std::exchange(boxes, "") + "marked:" + MarksOf(played.game) + "\n";
     };
-    EXPECT_TRUE(isGoldInCorner(8, 6));
-    EXPECT_FALSE(isGoldInCorner(9, 5));
+    EXPECT_EQ(PlayLines(GetParam().transcript, play), GetParam().transcript);
 }
+
+INSTANTIATE_TEST_SUITE_P(Moves, Marks, testing::ValuesIn(ReadSequences("ui/marks.txt")), NameOf);
 
 // The Corsair is beaten for certain. The caption stands above him, as far from the edge of the
 // board.
@@ -119,27 +83,8 @@ TEST(HintCaption, StandsOnAnEmptySquareBesideTheLastOne) {
 
 // ---- The pointer and the cursor ----
 
-// The navy frame of the square under the pointer, and the black and white one of the keyboard.
-TEST_F(GameWindow, ShowsThePointerAndTheCursorOnTheBoard) {
-    Open("9,5=0 10,5=0 11,5=0 Q@17,5 WA@17,2");
-    const auto edge = [&](int X) {
-        return Picture().pixel(PlaceOfSquare(X, 5).topLeft() + QPoint(1, 20)) & RGB_MASK;
-    };
-    EXPECT_EQ(edge(9), 0x000000u);
-    EXPECT_EQ(edge(10), 0xFFFFFFu);
-    Do("Right");
-    EXPECT_EQ(edge(9), 0xFFFFFFu);
-    EXPECT_EQ(edge(10), 0x000000u);
-    Button("cmdMove")->setFocus();
-    EXPECT_EQ(edge(10), 0xFFFFFFu);
-    QTest::mouseMove(window->windowHandle(), PlaceOfSquare(11, 5).center());
-    EXPECT_EQ(edge(11), 0x000080u);
-    QTest::mouseMove(window->windowHandle(), PlaceOfSquare(9, 5).center());
-    EXPECT_EQ(edge(11), 0xFFFFFFu);
-    EXPECT_EQ(edge(9), 0x000080u);
-    QTest::mouseMove(window->windowHandle(), QPoint(2, 2));
-    EXPECT_EQ(edge(9), 0xFFFFFFu);
-
+TEST_F(GameWindow, TellsOfTheSquareUnderThePointerInAToolTip) {
+    Open("Q@17,5 WA@17,2");
     QHelpEvent rests(QEvent::ToolTip, board->PlaceOfSquare({17, 5}).center(), QPoint());
     QApplication::sendEvent(board, &rests);
     EXPECT_EQ(QToolTip::text(), "(17, 5) Stream\nHero: mobility 3, attack 5, defense 5");

@@ -6,13 +6,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTest>
 #include <algorithm>
 
-#include "shell/about.h"
 #include "support/fake_ports.h"
-#include "ui/frm_about.h"
 #include "ui/frm_yes_no_help.h"
 #include "ui/window_script.h"
 
@@ -129,29 +126,6 @@ TEST_F(DialogsOnScreen, FileDialogsOfferGames) {
     }
     EXPECT_EQ(dialogs.AskSaveFileName(folder / "old.tgf"), "");
     EXPECT_EQ(dialogs.AskOpenFileName(folder.Path()), "");
-}
-
-TEST_F(DialogsOnScreen, TheAboutWindowTellsWhatThisIsAndCloses) {
-    const AboutControls controls;
-    for (const bool byKey : {false, true}) {
-        const QPointer about = new FrmAbout(&window);
-        about->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(about));
-        QStringList texts;
-        for (const QLabel* label : about->findChildren<QLabel*>()) texts << label->text();
-        for (const Label* label :
-             {&controls.lblProductNameVersion, &controls.lblCredits, &controls.lblLegalNotices}) {
-            EXPECT_TRUE(texts.contains(QString::fromStdString(label->Caption)));
-        }
-        auto* cmdExit = about->findChild<QAbstractButton*>();
-        EXPECT_EQ(cmdExit->text(), "E&xit");
-        if (byKey) {
-            QTest::keyClick(about, Qt::Key_X, Qt::AltModifier);
-        } else {
-            QTest::mouseClick(cmdExit, Qt::LeftButton);
-        }
-        EXPECT_TRUE(QTest::qWaitFor([&] { return about.isNull(); }, 1000));
-    }
 }
 
 // The screen of the tests is smaller than the game needs.

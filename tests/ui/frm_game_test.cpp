@@ -1,6 +1,8 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 
+#include "shell/about.h"
 #include "support/game_window.h"
 #include "support/sequence.h"
 #include "support/window_facts.h"
@@ -45,9 +47,26 @@ protected:
         return seen;
     }
 
+    // Where a square is that is named like "9,5".
+    QRect PlaceOf(const QString& square) {
+        const QStringList numbers = square.split(',');
+        return PlaceOfSquare(numbers[0].toInt(), numbers[1].toInt());
+    }
+    // The colours of the pixels that stand so far from the corners of squares.
+    std::string ColorsAt(QPoint inSquare, const QStringList& squares) {
+        const QImage picture = Picture();
+        QString colors;
+        for (const QString& square : squares) {
+            const QColor color = picture.pixelColor(PlaceOf(square).topLeft() + inSquare);
+            colors += " " + color.name().mid(1).toUpper();
+        }
+        return colors.toStdString();
+    }
+
     // GameWindow's, and "mouse BUTTON", "focus CONTROL", "answer KEY...", "roll 5", "tick" of the
-    // computer's timer, "look FFFFFF", "menus", "resize 800 600", "close", or "breakdisk", after
-    // which nothing can be written.
+    // computer's timer, "look FFFFFF", "pixel 4 30 SQUARE..." from their corners, "point SQUARE" or
+    // "point off", "hold KEY", "release KEY", "menus", "resize 800 600", "close", or "breakdisk",
+    // after which nothing can be written.
     void Do(const std::string& command) {
         const QStringList words = QString::fromStdString(command).split(' ');
         const std::string name = words.back().toStdString();
@@ -66,6 +85,16 @@ protected:
         } else if (words[0] == "look") {
             const std::string squares = SquaresWith(words[1].toUInt(nullptr, 16));
             looks += Replaced("* " + name + " " + squares + "\n", " \n", "\n");
+        } else if (words[0] == "pixel") {
+            looks += "* " + command + ":" +
+                     ColorsAt({words[1].toInt(), words[2].toInt()}, words.mid(3)) + "\n";
+        } else if (words[0] == "point") {
+            QTest::mouseMove(window->windowHandle(),
+                             name == "off" ? QPoint(2, 2) : PlaceOf(words[1]).center());
+        } else if (words[0] == "hold") {
+            QTest::keyPress(window.get(), QKeySequence(words[1])[0].key());
+        } else if (words[0] == "release") {
+            QTest::keyRelease(window.get(), QKeySequence(words[1])[0].key());
         } else if (words[0] == "menus") {
             for (const QAction* menu : window->menuBar()->actions()) {
                 looks += "* " + menu->text().toStdString() + ": " + ItemsOf(menu->menu()) + "\n";
@@ -121,14 +150,30 @@ TEST_F(GameWindow, IsStillWholeWhenTheFocusLeavesIt) {
     EXPECT_TRUE(whole);
 }
 
-TEST_F(GameWindow, ShowsOneAboutWindow) {
+TEST_F(GameWindow, ShowsOneAboutWindowWhichTellsWhatThisIsAndCloses) {
     Open("Q@9,5 WA@17,2");
-    Do("mnuAbout");
-    auto* about = window->findChild<QDialog*>();
-    ASSERT_NE(about, nullptr);
-    EXPECT_FALSE(MenuItem("mnuAbout")->isEnabled());
-    about->findChild<QAbstractButton*>()->click();
-    EXPECT_TRUE(MenuItem("mnuAbout")->isEnabled());
+    const AboutControls controls;
+    for (const bool byKey : {false, true}) {
+        Do("mnuAbout");
+        EXPECT_FALSE(MenuItem("mnuAbout")->isEnabled());
+        const QPointer about = window->findChild<QDialog*>();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(about));
+        QStringList texts;
+        for (const QLabel* label : about->findChildren<QLabel*>()) texts << label->text();
+        for (const Label* label :
+             {&controls.lblProductNameVersion, &controls.lblCredits, &controls.lblLegalNotices}) {
+            EXPECT_TRUE(texts.contains(QString::fromStdString(label->Caption)));
+        }
+        auto* cmdExit = about->findChild<QAbstractButton*>();
+        EXPECT_EQ(cmdExit->text(), "E&xit");
+        if (byKey) {
+            QTest::keyClick(about, Qt::Key_X, Qt::AltModifier);
+        } else {
+            QTest::mouseClick(cmdExit, Qt::LeftButton);
+        }
+        EXPECT_TRUE(QTest::qWaitFor([&] { return about.isNull(); }, 1000));
+        EXPECT_TRUE(MenuItem("mnuAbout")->isEnabled());
+    }
 }
 
 TEST_F(GameWindow, LetsTheMouseThroughItsNotesOverTheBoard) {
