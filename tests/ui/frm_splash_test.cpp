@@ -51,7 +51,8 @@ protected:
         });
     }
 
-    // "type TEXT", "click BUTTON", "row LIST 0" or "open LIST 0", "answer KEY", or a key.
+    // "type TEXT", "click BUTTON", "row LIST 0" or "open LIST 0", "answer KEY", "breakdisk", which
+    // takes the folder away, and "mend", or a key.
     void Do(const std::string& command) {
         std::istringstream words(command);
         std::string verb, name;
@@ -64,6 +65,8 @@ protected:
         if (verb == "click") return QTest::mouseClick(Find(name), Qt::LeftButton);
         if (verb == "row" || verb == "open") return ClickRow(name, row, verb == "open");
         if (verb == "answer") return AnswerBox(key(name).key());
+        if (verb == "breakdisk") return void(std::filesystem::remove_all(folder.Path()));
+        if (verb == "mend") return void(std::filesystem::create_directory(folder.Path()));
         QTest::keyClick(window.focusWidget(), key(command).key(), key(command).keyboardModifiers());
     }
     void DoAll(const std::string& commands) {
