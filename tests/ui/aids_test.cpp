@@ -63,17 +63,11 @@ TEST_F(GameWindow, IsThePlainBoardWithoutAids) {
     }
 }
 
-TEST_F(GameWindow, TellsTheOddsOfTheEnemyPointedAt) {
+TEST_F(GameWindow, FramesTheOddsTellsThemToScreenReadersAndHidesThem) {
     Open("9,5=0 10,5=0 Q@9,5 WS@9,5 ZA1@10,5 Z@17,2");
-    Do("Alt+A; 9,5");
-    EXPECT_EQ(Find("oddsNote"), nullptr);
-    Do("mnuOdds");
+    Do("Alt+A; 9,5; mnuOdds");
     QTest::mouseMove(window->windowHandle(), PlaceOfSquare(10, 5).center());
-    EXPECT_EQ(Text("oddsNote"),
-              "13 against 4: wins 60\u00A0%, ties 20\u00A0%, loses 20\u00A0%; after a win one in "
-              "five costs a character.");
-    EXPECT_TRUE(Find("oddsNote")->isVisible());
-    EXPECT_NE(Find("oddsNote")->contentsRect(), Find("oddsNote")->rect()) << "its frame";
+    EXPECT_NE(Find("oddsNote")->contentsRect(), Find("oddsNote")->rect());
     EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("oddsNote"))->role(),
               QAccessible::Notification);
     QTest::mouseMove(window->windowHandle(), PlaceOfSquare(17, 2).center());

@@ -209,21 +209,6 @@ TEST_F(GameWindow, LetsTheComputerPlayButNotUnderABox) {
     });
     Do("Ctrl+N");
     EXPECT_EQ(boxes, std::vector<std::string>{"It is Red's turn."});
-
-    // Each of its clicks is marked on the screen, until its action is over.
-    constexpr QRgb highlight = 0xFF00C8;
-    const Marker& marker = window->ShownGame().controls.shpHighlight;
-    std::string marked;
-    for (; timer->isActive(); tick()) {
-        if (!marker.Visible) continue;
-        marked = std::to_string((marker.Left - 115) / 720 + 1) + "," +
-                 std::to_string((marker.Top - 115) / 960 + 1) + " ";
-        EXPECT_EQ(SquaresWith(highlight), marked);
-        ExpectBoardPainted();
-    }
-    EXPECT_NE(marked, "");
-    EXPECT_EQ(window->ShownGame().record.bytTurn, 2);
-    EXPECT_EQ(SquaresWith(highlight), "");
 }
 
 // ---- The menus ----
