@@ -42,6 +42,10 @@ std::string HouseFact(const HouseRules& house) {
            (house.oneTurnForABurning ? "+oneTurnForBurning" : "");
 }
 
+std::string ComputersFact(const GameRecord& record) {
+    return std::string(record.blnComputer[1] ? "1" : "") + (record.blnComputer[2] ? "2" : "");
+}
+
 std::string WindowFact(const Game& game) {
     if (game.blnEnded) return "ended with " + std::to_string(game.exitStatus);
     return game.blnOpen ? "open" : "closed";
@@ -105,6 +109,7 @@ std::vector<Fact> FactsOf(const Game& game) {
              Fact{"@", "name", record.strGameName},
              Fact{"@", "file", FileFact(record.strGamePath)},
              Fact{"@", "house", HouseFact(record.house)},
+             Fact{"@", "computers", ComputersFact(record)},
              Fact{"#", "window", WindowFact(game)},
              Fact{"#", "caption", controls.Caption},
              Fact{"#", "mode", ModesFact(record)},

@@ -70,21 +70,6 @@ TEST_F(LoadGame, SavedGamesComeBack) {
     EXPECT_EQ(ReadFile(played.path), SavedGame(position));
 }
 
-TEST_F(LoadGame, PlayersWithoutFlags) {
-    const auto players = [&](const std::string& line2, const std::string& line3) {
-        Open("HM\r\n" + line2 + "\r\n" + line3 + "\r\n 1 \r\n");
-        return record.strPlayerName[1] + (record.blnComputer[1] ? "|True|" : "|False|") +
-               record.strPlayerName[2] + (record.blnComputer[2] ? "|True" : "|False");
-    };
-    EXPECT_EQ(players("Red ", "Blue"), "Red |False|Blue|False");
-    EXPECT_EQ(players("Red", Padded("Blue") + "True"),
-              "Red|False|" + Padded("Blue") + "True|False");
-    EXPECT_EQ(players(Padded("Red") + "True", "Blue "), "Red|True|Blue|False");
-    EXPECT_EQ(players(Padded("Red") + "true", Padded("") + "True"), "Red|False||True");
-    EXPECT_EQ(players(Padded("Red") + "True ", Padded("") + "False"), "Red|False||False");
-    EXPECT_EQ(players(std::string(54, 'R'), ""), std::string(54, 'R') + "|False||False");
-}
-
 TEST_F(LoadGame, ItemsEndAtCommas) {
     const std::string text = SavedGame("J@1,1 WA@15,4 15,4=4");
     Open(Replaced(WithLine(text, 1, " HM , and more"), " \r\n ", " ,\t"));

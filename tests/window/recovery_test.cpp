@@ -164,9 +164,7 @@ TEST_F(Recovery, IsForgottenAtTheEndAndNoBoxWhenItCannotBeKept) {
 TEST_F(Recovery, IsMarkedInTheStartWindowUntilTheGameIsDeleted) {
     PlayATurn();
     WriteFile(played.folder / "other.tgf", saved);
-    struct : Wastebasket {
-        void MoveThere(const std::string& path) override { fs::remove(path); }
-    } wastebasket;
+    FakeWastebasket wastebasket;
     StartWindow window{.ports = played.game.ports, .wastebasket = wastebasket};
     FileList& list = window.controls.fileLoad;
     list.Path = played.folder.Path();
