@@ -27,8 +27,8 @@ public:
     void DoAll(const std::string& commands) {
         for (const std::string& command : Parts(commands)) {
             EXPECT_TRUE(Do(command)) << command;
-            const bool event = !command.starts_with("roll") && !command.starts_with("answer");
-            if (event) journal.Follow(game, history);
+            if (command.starts_with("roll") || command.starts_with("answer")) continue;
+            command == "reopen" ? journal.Open(game) : journal.Follow(game, history);
         }
     }
 
