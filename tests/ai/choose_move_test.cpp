@@ -81,12 +81,12 @@ TEST(SquareSummary, RoundsItsScoreToTheEvenHalf) {
 }
 
 TEST(SquareSummary, CountsTransportPiecesWhereTheyTravel) {
-    const PlayedGame played("Z@12,10 ZA1@12,10 BT@12,10 BT@11,10 Q@10,10");
-    const RankedSquares Targets = RankTargets(PositionOf(played.game.record), 1);
+    const Position position = PositionIn("Z@12,10 ZA1@12,10 BT@12,10 BT@11,10 Q@10,10");
+    const RankedSquares Targets = RankTargets(position, 1);
     ASSERT_EQ(Targets.count, 1u);
     EXPECT_EQ(Targets.squares[1].bytTransportCount, 1);
     EXPECT_EQ(Targets.squares[1].bytTotalDefense, 7);
-    EXPECT_EQ(RankStacks(PositionOf(played.game.record), 1).count, 3u);
+    EXPECT_EQ(RankStacks(position, 1).count, 3u);
 }
 
 }  // namespace

@@ -7,8 +7,6 @@
 namespace qarn {
 namespace {
 
-Position PositionIn(const std::string& words) { return PositionOf(PlayedGame(words).game.record); }
-
 TEST(LockedPosition, IsOneThatHasStoodStillForThirtyTurns) {
     const Position still = PositionIn("WS@9,10 Z@1,1");
     const Position shuffled = PositionIn("turn2 WS@9,10 Z@1,1");

@@ -46,8 +46,7 @@ std::optional<Plan> AttackLater(const Position& position, std::uint64_t, Thinkin
 // The luck is that of the seed and the turn, whatever was done before: a 1 of the die wins, a 2
 // ties, and more loses the only one.
 TEST(MatchGame, HasTheLuckOfItsSeedWhoeverPlays) {
-    const PlayedGame played("Q@9,10 Z@10,10");
-    Position position = PositionOf(played.game.record);
+    Position position = PositionIn("Q@9,10 Z@10,10");
     for (const std::uint8_t i : PeopleOn(position, {9, 10}) | PeopleOn(position, {10, 10})) {
         position.People[i].Attack = 6;
         position.People[i].Defense = 2;
@@ -83,8 +82,7 @@ TEST(MatchGame, IsJudgedByTheStrengthsLeftWhenItIsCutOff) {
     game = {};
     EXPECT_EQ(game.JudgedScore(1), 0.5);
 
-    const PlayedGame played("Q@9,10 BT@9,10 Z@1,1");
-    const Position position = PositionOf(played.game.record);
+    const Position position = PositionIn("Q@9,10 BT@9,10 Z@1,1");
     const MatchGame passed = PlayMatchGame(position, {nullptr, FindNothing, FindNothing}, 1, 3);
     const Group& Q = position.People[PeopleOn(position, {9, 10}).First()];
     EXPECT_EQ(passed.players[1].strengthLeft, Q.Attack + Q.Defense);
@@ -92,8 +90,7 @@ TEST(MatchGame, IsJudgedByTheStrengthsLeftWhenItIsCutOff) {
 
 // It would win at once with its whole side.
 TEST(MatchGame, PassesForWhoBreaksTheRules) {
-    const PlayedGame played("Q@1,1 V@9,10 Z@11,10");
-    Position position = PositionOf(played.game.record);
+    Position position = PositionIn("Q@1,1 V@9,10 Z@11,10");
     position.People[PeopleOn(position, {1, 1}).First()].Attack = 50;
     const MatchGame game = PlayMatchGame(position, {nullptr, Cheat, FindNothing}, 1, 4);
     EXPECT_EQ(game.winner, 0);

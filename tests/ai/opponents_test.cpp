@@ -25,8 +25,7 @@ namespace qarn {
 namespace {
 
 std::vector<Plan> TurnsIn(const std::string& position) {
-    const PlayedGame played(position);
-    const Position start = PositionOf(played.game.record);
+    const Position start = PositionIn(position);
     std::vector<Turn> turns;
     ListTurns(start, turns);
     std::vector<Plan> plans;
@@ -40,10 +39,9 @@ std::string PlaceText(Square square) {
 
 // The turns of one kind that do not only walk over open ground, in words.
 std::string Fights(const std::string& position) {
-    const PlayedGame played(position);
     std::string text;
     for (const Plan& plan : TurnsIn(position)) {
-        Position after = PositionOf(played.game.record);
+        Position after = PositionIn(position);
         const TurnOutcome outcome = PlayTurn(after, plan, {});
         if (!outcome.attack) continue;
         text += (text.empty() ? "" : "; ") + PlaceText(outcome.attack->from) +
@@ -132,9 +130,8 @@ TEST(Node, ComesToWhatTheRulesMakeOfTheTurnAndKeepsItsArmies) {
 
 std::optional<Plan> ChoiceOf(std::string_view opponent, const std::string& position,
                              std::uint64_t seed) {
-    const PlayedGame played(position);
     Thinking thinking;
-    return FindOpponent(opponent)->choose(PositionOf(played.game.record), seed, thinking);
+    return FindOpponent(opponent)->choose(PositionIn(position), seed, thinking);
 }
 
 // A processor that rounds a product and a sum together would come to other last bits. The number
@@ -184,11 +181,10 @@ TEST(Levels, WarlordDecidesWhenItIsTold) {
 // Treetop Squirrels and Slaves, 16 attack units, beat the Corsair, 3 defense units, for certain,
 // and with him the last of his side.
 TEST(Levels, TakeAWinThatIsThere) {
+    const std::string position = "WS@12,10 TS@12,10 Q@9,10 Z@15,10";
     for (const char* name : {"captain", "warlord"}) {
-        const std::optional<Plan> plan = ChoiceOf(name, "WS@12,10 TS@12,10 Q@9,10 Z@15,10", 1);
-        const PlayedGame played("WS@12,10 TS@12,10 Q@9,10 Z@15,10");
-        Position after = PositionOf(played.game.record);
-        EXPECT_EQ(PlayTurn(after, *plan, {}).winner, 1) << name;
+        Position after = PositionIn(position);
+        EXPECT_EQ(PlayTurn(after, *ChoiceOf(name, position, 1), {}).winner, 1) << name;
     }
 }
 

@@ -253,8 +253,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, PlayTurnByHouseRules,
                          testing::Values(HouseRules{}, HouseRules{true, true}));
 
 TEST(AllowedPart, LeavesOutWhatTheRulesRefuse) {
-    const PlayedGame played("Q@9,10 BT@9,10 Z@11,10");
-    const Position position = PositionOf(played.game.record);
+    const Position position = PositionIn("Q@9,10 BT@9,10 Z@11,10");
     const PeopleSet Q{PeopleOn(position, {9, 10}).First()};
     const auto march = [&](PeopleSet people, const Path& path) {
         const Plan plan{.kind = PlanKind::March, .start = {9, 10}, .people = people, .path = path};

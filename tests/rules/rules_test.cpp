@@ -81,8 +81,8 @@ TEST(Movement, CostsOfSteps) {
 
 // A step back to where the group still stands in the position: it does not meet itself there.
 TEST(Movement, AGroupIsWhereTheQuestionPutsIt) {
-    const Position alone = PositionOf(PlayedGame("Q@9,10 Z@1,1").game.record);
-    const Position both = PositionOf(PlayedGame("Q@9,10 HF@9,10 Z@1,1").game.record);
+    const Position alone = PositionIn("Q@9,10 Z@1,1");
+    const Position both = PositionIn("Q@9,10 HF@9,10 Z@1,1");
     EXPECT_EQ(AskStep(alone, {{1}, {10, 10}, 2}, {9, 10}).result, StepResult::PlainStep);
     EXPECT_EQ(AskStep(both, {{1}, {10, 10}, 2}, {9, 10}).result, StepResult::JoinedOwn);
     EXPECT_EQ(AskStep(both, {{1, 17}, {10, 10}, 2}, {9, 10}).result, StepResult::PlainStep);
@@ -151,8 +151,8 @@ TEST(Combat, TerrainModifiers) {
 }
 
 TEST(Casualties, TheComputersChoice) {
-    const PlayedGame played("Q@1,1 TS@1,1 J@1,1 SK@1,1 BT@2,2 V@2,2 CT@3,3 Z@9,9 Z.Attack=97");
-    const Position position = PositionOf(played.game.record);
+    const Position position =
+        PositionIn("Q@1,1 TS@1,1 J@1,1 SK@1,1 BT@2,2 V@2,2 CT@3,3 Z@9,9 Z.Attack=97");
     EXPECT_EQ(ChooseDeadAnimal(position, {1, 1}), 3);  // J and SK are equal: the first is kept
     EXPECT_EQ(ChooseDeadAnimal(position, {2, 2}), 1);
     EXPECT_EQ(ChooseDeadAnimal(position, {3, 3}), 1);  // nobody

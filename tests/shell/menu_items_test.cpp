@@ -41,21 +41,6 @@ TEST(DefaultPathTest, IsTheSettingOrAFolderThatCanBeWrittenTo) {
     EXPECT_EQ(DefaultPath(ports), data);
 }
 
-TEST(DefaultPathTest, IsAskedForInAPrompt) {
-    PlayedGame world("Q@13,4");
-    world.settings.values[filepathSetting] = "/old";
-    world.Do("menu mnuDefaultFilepath");  // cancelled
-    EXPECT_EQ(world.settings.values[filepathSetting], "/old");
-    world.dialogs.typedText = "/new place";
-    world.Do("menu mnuDefaultFilepath");
-    EXPECT_EQ(world.dialogs.prompts.back(),
-              (Texts{"Default Filepath", "Enter the default filepath for QARN to use.", "/old"}));
-    EXPECT_EQ(world.settings.values[filepathSetting], "/new place");
-    world.settings.writeError = "disk full.";
-    world.Do("menu mnuDefaultFilepath");
-    EXPECT_EQ(world.dialogs.boxes.back().Text, "The setting can not be stored: disk full.");
-}
-
 // The opponents that are kept for a game.
 std::string Kept(const Ports& ports, const std::string& path) {
     const Opponents kept = KeptOpponents(ports, path);

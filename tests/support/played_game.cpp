@@ -84,11 +84,14 @@ std::string PlayedGame::Play(const std::string& script) {
         std::string status = game.controls.lblStatus.Caption;
         const auto noteStatus = [&](const std::string& now) {
             if (now == std::exchange(status, now)) return;
-            text += "= " + Replaced(now, "\n", "\n  ") + "\n";
+            text += now.empty() ? "=\n" : "= " + Replaced(now, "\n", "\n  ") + "\n";
         };
         std::size_t box = dialogs.boxes.size();
         for (const std::string& command : Parts(commands)) {
             if (!Do(command)) text += "refused\n";
+        }
+        for (const auto& prompt : std::exchange(dialogs.prompts, {})) {
+            text += "? " + prompt[0] + ": " + prompt[1] + " (" + prompt[2] + ")\n";
         }
         for (; box < dialogs.boxes.size(); ++box) {
             noteStatus(statuses.at(box));
@@ -141,6 +144,9 @@ bool PlayedGame::Do(const std::string& command) {
         while (words >> name) dialogs.queued.push_back(answersByName.at(name));
     } else if (verb == "roll") {
         while (words >> X) random.QueueRoll(X);
+    } else if (verb == "type") {
+        std::getline(words >> std::ws, text);
+        dialogs.typedText = text;
     } else if (verb == "write") {
         words >> name;
         std::getline(words >> std::ws, text);

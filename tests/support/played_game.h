@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "core/position.h"
 #include "play/turn_history.h"
 #include "support/facts.h"
 #include "support/fake_ports.h"
@@ -32,11 +33,11 @@ public:
     /// could not be opened.
     std::string Play(const std::string& script);
 
-    /// One command: press, tick, untick, menu, saveas, click or close; answer or roll, for boxes
-    /// and dice to come; timer, for so many ticks of the computer's timer, unless it stops before;
-    /// still, as if nothing had come about for so many turns; reopen; write or erase, as another
-    /// program does with a file; line, for another text of a line of the game's file; rename side
-    /// 2's player, or breakdisk, after which nothing can be written.
+    /// One command: press, tick, untick, menu, saveas, click or close; answer, roll or type, for
+    /// boxes, dice and prompts to come; timer, for so many ticks of the computer's timer, unless it
+    /// stops before; still, as if nothing had come about for so many turns; reopen; write or erase,
+    /// as another program does with a file; line, for another text of a line of the game's file;
+    /// rename side 2's player, or breakdisk, after which nothing can be written.
     /// Gives false for what a person could not do.
     bool Do(const std::string& command);
     /// Some of them, separated by "; ", that a person can do.
@@ -56,5 +57,10 @@ public:
         .record = {}, .controls = {}, .ports = {dialogs, random, help, settings, fileTypes, {}}};
     TurnHistory history;
 };
+
+/// Where everybody stands in Load(position).
+inline Position PositionIn(const std::string& position) {
+    return PositionOf(PlayedGame(position).game.record);
+}
 
 }  // namespace qarn

@@ -25,22 +25,9 @@ protected:
     const Controls& controls = played.game.controls;
 };
 
-TEST_F(LoadGame, NewGame) {
-    played.random.queued = {0.5};
-    Open("CF\r\n" + Padded("Red") + "False\r\n" + Padded("Blue") + "True\r\n 0 \r\n");
-    EXPECT_EQ(controls.Caption, "Cinderfell Tactical Game - game.tgf (Red vs. Blue)");
-    EXPECT_EQ(controls.lblStatus.Caption, "It is Blue's turn.");
-    EXPECT_EQ(record.bytTurn, 2);
-    EXPECT_TRUE(controls.tmrAI.Enabled && record.blnComputer[2] && !record.blnComputer[1]);
-    EXPECT_FALSE(controls.mnuConvertFile.Visible);
+TEST_F(LoadGame, SeedsTheRandomNumbers) {
+    Open(SavedGame("CF"));
     EXPECT_EQ(played.random.seeded, 1);
-    EXPECT_NE(record.People[1].LocationX, 0);
-    played.ExpectBoardShown();
-    EXPECT_TRUE(played.dialogs.boxes.empty());
-    played.random.queued = {0.49};
-    played.Open();
-    EXPECT_EQ(record.bytTurn, 1);
-    EXPECT_FALSE(controls.tmrAI.Enabled);
 }
 
 // What is saved is what was loaded, to the byte. The text is the test's own.
@@ -131,28 +118,6 @@ TEST_F(LoadGame, RetryAfterTheFileWasMended) {
     EXPECT_EQ(record.strPlayerName[1], "Red");
     EXPECT_EQ(controls.Caption, "Hollowmere Tactical Game - game.tgf (Red vs. Blue)");
     played.ExpectBoardShown();
-}
-
-TEST_F(LoadGame, UnknownScenariosAreShownAndNeverWritten) {
-    for (const auto& [line, boxes] : {std::pair{"hm", 1u}, {"XYZ", 1u}, {"0", 2u}}) {
-        const std::string text = WithLine(SavedGame("Q@1,1 WA@15,4 15,4=4"), 1, line);
-        Open(text);
-        ASSERT_EQ(played.dialogs.boxes.size(), boxes) << line;
-        EXPECT_EQ(played.dialogs.boxes.back().Text,
-                  "The scenario of this file is unknown. The board stays empty, and the file will "
-                  "not be changed.\n" +
-                      played.path);
-        EXPECT_EQ(controls.Caption,
-                  "Thornmere Series Tactical Game Tactical Game - game.tgf (Red vs. Blue)");
-        EXPECT_EQ(record.bytTerrain[1][1], Plain);
-        played.dialogs.saveFileName = played.folder / "other.tgf";
-        for (const char* item : {"mnuSave", "mnuSaveAs", "mnuConvertFile", "mnuExit"}) {
-            played.Do(std::string("menu ") + item);
-        }
-        EXPECT_TRUE(played.game.blnEnded);
-        EXPECT_EQ(ReadFile(played.path), text);
-        EXPECT_FALSE(std::filesystem::exists(played.dialogs.saveFileName));
-    }
 }
 
 }  // namespace

@@ -49,8 +49,7 @@ TEST_F(Recovery, GoesOnFromTheLastTurnOrNot) {
 
     Open({Answer::No});
     EXPECT_EQ(Column(), 9);
-    ASSERT_FALSE(played.dialogs.boxes.empty());
-    const std::string asked = played.dialogs.boxes.front().Text;
+    const std::string asked = played.dialogs.boxes.at(0).Text;
     EXPECT_TRUE(Has(asked, "\nLast turn: ") && Has(asked, "\nLast save: ")) << asked;
     Open({Answer::Yes});
     EXPECT_EQ(Column(), 10) << "No has kept it";
@@ -77,8 +76,7 @@ TEST_F(Recovery, OffersNothingThatIsNoGainOrNoGame) {
     const std::string kept = fs::directory_iterator(state / "qarn/recovery")->path().string();
     WriteFile(kept, "HM\r\nno game");
     Open({Answer::Yes});
-    ASSERT_FALSE(played.dialogs.boxes.empty());
-    EXPECT_TRUE(Has(played.dialogs.boxes.back().Text, "can not be recovered"));
+    EXPECT_TRUE(Has(played.dialogs.boxes.at(1).Text, "can not be recovered"));
     EXPECT_EQ(Column(), 10);
     EXPECT_TRUE(played.game.blnOpen);
 
@@ -93,9 +91,8 @@ TEST_F(Recovery, LosesNoGameThatWasSavedSince) {
     const auto later = fs::last_write_time(played.path) + std::chrono::seconds(1);
     fs::last_write_time(played.path, later);
     Open({Answer::No});
-    ASSERT_FALSE(played.dialogs.boxes.empty());
-    EXPECT_TRUE(played.dialogs.boxes.front().DeclinedByDefault);
-    EXPECT_TRUE(Has(played.dialogs.boxes.front().Text, "It has been saved since."));
+    EXPECT_TRUE(played.dialogs.boxes.at(0).DeclinedByDefault);
+    EXPECT_TRUE(Has(played.dialogs.boxes.at(0).Text, "It has been saved since."));
 
     PlayATurn();
     WriteFile(played.path, Replaced(saved, "Blue", "Cat "));
