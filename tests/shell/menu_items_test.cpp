@@ -99,12 +99,7 @@ TEST(FileTypeTest, IsRegisteredOnce) {
                   {"tgf_ext", "Tactical Game File"},
                   {"tgf_ext\\DefaultIcon", ""},
                   {"tgf_ext\\shell\\open\\command", "\"/opt/my games/qarn\""}}));
-
-    world.fileTypes.values = {{".tgf", "another program's"}};
-    world.Load("Q@13,4");
-    EXPECT_TRUE(world.game.controls.mnuTGF.Checked);
     world.Do("menu mnuTGF");
-    EXPECT_EQ(world.help.topics, Texts{"Troubleshooting.htm#Remove"});
     EXPECT_EQ(world.fileTypes.keys.size(), 6u);
 }
 

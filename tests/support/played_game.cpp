@@ -93,6 +93,9 @@ std::string PlayedGame::Play(const std::string& script) {
         for (const auto& prompt : std::exchange(dialogs.prompts, {})) {
             text += "? " + prompt[0] + ": " + prompt[1] + " (" + prompt[2] + ")\n";
         }
+        for (const std::string& topic : std::exchange(help.topics, {})) {
+            text += "help (" + topic + ")\n";
+        }
         for (; box < dialogs.boxes.size(); ++box) {
             noteStatus(statuses.at(box));
             text += Shown(dialogs.boxes[box], dialogs.answers[box]);

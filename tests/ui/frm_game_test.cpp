@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -25,8 +26,29 @@ std::string ItemsOf(const QMenu* menu) {
     return items.join(", ").toStdString();
 }
 
+// What screen readers have been told: names and what has come up, and the squares of the board,
+// counted from 0, that have changed or got the focus.
+std::vector<std::string> updates;
+
+void Note(QAccessibleEvent* event) {
+    static const std::map<QAccessible::Event, std::string> kinds{
+        {QAccessible::NameChanged, "name of "},
+        {QAccessible::DescriptionChanged, "description of "},
+        {QAccessible::ObjectShow, "shown "},
+        {QAccessible::Focus, "focus on "}};
+    const auto kind = kinds.find(event->type());
+    if (kind == kinds.end() || event->object() == nullptr) return;
+    if (event->child() >= 0) {
+        updates.push_back(kind->second + "square " + std::to_string(event->child()));
+    } else if (event->type() != QAccessible::Focus) {
+        updates.push_back(kind->second + event->object()->objectName().toStdString());
+    }
+}
+
 class PlayedWindow : public GameWindow, public testing::WithParamInterface<Sequence> {
 protected:
+    ~PlayedWindow() override { QAccessible::installUpdateHandler(previous_); }
+
     // What is on the board, and what the window shows.
     WindowFacts Seen() {
         WindowFacts seen = FactsOfWindow(*window);
@@ -65,8 +87,8 @@ protected:
 
     // GameWindow's, and "mouse BUTTON", "focus CONTROL", "answer KEY...", "roll 5", "tick" of the
     // computer's timer, "look FFFFFF", "pixel 4 30 SQUARE..." from their corners, "point SQUARE" or
-    // "point off", "hold KEY", "release KEY", "menus", "resize 800 600", "close", or "breakdisk",
-    // after which nothing can be written.
+    // "point off", "hold KEY", "release KEY", "hear" what screen readers have been told, "menus",
+    // "resize 800 600", "close", or "breakdisk", after which nothing can be written.
     void Do(const std::string& command) {
         const QStringList words = QString::fromStdString(command).split(' ');
         const std::string name = words.back().toStdString();
@@ -95,6 +117,10 @@ protected:
             QTest::keyPress(window.get(), QKeySequence(words[1])[0].key());
         } else if (words[0] == "release") {
             QTest::keyRelease(window.get(), QKeySequence(words[1])[0].key());
+        } else if (words[0] == "hear") {
+            looks += "* told:";
+            for (const std::string& update : updates) looks += " " + update + ",";
+            looks.back() = '\n';
         } else if (words[0] == "menus") {
             for (const QAction* menu : window->menuBar()->actions()) {
                 looks += "* " + menu->text().toStdString() + ": " + ItemsOf(menu->menu()) + "\n";
@@ -113,7 +139,7 @@ protected:
     std::string Play(const std::string& sequence) {
         const std::string transcript = PlayLines(sequence, [&](const std::string& commands) {
             const WindowFacts before = Seen();
-            for (auto* list : {&titles, &boxes, &statuses}) list->clear();
+            for (auto* list : {&titles, &boxes, &statuses, &updates}) list->clear();
             for (const std::string& command : Parts(commands)) Do(command);
             EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
             ExpectBoardPainted();
@@ -129,6 +155,9 @@ protected:
     }
 
     std::string looks;
+
+private:
+    QAccessible::UpdateHandler previous_ = QAccessible::installUpdateHandler(Note);
 };
 
 TEST_P(PlayedWindow, GoesAsPlayed) {

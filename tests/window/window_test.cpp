@@ -18,14 +18,6 @@ TEST_P(Window, GoesAsPlayed) { ExpectSequence(GetParam()); }
 INSTANTIATE_TEST_SUITE_P(Commands, Window, testing::ValuesIn(ReadSequences("window/commands.txt")),
                          NameOf);
 
-TEST(MenuCommands, HelpTopics) {
-    PlayedGame played("HM");
-    played.DoAll("menu mnuItemDetails; menu mnuSummaryTerrain; menu mnuGetStarted; menu mnuHelp");
-    EXPECT_EQ(played.help.topics, (std::vector<std::string>{"HMdetails.htm", "Terrain Info.htm",
-                                                            "GettingStarted.htm", ""}));
-    EXPECT_FALSE(played.Do("menu mnusave") || played.Do("menu"));
-}
-
 TEST(MenuCommands, WhatIsShownIsKeptForThePerson) {
     PlayedGame played("HM");
     EXPECT_EQ(played.game.view, ViewChoices());
@@ -108,23 +100,26 @@ TEST(MenuCommands, ConvertFile) {
 }
 
 TEST(Boxes, AreToldOfAnOpponent) {
-    const auto told = [](const char* text, Buttons offered = Buttons::OK) {
-        return ToldOfOpponent("Scout", {.Title = {}, .Text = text, .Offered = offered},
-                              Answer::Yes);
+    const std::pair<std::string, std::string> rows[] = {
+        {"You will have to initiate a direct attack to proceed.  Do you want to attack?",
+         "Scout will have to initiate a direct attack to proceed.  Does Scout want to attack? "
+         "Yes."},
+        {"You will lose if you try to attack this group. Continue?",
+         "Scout will lose if it tries to attack this group. Continue? Yes."},
+        {"You have burned down the Abbey.", "Scout has burned down the Abbey."},
+        {"You will win if you roll a 2 or less, tie if you roll a 3, and lose if you roll a 4 and "
+         "up. Select OK to roll",
+         "Scout will win if it rolls a 2 or less, tie if it rolls a 3, and lose if it rolls a 4 "
+         "and "
+         "up."},
+        {"You rolled a three and lost one character.",
+         "Scout rolled a three and lost one character."},
     };
-    EXPECT_EQ(told("You will have to initiate a direct attack to proceed.  Do you want to attack?",
-                   Buttons::YesNo),
-              "Scout will have to initiate a direct attack to proceed.  Does Scout want to attack? "
-              "Yes.");
-    EXPECT_EQ(told("You will lose if you try to attack this group. Continue?", Buttons::YesNo),
-              "Scout will lose if it tries to attack this group. Continue? Yes.");
-    EXPECT_EQ(told("You have burned down the Abbey."), "Scout has burned down the Abbey.");
-    EXPECT_EQ(told("You will win if you roll a 2 or less, tie if you roll a 3, and lose if you "
-                   "roll a 4 and up. Select OK to roll"),
-              "Scout will win if it rolls a 2 or less, tie if it rolls a 3, and lose if it rolls a "
-              "4 and up.");
-    EXPECT_EQ(told("You rolled a three and lost one character."),
-              "Scout rolled a three and lost one character.");
+    for (const auto& [text, told] : rows) {
+        const Buttons offered = text.ends_with('?') ? Buttons::YesNo : Buttons::OK;
+        const MessageBox box{.Title = {}, .Text = text, .Offered = offered};
+        EXPECT_EQ(ToldOfOpponent("Scout", box, Answer::Yes), told);
+    }
 }
 
 }  // namespace
