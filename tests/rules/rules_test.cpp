@@ -1,9 +1,6 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <map>
-
 #include "rules/attack_mode.h"
 #include "rules/casualties.h"
 #include "rules/movement.h"
@@ -11,7 +8,6 @@
 #include "rules/questions/step.h"
 #include "rules/questions/terrain_effect.h"
 #include "rules/terrain.h"
-#include "scenarios/catalogue.h"
 #include "scenarios/setup.h"
 #include "support/sequence.h"
 
@@ -25,27 +21,6 @@ TEST_P(Rules, GoAsPlayed) { ExpectSequence(GetParam()); }
 INSTANTIATE_TEST_SUITE_P(Moves, Rules, testing::ValuesIn(ReadSequences("rules/moves.txt")), NameOf);
 INSTANTIATE_TEST_SUITE_P(Attacks, Rules, testing::ValuesIn(ReadSequences("rules/attacks.txt")),
                          NameOf);
-
-// The head of the file tells the strengths in lines that begin with a scenario's code.
-TEST(Sequences, HaveGroupsOfTheStrengthsThatAreToldOfThem) {
-    std::ifstream file(QARN_TESTS_FOLDER "/rules/moves.txt");
-    for (std::string line; std::getline(file, line) && !line.starts_with("== ");) {
-        const int scenario = ScenarioNumber(line.substr(0, line.find(": ")));
-        if (scenario == 0) continue;
-        std::map<std::string, std::string> strengths;
-        for (const RosterEntry& group : DataOfScenario(scenario).Roster) {
-            std::string& told = strengths[std::string(group.Code.Text())];
-            if (!told.empty()) continue;  // a boat
-            for (const int units : {group.Mobility, group.Attack, group.Defense}) {
-                told += " " + std::to_string(units);
-            }
-        }
-        for (const std::string& group : Parts(Replaced(line.substr(line.find(' ')), ",", ";"))) {
-            const std::string code = group.substr(0, group.find(' '));
-            EXPECT_EQ(group, code + strengths[code]);
-        }
-    }
-}
 
 TEST(Sequences, RefuseWhatTheyDoNotKnow) {
     for (const char* position : {"Q@13,4x", "Q@13", "QQ@1,1", "CT@1,1 CT@2,2", "turnip", "turn2x",
