@@ -14,12 +14,10 @@ TEST(PassTurn, DoesAsMovingNowhereDoes) {
           {"turn2 Q@9,10 WA@15,4 Z@15,4", "15 4"}}) {
         PlayedGame asked(position), moved(position);
         for (PlayedGame* played : {&asked, &moved}) played->game.controls.tmrAI.Enabled = false;
-        asked.dialogs.queued = {Answer::No};
-        EXPECT_TRUE(asked.Do("menu mnuPassTurn"));
+        asked.DoAll("answer no; menu mnuPassTurn");
         EXPECT_TRUE(asked.game.happenings.empty() &&
                     asked.game.controls.cmdMove.Caption == "&Move");
-        asked.dialogs.queued = {Answer::Yes};
-        EXPECT_TRUE(asked.Do("menu mnuPassTurn"));
+        asked.DoAll("answer yes; menu mnuPassTurn");
         moved.DoAll(std::string("press cmdMove; click ") + square +
                     "; press cmdDoneSel; press cmdMove");
         moved.game.record.strGamePath = asked.game.record.strGamePath;

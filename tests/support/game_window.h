@@ -21,6 +21,9 @@ namespace qarn {
 /// A window on a game in which Red, side 1, is to move.
 class GameWindow : public testing::Test {
 protected:
+    // For somebody to whom no offer is made any more.
+    GameWindow() { settings.values["QARN/Offer/" + GetUserKey(settings.loginName)] = "Made"; }
+
     void Open(const std::string& position) { OpenFile(SavedGame(position)); }
     void OpenFile(const std::string& contents) {
         WriteFile(path, contents);
@@ -85,10 +88,6 @@ protected:
             }
         }
     }
-    std::string StatusAfter(const std::string& script) {
-        Do(script);
-        return Text("lblStatus");
-    }
 
     // What has changed on the board is on the screen: painting all of it again changes nothing.
     void ExpectBoardPainted() {
@@ -123,13 +122,6 @@ protected:
         return squares;
     }
 
-    // Settings of somebody to whom no offer is made any more.
-    static FakeSettings AfterTheFirstGame() {
-        FakeSettings settings;
-        settings.values["QARN/Offer/" + GetUserKey(settings.loginName)] = "Made";
-        return settings;
-    }
-
     // Answers the boxes and dialogs that come up next, each with a key.
     void AnswerBoxes(std::deque<Qt::Key> keys) {
         if (keys.empty()) return;
@@ -152,7 +144,7 @@ protected:
     TempFolder folder;
     std::string path = folder / "game.tgf";
     FakeRandomNumbers random;
-    FakeSettings settings = AfterTheFirstGame();
+    FakeSettings settings;
     FakeFileTypes fileTypes;
     DesktopPorts desktop{settings, fileTypes, {folder / "program", folder / "data"}};
     std::unique_ptr<FrmGame> window = std::make_unique<FrmGame>(random, desktop);

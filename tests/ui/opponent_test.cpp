@@ -118,7 +118,8 @@ TEST_F(OpponentWindow, IsWaitedForByBoardAndButtons) {
     EXPECT_TRUE(std::filesystem::exists(path));
     EXPECT_TRUE(TickUntil([&] { return ShownGame().record.bytTurn == 2; }));
     EXPECT_EQ(Text("lblDetailMore"), "Current Items: Corsair");
-    EXPECT_EQ(StatusAfter("Alt+I"), "It is Blue's turn.");
+    Do("Alt+I");
+    EXPECT_EQ(Text("lblStatus"), "It is Blue's turn.");
     EXPECT_TRUE(Button("cmdMove")->isEnabled() && Button("cmdAttack")->isEnabled());
 }
 
