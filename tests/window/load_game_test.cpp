@@ -80,6 +80,7 @@ TEST_F(LoadGame, SurvivesBeingCutAtEveryByte) {
             continue;
         }
         ASSERT_EQ(played.dialogs.boxes.size(), 1u) << length;
+        EXPECT_TRUE(played.game.blnEnded && played.game.exitStatus == 1) << length;
         const int readInLastLine = cut.find_last_not_of(" \r") + 1 > cut.rfind('\n') + 1;
         const auto line = 1 + std::count(cut.begin(), cut.end(), '\n') + readInLastLine;
         EXPECT_EQ(played.dialogs.boxes[0].Offered, Buttons::RetryCancel);

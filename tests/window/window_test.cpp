@@ -110,8 +110,7 @@ TEST(Boxes, AreToldOfAnOpponent) {
         {"You will win if you roll a 2 or less, tie if you roll a 3, and lose if you roll a 4 and "
          "up. Select OK to roll",
          "Scout will win if it rolls a 2 or less, tie if it rolls a 3, and lose if it rolls a 4 "
-         "and "
-         "up."},
+         "and up."},
         {"You rolled a three and lost one character.",
          "Scout rolled a three and lost one character."},
     };
